@@ -1,0 +1,44 @@
+# Flags of everything in the tree, and of the libraries in particular.
+
+add_library(hux_build_flags INTERFACE)
+target_compile_options(hux_build_flags INTERFACE -Wall -Wextra -Wundef $<$<BOOL:${HUX_WERROR}>:-Werror>)
+if(HUX_SANITIZE)
+  target_compile_options(hux_build_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                                   -fno-omit-frame-pointer)
+  target_link_options(hux_build_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+# Results must not depend on optimisation: no contraction to fused operations and no member of -ffast-math that changes a
+# value. errno and floating-point traps are not part of any result, so loops need not preserve them.
+set(HUX_LIBRARY_FLAGS -ffp-contract=off -fno-math-errno -fno-trapping-math)
+
+# The objects of both libraries at one architecture level. Sets <name>_core and <name>_images.
+function(hux_add_objects name arch)
+  foreach(part core images)
+    string(TOUPPER ${part} list)
+    add_library(${name}_${part} OBJECT ${HUX_${list}_SOURCES})
+    target_include_directories(${name}_${part} PRIVATE ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/src)
+    target_compile_options(${name}_${part} PRIVATE ${HUX_LIBRARY_FLAGS} -march=${arch})
+    target_link_libraries(${name}_${part} PRIVATE hux_build_flags OpenMP::OpenMP_CXX)
+    set_target_properties(${name}_${part} PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden
+                                                     VISIBILITY_INLINES_HIDDEN ON)
+  endforeach()
+endfunction()
+
+# The two shared libraries of one architecture level, as targets <name>huxcore and <name>huxi.
+function(hux_add_libraries name objects)
+  add_library(${name}huxcore SHARED $<TARGET_OBJECTS:${objects}_core>)
+  target_link_libraries(${name}huxcore PRIVATE hux_build_flags OpenMP::OpenMP_CXX)
+  add_library(${name}huxi SHARED $<TARGET_OBJECTS:${objects}_images>)
+  target_link_libraries(${name}huxi PRIVATE hux_build_flags OpenMP::OpenMP_CXX PUBLIC ${name}huxcore)
+  foreach(library huxcore huxi)
+    set_target_properties(${name}${library} PROPERTIES OUTPUT_NAME ${library} VERSION ${PROJECT_VERSION}
+                                                       SOVERSION ${PROJECT_VERSION_MAJOR} EXPORT_NAME ${library})
+    target_include_directories(${name}${library} INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
+                                                           $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    # A template's inline helpers may come out as weak symbols of the standard library; only our names leave the library.
+    target_link_options(${name}${library} PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map
+                                                  LINKER:--no-undefined)
+    set_target_properties(${name}${library} PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+  endforeach()
+endfunction()

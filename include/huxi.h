@@ -1,0 +1,22 @@
+/* hux image functions, all subsystems. Plain C99.
+ *
+ * Names: huxi<Operation>[_<Variant>]_<types>_<layout>. Layouts: C1, C3, C4 interleaved channels; AC4 four channels of
+ * which the fourth, alpha, is neither read nor written in a destination; P3, P4 planes. Letters behind the layout: M
+ * masked, I in place, C one channel of several, R region of interest, Sfs result scaled by 2^-scaleFactor.
+ *
+ * An image is a pointer to the first element of its region and a step, the distance in bytes from one row to the next.
+ * Nothing need be aligned. A region's size counts pixels. Pixels outside the region are never written. */
+#ifndef HUXI_H
+#define HUXI_H
+
+#include "huxdefs.h"
+#include "huxi_pixel.h"
+
+HUX_BEGIN_C
+
+/* The version record: constant, owned by the library. */
+HUX_API const HuxLibraryVersion* huxiGetLibVersion(void);
+
+HUX_END_C
+
+#endif

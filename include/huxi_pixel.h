@@ -1,0 +1,448 @@
+/* Image memory, and moving pixels without computing on them. Plain C99. */
+#ifndef HUXI_PIXEL_H
+#define HUXI_PIXEL_H
+
+#include "huxdefs.h"
+
+HUX_BEGIN_C
+
+/* Malloc: allocates an image of widthPixels by heightPixels whose rows all start at a multiple of 32 bytes; the row
+ * step in bytes goes to *pStepBytes. Free with huxiFree.
+ * Null result: pStepBytes null (nothing is written); width or height below 1 (*pStepBytes becomes 0); no memory, or
+ * an image of 2^31 bytes or more (*pStepBytes is set all the same). */
+HUX_API Hux8u* huxiMalloc_8u_C1(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux8u* huxiMalloc_8u_C2(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux8u* huxiMalloc_8u_C3(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux8u* huxiMalloc_8u_C4(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux8u* huxiMalloc_8u_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux16u* huxiMalloc_16u_C1(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux16u* huxiMalloc_16u_C2(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux16u* huxiMalloc_16u_C3(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux16u* huxiMalloc_16u_C4(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux16u* huxiMalloc_16u_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux16s* huxiMalloc_16s_C1(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux16s* huxiMalloc_16s_C2(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux16s* huxiMalloc_16s_C3(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux16s* huxiMalloc_16s_C4(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux16s* huxiMalloc_16s_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32s* huxiMalloc_32s_C1(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32s* huxiMalloc_32s_C2(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32s* huxiMalloc_32s_C3(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32s* huxiMalloc_32s_C4(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32s* huxiMalloc_32s_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32f* huxiMalloc_32f_C1(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32f* huxiMalloc_32f_C2(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32f* huxiMalloc_32f_C3(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32f* huxiMalloc_32f_C4(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32f* huxiMalloc_32f_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32sc* huxiMalloc_32sc_C1(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32sc* huxiMalloc_32sc_C2(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32sc* huxiMalloc_32sc_C3(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32sc* huxiMalloc_32sc_C4(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32sc* huxiMalloc_32sc_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32fc* huxiMalloc_32fc_C1(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32fc* huxiMalloc_32fc_C2(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32fc* huxiMalloc_32fc_C3(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32fc* huxiMalloc_32fc_C4(int widthPixels, int heightPixels, int* pStepBytes);
+HUX_API Hux32fc* huxiMalloc_32fc_AC4(int widthPixels, int heightPixels, int* pStepBytes);
+
+/* Frees an image from huxiMalloc, or a vector from huxsMalloc; a null pointer is ignored. */
+HUX_API void huxiFree(void* pImage);
+
+/* Copy: moves the pixels of the region, rows top to bottom, elements first to last, with no other care for overlap.
+ * Unsigned 16-bit images use the 16s members.
+ * C1R, C3R, C4R: all elements. AC4R: the first three of each pixel; alpha of the destination stays. AC4C3R, C3AC4R:
+ * three elements between a four- and a three-channel image.
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize). Steps are not checked: zero and negative steps are
+ * legal. */
+HUX_API HuxStatus huxiCopy_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_C1R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_C3R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_C4R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_AC4R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_8u_AC4C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_AC4C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_AC4C3R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_AC4C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_8u_C3AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_C3AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_C3AC4R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_C3AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+
+/* Copy, one channel: pSrc and pDst address the channel in question of the first pixel. C3CR, C4CR: channel to
+ * channel; C3C1R, C4C1R: channel to one-channel image; C1C3R, C1C4R: one-channel image to channel. Other channels of
+ * the destination are not written. Checks as above. */
+HUX_API HuxStatus huxiCopy_8u_C3CR(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_C3CR(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_C3CR(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_C3CR(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_8u_C4CR(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_C4CR(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_C4CR(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_C4CR(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_8u_C3C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_C3C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_C3C1R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_C3C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_8u_C4C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_C4C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_C4C1R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_C4C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_8u_C1C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_C1C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_C1C3R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_C1C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_8u_C1C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_C1C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_C1C4R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_C1C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+
+/* Copy, interleaved to planar and back: the planar side is an array of 3 or 4 plane pointers with one step for all.
+ * Element c of a pixel lies in plane c. Checks as above; each plane pointer is checked for null. */
+HUX_API HuxStatus huxiCopy_8u_C3P3R(const Hux8u* pSrc, int srcStep, Hux8u* const pDst[3], int dstStep,
+                                    HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_C3P3R(const Hux16s* pSrc, int srcStep, Hux16s* const pDst[3], int dstStep,
+                                     HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_C3P3R(const Hux32s* pSrc, int srcStep, Hux32s* const pDst[3], int dstStep,
+                                     HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_C3P3R(const Hux32f* pSrc, int srcStep, Hux32f* const pDst[3], int dstStep,
+                                     HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_8u_C4P4R(const Hux8u* pSrc, int srcStep, Hux8u* const pDst[4], int dstStep,
+                                    HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_C4P4R(const Hux16s* pSrc, int srcStep, Hux16s* const pDst[4], int dstStep,
+                                     HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_C4P4R(const Hux32s* pSrc, int srcStep, Hux32s* const pDst[4], int dstStep,
+                                     HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_C4P4R(const Hux32f* pSrc, int srcStep, Hux32f* const pDst[4], int dstStep,
+                                     HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_8u_P3C3R(const Hux8u* const pSrc[3], int srcStep, Hux8u* pDst, int dstStep,
+                                    HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_P3C3R(const Hux16s* const pSrc[3], int srcStep, Hux16s* pDst, int dstStep,
+                                     HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_P3C3R(const Hux32s* const pSrc[3], int srcStep, Hux32s* pDst, int dstStep,
+                                     HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_P3C3R(const Hux32f* const pSrc[3], int srcStep, Hux32f* pDst, int dstStep,
+                                     HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_8u_P4C4R(const Hux8u* const pSrc[4], int srcStep, Hux8u* pDst, int dstStep,
+                                    HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_16s_P4C4R(const Hux16s* const pSrc[4], int srcStep, Hux16s* pDst, int dstStep,
+                                     HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32s_P4C4R(const Hux32s* const pSrc[4], int srcStep, Hux32s* pDst, int dstStep,
+                                     HuxiSize roiSize);
+HUX_API HuxStatus huxiCopy_32f_P4C4R(const Hux32f* const pSrc[4], int srcStep, Hux32f* pDst, int dstStep,
+                                     HuxiSize roiSize);
+
+/* Copy, masked: pixels whose byte in the one-channel image pMask is not 0 are copied, the others are not written.
+ * Checks as above, pMask among the pointers. */
+HUX_API HuxStatus huxiCopy_8u_C1MR(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_16s_C1MR(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_32s_C1MR(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_32f_C1MR(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_8u_C3MR(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_16s_C3MR(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_32s_C3MR(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_32f_C3MR(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_8u_C4MR(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_16s_C4MR(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_32s_C4MR(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_32f_C4MR(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_8u_AC4MR(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_16s_AC4MR(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                     const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_32s_AC4MR(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize,
+                                     const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiCopy_32f_AC4MR(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                     const Hux8u* pMask, int maskStep);
+
+/* Set: fills the region with a constant: value, or element c of each pixel with pValue[c] (3 values for C3 and AC4, 4
+ * for C4). AC4: alpha stays. C3CR, C4CR: only the channel that pDst addresses. M forms: only pixels whose byte in
+ * pMask is not 0. 32f members write the bit pattern of the constant.
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), dstStep below 1, then maskStep below 1
+ * (huxStsBadStep). */
+HUX_API HuxStatus huxiSet_8u_C1R(Hux8u value, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_16s_C1R(Hux16s value, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_32s_C1R(Hux32s value, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_32f_C1R(Hux32f value, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_8u_C3CR(Hux8u value, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_16s_C3CR(Hux16s value, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_32s_C3CR(Hux32s value, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_32f_C3CR(Hux32f value, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_8u_C4CR(Hux8u value, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_16s_C4CR(Hux16s value, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_32s_C4CR(Hux32s value, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_32f_C4CR(Hux32f value, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_8u_C3R(const Hux8u* pValue, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_16s_C3R(const Hux16s* pValue, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_32s_C3R(const Hux32s* pValue, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_32f_C3R(const Hux32f* pValue, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_8u_C4R(const Hux8u* pValue, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_16s_C4R(const Hux16s* pValue, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_32s_C4R(const Hux32s* pValue, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_32f_C4R(const Hux32f* pValue, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_8u_AC4R(const Hux8u* pValue, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_16s_AC4R(const Hux16s* pValue, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_32s_AC4R(const Hux32s* pValue, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_32f_AC4R(const Hux32f* pValue, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiSet_8u_C1MR(Hux8u value, Hux8u* pDst, int dstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                  int maskStep);
+HUX_API HuxStatus huxiSet_16s_C1MR(Hux16s value, Hux16s* pDst, int dstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                   int maskStep);
+HUX_API HuxStatus huxiSet_32s_C1MR(Hux32s value, Hux32s* pDst, int dstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                   int maskStep);
+HUX_API HuxStatus huxiSet_32f_C1MR(Hux32f value, Hux32f* pDst, int dstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                   int maskStep);
+HUX_API HuxStatus huxiSet_8u_C3MR(const Hux8u* pValue, Hux8u* pDst, int dstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                  int maskStep);
+HUX_API HuxStatus huxiSet_16s_C3MR(const Hux16s* pValue, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiSet_32s_C3MR(const Hux32s* pValue, Hux32s* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiSet_32f_C3MR(const Hux32f* pValue, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiSet_8u_C4MR(const Hux8u* pValue, Hux8u* pDst, int dstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                  int maskStep);
+HUX_API HuxStatus huxiSet_16s_C4MR(const Hux16s* pValue, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiSet_32s_C4MR(const Hux32s* pValue, Hux32s* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiSet_32f_C4MR(const Hux32f* pValue, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiSet_8u_AC4MR(const Hux8u* pValue, Hux8u* pDst, int dstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                   int maskStep);
+HUX_API HuxStatus huxiSet_16s_AC4MR(const Hux16s* pValue, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiSet_32s_AC4MR(const Hux32s* pValue, Hux32s* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, int maskStep);
+HUX_API HuxStatus huxiSet_32f_AC4MR(const Hux32f* pValue, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, int maskStep);
+
+/* CopyConstBorder: places the source region in the larger destination, topBorderHeight rows down and leftBorderWidth
+ * pixels to the right, and fills the frame around it with a constant. AC4: alpha of frame and source is not written.
+ * Checks of the three border families: null pSrc, pDst (huxStsNullPtr); steps below 1 (huxStsBadStep); width or
+ * height of either size below 1, a negative border, a destination narrower than leftBorderWidth + srcRoiSize.width or
+ * lower than topBorderHeight + srcRoiSize.height (huxStsBadSize); last, a null pValue (huxStsNullPtr). Borders of 0
+ * are legal. */
+HUX_API HuxStatus huxiCopyConstBorder_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize srcRoiSize, Hux8u* pDst,
+                                             int dstStep, HuxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                             Hux8u value);
+HUX_API HuxStatus huxiCopyConstBorder_16s_C1R(const Hux16s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux16s* pDst,
+                                              int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                              int leftBorderWidth, Hux16s value);
+HUX_API HuxStatus huxiCopyConstBorder_32s_C1R(const Hux32s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux32s* pDst,
+                                              int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                              int leftBorderWidth, Hux32s value);
+HUX_API HuxStatus huxiCopyConstBorder_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize srcRoiSize, Hux8u* pDst,
+                                             int dstStep, HuxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                             const Hux8u* pValue);
+HUX_API HuxStatus huxiCopyConstBorder_16s_C3R(const Hux16s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux16s* pDst,
+                                              int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                              int leftBorderWidth, const Hux16s* pValue);
+HUX_API HuxStatus huxiCopyConstBorder_32s_C3R(const Hux32s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux32s* pDst,
+                                              int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                              int leftBorderWidth, const Hux32s* pValue);
+HUX_API HuxStatus huxiCopyConstBorder_8u_C4R(const Hux8u* pSrc, int srcStep, HuxiSize srcRoiSize, Hux8u* pDst,
+                                             int dstStep, HuxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth,
+                                             const Hux8u* pValue);
+HUX_API HuxStatus huxiCopyConstBorder_16s_C4R(const Hux16s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux16s* pDst,
+                                              int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                              int leftBorderWidth, const Hux16s* pValue);
+HUX_API HuxStatus huxiCopyConstBorder_32s_C4R(const Hux32s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux32s* pDst,
+                                              int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                              int leftBorderWidth, const Hux32s* pValue);
+HUX_API HuxStatus huxiCopyConstBorder_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize srcRoiSize, Hux8u* pDst,
+                                              int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                              int leftBorderWidth, const Hux8u* pValue);
+HUX_API HuxStatus huxiCopyConstBorder_16s_AC4R(const Hux16s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux16s* pDst,
+                                               int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                               int leftBorderWidth, const Hux16s* pValue);
+HUX_API HuxStatus huxiCopyConstBorder_32s_AC4R(const Hux32s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux32s* pDst,
+                                               int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                               int leftBorderWidth, const Hux32s* pValue);
+
+/* CopyReplicateBorder: the frame takes the nearest pixel of the source region. In place, pSrc addresses the region
+ * inside the larger image, and the frame is written into the memory around it. Checks as above. */
+HUX_API HuxStatus huxiCopyReplicateBorder_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize srcRoiSize, Hux8u* pDst,
+                                                 int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                                 int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_16s_C1R(const Hux16s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux16s* pDst,
+                                                  int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                                  int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_32s_C1R(const Hux32s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux32s* pDst,
+                                                  int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                                  int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize srcRoiSize, Hux8u* pDst,
+                                                 int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                                 int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_16s_C3R(const Hux16s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux16s* pDst,
+                                                  int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                                  int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_32s_C3R(const Hux32s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux32s* pDst,
+                                                  int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                                  int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_8u_C4R(const Hux8u* pSrc, int srcStep, HuxiSize srcRoiSize, Hux8u* pDst,
+                                                 int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                                 int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_16s_C4R(const Hux16s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux16s* pDst,
+                                                  int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                                  int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_32s_C4R(const Hux32s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux32s* pDst,
+                                                  int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                                  int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize srcRoiSize, Hux8u* pDst,
+                                                  int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                                  int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_16s_AC4R(const Hux16s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux16s* pDst,
+                                                   int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                                   int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_32s_AC4R(const Hux32s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux32s* pDst,
+                                                   int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                                   int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_8u_C1IR(Hux8u* pSrc, int srcDstStep, HuxiSize srcRoiSize, HuxiSize dstRoiSize,
+                                                  int topBorderHeight, int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_16s_C1IR(Hux16s* pSrc, int srcDstStep, HuxiSize srcRoiSize,
+                                                   HuxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_32s_C1IR(Hux32s* pSrc, int srcDstStep, HuxiSize srcRoiSize,
+                                                   HuxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_8u_C3IR(Hux8u* pSrc, int srcDstStep, HuxiSize srcRoiSize, HuxiSize dstRoiSize,
+                                                  int topBorderHeight, int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_16s_C3IR(Hux16s* pSrc, int srcDstStep, HuxiSize srcRoiSize,
+                                                   HuxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_32s_C3IR(Hux32s* pSrc, int srcDstStep, HuxiSize srcRoiSize,
+                                                   HuxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_8u_C4IR(Hux8u* pSrc, int srcDstStep, HuxiSize srcRoiSize, HuxiSize dstRoiSize,
+                                                  int topBorderHeight, int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_16s_C4IR(Hux16s* pSrc, int srcDstStep, HuxiSize srcRoiSize,
+                                                   HuxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_32s_C4IR(Hux32s* pSrc, int srcDstStep, HuxiSize srcRoiSize,
+                                                   HuxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_8u_AC4IR(Hux8u* pSrc, int srcDstStep, HuxiSize srcRoiSize,
+                                                   HuxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_16s_AC4IR(Hux16s* pSrc, int srcDstStep, HuxiSize srcRoiSize,
+                                                    HuxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+HUX_API HuxStatus huxiCopyReplicateBorder_32s_AC4IR(Hux32s* pSrc, int srcDstStep, HuxiSize srcRoiSize,
+                                                    HuxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+
+/* CopyWrapBorder: the frame is the periodic continuation of the source region, also where it is wider than the
+ * region. Unsigned, float and packed pixels of 32 bits use the same members. Checks as above. */
+HUX_API HuxStatus huxiCopyWrapBorder_32s_C1R(const Hux32s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux32s* pDst,
+                                             int dstStep, HuxiSize dstRoiSize, int topBorderHeight,
+                                             int leftBorderWidth);
+HUX_API HuxStatus huxiCopyWrapBorder_32s_C1IR(Hux32s* pSrc, int srcDstStep, HuxiSize srcRoiSize, HuxiSize dstRoiSize,
+                                              int topBorderHeight, int leftBorderWidth);
+
+/* Dup: writes each source element to all three channels of the destination pixel. Checks: null pointers, size; steps
+ * are not checked. */
+HUX_API HuxStatus huxiDup_8u_C1C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+
+/* SwapChannels: channel c of the destination takes channel dstOrder[c] of the source, c = 0..2. dstOrder need not be
+ * a permutation. AC4: alpha of the destination stays.
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), steps below 1 (huxStsBadStep), a channel number
+ * outside 0..2 (huxStsBadChannelOrder). */
+HUX_API HuxStatus huxiSwapChannels_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                          const int dstOrder[3]);
+HUX_API HuxStatus huxiSwapChannels_16u_C3R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                           const int dstOrder[3]);
+HUX_API HuxStatus huxiSwapChannels_32s_C3R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize,
+                                           const int dstOrder[3]);
+HUX_API HuxStatus huxiSwapChannels_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                           const int dstOrder[3]);
+HUX_API HuxStatus huxiSwapChannels_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                           const int dstOrder[3]);
+HUX_API HuxStatus huxiSwapChannels_16u_AC4R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep,
+                                            HuxiSize roiSize, const int dstOrder[3]);
+HUX_API HuxStatus huxiSwapChannels_32s_AC4R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                            HuxiSize roiSize, const int dstOrder[3]);
+HUX_API HuxStatus huxiSwapChannels_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize roiSize, const int dstOrder[3]);
+HUX_API HuxStatus huxiSwapChannels_8u_C3IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, const int dstOrder[3]);
+
+/* Transpose: pixel (x, y) of the source goes to (y, x). roiSize is the source's; the destination has roiSize.height
+ * columns and roiSize.width rows. In place the region must be square.
+ * Checks: null pointers (huxStsNullPtr), size, in place also width different from height (huxStsBadSize). Steps are
+ * not checked. */
+HUX_API HuxStatus huxiTranspose_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_16u_C1R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_32s_C1R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_16u_C3R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_32s_C3R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_16u_C4R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_32s_C4R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_16u_C1IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_32s_C1IR(Hux32s* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_8u_C3IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_16u_C3IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_32s_C3IR(Hux32s* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_8u_C4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_16u_C4IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiTranspose_32s_C4IR(Hux32s* pSrcDst, int srcDstStep, HuxiSize roiSize);
+
+/* Mirror: huxAxsHorizontal reverses the order of rows, huxAxsVertical the order of pixels in each row, huxAxsBoth
+ * does both. AC4: alpha of the destination stays where it is, in place too.
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), flip (huxStsBadAxis). Steps are not checked. */
+HUX_API HuxStatus huxiMirror_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                    HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_16u_C1R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                     HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_32s_C1R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize,
+                                     HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                    HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_16u_C3R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                     HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_32s_C3R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize,
+                                     HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                    HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_16u_C4R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                     HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_32s_C4R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize,
+                                     HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                     HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_16u_AC4R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                      HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_32s_AC4R(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize,
+                                      HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_16u_C1IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_32s_C1IR(Hux32s* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_8u_C3IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_16u_C3IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_32s_C3IR(Hux32s* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_8u_C4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_16u_C4IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_32s_C4IR(Hux32s* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_8u_AC4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_16u_AC4IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
+HUX_API HuxStatus huxiMirror_32s_AC4IR(Hux32s* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
+
+HUX_END_C
+
+#endif

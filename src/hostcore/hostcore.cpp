@@ -1,0 +1,16 @@
+// libhuxcore: the thread count and the constants that hux shares with its siblings.
+#include <omp.h>
+
+#include <limits>
+
+#include "huxcore.h"
+
+// omp_get_num_procs honours the affinity mask: the processors that this process may run on.
+Hux32u threads_omp_of_n_hux = static_cast<Hux32u>(omp_get_num_procs());
+
+void huxSetThreadCount(Hux32u count) { threads_omp_of_n_hux = count; }
+Hux32u huxGetThreadCount(void) { return threads_omp_of_n_hux; }
+
+const Hux32f huxConstantOfINF_32f = std::numeric_limits<Hux32f>::infinity();
+const Hux32f huxConstantOfNAN_32f = std::numeric_limits<Hux32f>::quiet_NaN();
+const Hux64f huxConstantOfNAN_64f = std::numeric_limits<Hux64f>::quiet_NaN();

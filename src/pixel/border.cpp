@@ -1,0 +1,199 @@
+// Border extension: a source region placed in a larger image, the frame around it filled with a constant, with the
+// nearest pixel of the source, or with the periodic continuation of the source. AC4 pixels are three elements
+// throughout: alpha is written neither in the frame nor in the copied source.
+#include "core/stamp.h"
+#include "huxi_pixel.h"
+#include "pixel/move.h"
+#include "pixel/pattern.h"
+#include "vector/fill.h"
+
+namespace hux {
+namespace {
+
+// Where the source lies in the destination; all sums in 64 bits.
+struct Frame {
+  Index left, right, top, bottom;  // border widths and heights
+  Index width, height;             // of the source
+  Index fullWidth;                 // of the destination
+};
+
+Frame frame(HuxiSize src, HuxiSize dst, int top, int left) {
+  return {
+      left,     Index(dst.width) - left - src.width, top, Index(dst.height) - top - src.height, src.width, src.height,
+      dst.width};
+}
+
+HuxStatus fits(HuxiSize src, HuxiSize dst, int top, int left) {
+  if (HuxStatus s = check(size(src), size(dst))) return s;
+  const Frame f = frame(src, dst, top, left);
+  return failUnless(top >= 0 && left >= 0 && f.right >= 0 && f.bottom >= 0, huxStsBadSize);
+}
+
+// Writes n copies of a pixel; borders are mostly a few pixels wide, for which laying out a pattern does not pay.
+template <class L, class W>
+void repeatPixel(const Element<W>* pixel, Element<W>* dst, Index n) {
+  if (n >= 64) return Pattern<L, W>(pixel).fill(dst, n);
+  for (Index i = 0; i < n; ++i)
+    for (int c = 0; c < L::processed; ++c) dst[i * L::channels + c] = pixel[c];
+}
+
+template <class L, class T>
+HuxStatus constBorder(const T* pSrc, int srcStep, HuxiSize srcRoi, T* pDst, int dstStep, HuxiSize dstRoi, int top,
+                      int left, const T* pPixel) {
+  if (HuxStatus s =
+          check(pointers(pSrc, pDst), steps(srcStep, dstStep), fits(srcRoi, dstRoi, top, left), pointers(pPixel)))
+    return s;
+  using W = Word<T>;
+  const Frame f = frame(srcRoi, dstRoi, top, left);
+  const auto src = wordRows<L>(pSrc, srcStep);
+  const auto dst = wordRows<L>(pDst, dstStep);
+  const Pattern<L, W> pattern(reinterpret_cast<const Element<W>*>(pPixel));
+  const auto fill = [&](Element<W>* at, Index n) {
+    if (n > 0) pattern.fill(at, n);
+  };
+  for (Index y = 0; y < f.top; ++y) fill(dst.row(y), f.fullWidth);
+  for (Index y = 0; y < f.height; ++y) {
+    Element<W>* row = dst.row(f.top + y);
+    fill(row, f.left);
+    copyPixels<L, W>(src.row(y), row + f.left * L::channels, f.width);
+    fill(row + (f.left + f.width) * L::channels, f.right);
+  }
+  for (Index y = 0; y < f.bottom; ++y) fill(dst.row(f.top + f.height + y), f.fullWidth);
+  return huxStsOk;
+}
+
+// Fills the borders left and right of the source pixels that stand at their place in a row of the destination.
+template <class L, class W>
+void replicateSides(Element<W>* row, const Frame& f) {
+  Element<W>* source = row + f.left * L::channels;
+  repeatPixel<L, W>(source, row, f.left);
+  repeatPixel<L, W>(source + (f.width - 1) * L::channels, source + f.width * L::channels, f.right);
+}
+
+template <class L, class T>
+HuxStatus replicateBorder(const T* pSrc, int srcStep, HuxiSize srcRoi, T* pDst, int dstStep, HuxiSize dstRoi, int top,
+                          int left) {
+  if (HuxStatus s = check(pointers(pSrc, pDst), steps(srcStep, dstStep), fits(srcRoi, dstRoi, top, left))) return s;
+  using W = Word<T>;
+  const Frame f = frame(srcRoi, dstRoi, top, left);
+  const auto src = wordRows<L>(pSrc, srcStep);
+  const auto dst = wordRows<L>(pDst, dstStep);
+  for (Index y = 0; y < f.height; ++y) {
+    Element<W>* row = dst.row(f.top + y);
+    copyPixels<L, W>(src.row(y), row + f.left * L::channels, f.width);
+    replicateSides<L, W>(row, f);
+  }
+  for (Index y = 0; y < f.bottom; ++y)
+    copyPixels<L, W>(dst.row(f.top + f.height - 1), dst.row(f.top + f.height + y), f.fullWidth);
+  for (Index y = 0; y < f.top; ++y) copyPixels<L, W>(dst.row(f.top), dst.row(y), f.fullWidth);
+  return huxStsOk;
+}
+
+// The larger image that an in-place form writes: it starts `top` rows and `left` pixels before the source region.
+template <class L, class T>
+auto imageAround(T* pSrc, int step, const Frame& f) {
+  auto image = wordRows<L>(pSrc, step);
+  image.first = advance(image.first, -f.top * Index(step) - f.left * image.pixelBytes);
+  return image;
+}
+
+// In place, each row is extended before it is repeated, first row and top border
+// first, so that no pixel is overwritten before it is read.
+template <class L, class T>
+HuxStatus replicateBorderInPlace(T* pSrc, int srcDstStep, HuxiSize srcRoi, HuxiSize dstRoi, int top, int left) {
+  if (HuxStatus s = check(pointers(pSrc), steps(srcDstStep), fits(srcRoi, dstRoi, top, left))) return s;
+  using W = Word<T>;
+  const Frame f = frame(srcRoi, dstRoi, top, left);
+  const auto image = imageAround<L>(pSrc, srcDstStep, f);
+  replicateSides<L, W>(image.row(f.top), f);
+  for (Index y = 0; y < f.top; ++y) copyPixels<L, W>(image.row(f.top), image.row(y), f.fullWidth);
+  for (Index y = 1; y < f.height; ++y) replicateSides<L, W>(image.row(f.top + y), f);
+  for (Index y = 0; y < f.bottom; ++y)
+    copyPixels<L, W>(image.row(f.top + f.height - 1), image.row(f.top + f.height + y), f.fullWidth);
+  return huxStsOk;
+}
+
+// Continues the period at `source` to the left and to the right, in chunks that double: what has been built is a whole
+// number of periods and serves as the next source.
+template <class E>
+void wrapSides(E* source, Index period, Index left, Index right) {
+  const auto copy = [](const E* from, E* to, Index n) { ownsCopy_8u(from, to, n * Index(sizeof(E)), sizeof(E)); };
+  E* begin = source;
+  for (Index built = period; left > 0;) {
+    const Index n = std::min(built, left);
+    copy(begin + built - n, begin - n, n);
+    begin -= n, left -= n, built += n;
+  }
+  for (Index built = period; right > 0;) {
+    const Index n = std::min(built, right);
+    copy(source, source + built, n);
+    right -= n, built += n;
+  }
+}
+
+template <class T>
+void wrapBorder(const Rows<const T>& src, const Rows<T>& dst, const Frame& f) {
+  for (Index y = 0; y < f.height; ++y) {
+    Element<T>* source = dst.row(f.top + y) + f.left;
+    if (src.row(y) != source) copyPixels<C1, T>(src.row(y), source, f.width);
+    wrapSides(source, f.width, f.left, f.right);
+  }
+  for (Index y = f.top - 1; y >= 0; --y) copyPixels<C1, T>(dst.row(y + f.height), dst.row(y), f.fullWidth);
+  for (Index y = f.top; y < f.top + f.bottom; ++y) copyPixels<C1, T>(dst.row(y), dst.row(y + f.height), f.fullWidth);
+}
+
+HuxStatus wrapBorder(const Hux32s* pSrc, int srcStep, HuxiSize srcRoi, Hux32s* pDst, int dstStep, HuxiSize dstRoi,
+                     int top, int left) {
+  if (HuxStatus s = check(pointers(pSrc, pDst), steps(srcStep, dstStep), fits(srcRoi, dstRoi, top, left))) return s;
+  wrapBorder(wordRows<C1>(pSrc, srcStep), wordRows<C1>(pDst, dstStep), frame(srcRoi, dstRoi, top, left));
+  return huxStsOk;
+}
+
+HuxStatus wrapBorderInPlace(Hux32s* pSrc, int srcDstStep, HuxiSize srcRoi, HuxiSize dstRoi, int top, int left) {
+  if (HuxStatus s = check(pointers(pSrc), steps(srcDstStep), fits(srcRoi, dstRoi, top, left))) return s;
+  const Frame f = frame(srcRoi, dstRoi, top, left);
+  wrapBorder(wordRows<C1>(static_cast<const Hux32s*>(pSrc), srcDstStep), imageAround<C1>(pSrc, srcDstStep, f), f);
+  return huxStsOk;
+}
+
+}  // namespace
+}  // namespace hux
+
+#define EXPORT_CONST(t, l, constant, pPixel)                                                                     \
+  HuxStatus huxiCopyConstBorder_##t##_##l##R(const Hux##t* pSrc, int srcStep, HuxiSize srcRoiSize, Hux##t* pDst, \
+                                             int dstStep, HuxiSize dstRoiSize, int topBorderHeight,              \
+                                             int leftBorderWidth, constant) {                                    \
+    return hux::constBorder<hux::l>(pSrc, srcStep, srcRoiSize, pDst, dstStep, dstRoiSize, topBorderHeight,       \
+                                    leftBorderWidth, pPixel);                                                    \
+  }
+#define EXPORT(t, l) EXPORT_CONST(t, l, const Hux##t* pValue, pValue)
+HUX_STAMP(EXPORT, (8u, 16s, 32s), (C3, C4, AC4))
+#undef EXPORT
+#define EXPORT(t, l) EXPORT_CONST(t, l, Hux##t value, &value)
+HUX_STAMP(EXPORT, (8u, 16s, 32s), (C1))
+#undef EXPORT
+
+#define EXPORT(t, l)                                                                                                 \
+  HuxStatus huxiCopyReplicateBorder_##t##_##l##R(const Hux##t* pSrc, int srcStep, HuxiSize srcRoiSize, Hux##t* pDst, \
+                                                 int dstStep, HuxiSize dstRoiSize, int topBorderHeight,              \
+                                                 int leftBorderWidth) {                                              \
+    return hux::replicateBorder<hux::l>(pSrc, srcStep, srcRoiSize, pDst, dstStep, dstRoiSize, topBorderHeight,       \
+                                        leftBorderWidth);                                                            \
+  }                                                                                                                  \
+  HuxStatus huxiCopyReplicateBorder_##t##_##l##IR(Hux##t* pSrc, int srcDstStep, HuxiSize srcRoiSize,                 \
+                                                  HuxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth) {   \
+    return hux::replicateBorderInPlace<hux::l>(pSrc, srcDstStep, srcRoiSize, dstRoiSize, topBorderHeight,            \
+                                               leftBorderWidth);                                                     \
+  }
+HUX_STAMP(EXPORT, (8u, 16s, 32s), (C1, C3, C4, AC4))
+#undef EXPORT
+
+HuxStatus huxiCopyWrapBorder_32s_C1R(const Hux32s* pSrc, int srcStep, HuxiSize srcRoiSize, Hux32s* pDst, int dstStep,
+                                     HuxiSize dstRoiSize, int topBorderHeight, int leftBorderWidth) {
+  return hux::wrapBorder(pSrc, srcStep, srcRoiSize, pDst, dstStep, dstRoiSize, topBorderHeight, leftBorderWidth);
+}
+
+HuxStatus huxiCopyWrapBorder_32s_C1IR(Hux32s* pSrc, int srcDstStep, HuxiSize srcRoiSize, HuxiSize dstRoiSize,
+                                      int topBorderHeight, int leftBorderWidth) {
+  return hux::wrapBorderInPlace(pSrc, srcDstStep, srcRoiSize, dstRoiSize, topBorderHeight, leftBorderWidth);
+}

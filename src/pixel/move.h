@@ -1,0 +1,172 @@
+// Moving elements between arrangements of channels, one row at a time: what Copy, Dup, SwapChannels and the border
+// functions share. A move is described by its two sides and the number of elements taken from each pixel; the vector
+// loop is derived from that description.
+#pragma once
+
+#include <algorithm>
+#include <array>
+
+#include "core/rows.h"
+#include "core/simd.h"
+#include "vector/fill.h"
+
+namespace hux {
+
+// A side whose pixels lie `Stride` elements apart in one row.
+template <int Stride>
+struct Interleaved {
+  static constexpr int vectors = Stride;  // vectors in a group of one vector's worth of pixels
+  static constexpr int stride = Stride;
+  template <class E>
+  static E& at(E* row, Index pixel, int c) {
+    return row[pixel * Stride + c];
+  }
+  // Byte of element c of a pixel within a group, vectors laid end to end.
+  static constexpr int byteOf(int pixel, int c, int elementBytes) { return (pixel * Stride + c) * elementBytes; }
+  template <class E>
+  static auto* vectorAt(E* row, Index pixel, int k) {
+    return advance(row, pixel * Stride * Index(sizeof(E)) + k * simd::kBytes);
+  }
+  // Bytes that vector k of a group may touch where `left` pixels remain and `taken` elements of the last belong to the
+  // row.
+  static constexpr Index bytesLeft(Index left, int taken, int elementBytes, int k) {
+    return ((left - 1) * Stride + taken) * elementBytes - k * simd::kBytes;
+  }
+};
+
+// A side with a plane for each element.
+template <int Planes>
+struct Planar {
+  static constexpr int vectors = Planes;
+  static constexpr int stride = 1;
+  template <class E>
+  static E& at(const std::array<E*, Planes>& row, Index pixel, int c) {
+    return row[c][pixel];
+  }
+  static constexpr int byteOf(int pixel, int c, int elementBytes) { return c * simd::kBytes + pixel * elementBytes; }
+  template <class E>
+  static auto* vectorAt(const std::array<E*, Planes>& row, Index pixel, int k) {
+    return row[k] + pixel;
+  }
+  static constexpr Index bytesLeft(Index left, int, int elementBytes, int) { return left * elementBytes; }
+};
+
+// A one-channel side whose element serves every channel of the other.
+struct Repeated : Interleaved<1> {
+  template <class E>
+  static E& at(E* row, Index pixel, int) {
+    return row[pixel];
+  }
+  static constexpr int byteOf(int pixel, int, int elementBytes) { return pixel * elementBytes; }
+  static constexpr Index bytesLeft(Index left, int, int elementBytes, int) { return left * elementBytes; }
+};
+
+namespace detail {
+
+// Which source byte stands at byte j of output vector `Out` of a group.
+template <class Src, class Dst, int ElementBytes, int Taken, int Out>
+struct MoveMap {
+  static constexpr int source(int j) {
+    const int pixels = simd::kBytes / ElementBytes;
+    for (int c = 0; c < Taken; ++c) {
+      const int lane = (Out * simd::kBytes + j) / ElementBytes * ElementBytes;
+      // Invert byteOf: the pixel whose element c stands at this lane, if there is one.
+      const int base = Dst::byteOf(0, c, ElementBytes), pitch = Dst::byteOf(1, c, ElementBytes) - base;
+      const int pixel = (lane - base) / pitch;
+      if (lane >= base && (lane - base) % pitch == 0 && pixel < pixels)
+        return Src::byteOf(pixel, c, ElementBytes) + (Out * simd::kBytes + j) % ElementBytes;
+    }
+    return -1;
+  }
+};
+
+template <class Src, class Dst, int ElementBytes, int Taken, std::size_t... Out>
+constexpr bool writesAll(std::index_sequence<Out...>) {
+  return ((simd::written<MoveMap<Src, Dst, ElementBytes, Taken, int(Out)>>() == simd::kAll) && ...);
+}
+
+inline bool disjoint(const void* a, Index aBytes, const void* b, Index bBytes) {
+  const auto x = reinterpret_cast<std::uintptr_t>(a), y = reinterpret_cast<std::uintptr_t>(b);
+  return x + std::uintptr_t(aBytes) <= y || y + std::uintptr_t(bBytes) <= x;
+}
+template <class A>
+std::array<A*, 1> starts(A* row) {
+  return {row};
+}
+template <class A, std::size_t N>
+std::array<A*, N> starts(const std::array<A*, N>& planes) {
+  return planes;
+}
+
+}  // namespace detail
+
+// Whether two sides of a move of n pixels lie apart.
+template <class Src, class Dst, class SrcRow, class DstRow>
+bool apart(const SrcRow& src, const DstRow& dst, Index n, int elementBytes) {
+  for (auto* s : detail::starts(src))
+    for (auto* d : detail::starts(dst))
+      if (!detail::disjoint(s, n * Src::stride * elementBytes, d, n * Dst::stride * elementBytes)) return false;
+  return true;
+}
+
+// The definition: elements first to last. Also what overlapping rows get, whose order shows.
+template <class Src, class Dst, int Taken, class SrcRow, class DstRow>
+void moveEach(const SrcRow& src, const DstRow& dst, Index first, Index n) {
+  for (Index i = first; i < n; ++i)
+    for (int c = 0; c < Taken; ++c) Dst::at(dst, i, c) = Src::at(src, i, c);
+}
+
+// Moves `Taken` elements of each of n pixels of type W.
+template <class W, class Src, class Dst, int Taken, class SrcRow, class DstRow>
+void moveRow(const SrcRow& src, const DstRow& dst, Index n) {
+  constexpr int bytes = sizeof(W);
+  constexpr Index group = simd::kBytes / bytes;
+  constexpr auto outs = std::make_index_sequence<Dst::vectors>{};
+  constexpr bool whole = detail::writesAll<Src, Dst, bytes, Taken>(outs);
+  Index i = 0;
+  if constexpr (simd::kPermutes && (whole || simd::kMasks)) {
+    if (apart<Src, Dst>(src, dst, n, bytes)) {
+      const auto moveGroup = [&]<bool Partial, std::size_t... Out>(std::bool_constant<Partial>,
+                                                                   std::index_sequence<Out...>) {
+        simd::Vec in[Src::vectors];
+        for (int k = 0; k < Src::vectors; ++k) {
+          const auto* from = Src::vectorAt(src, i, k);
+          in[k] = Partial ? simd::load(from, simd::lowBytes(Src::bytesLeft(n - i, Taken, bytes, k))) : simd::load(from);
+        }
+        (
+            [&] {
+              using Map = detail::MoveMap<Src, Dst, bytes, Taken, int(Out)>;
+              constexpr simd::Mask written = simd::written<Map>();
+              auto* to = Dst::vectorAt(dst, i, int(Out));
+              const simd::Vec v = simd::permute<Map, Src::vectors>(in);
+              if constexpr (Partial)
+                simd::store(to, v, written & simd::lowBytes(Dst::bytesLeft(n - i, Taken, bytes, int(Out))));
+              else if constexpr (written == simd::kAll)
+                simd::store(to, v);
+              else if constexpr (written != 0)
+                simd::store(to, v, written);
+            }(),
+            ...);
+      };
+      // A group of a source that has elements behind the last one taken may reach past the row: it is left to the end.
+      constexpr Index margin = Src::stride > Taken ? 1 : 0;
+      for (; i + group + margin <= n; i += group) moveGroup(std::false_type{}, outs);
+      if constexpr (simd::kMasks) {
+        if (i < n) moveGroup(std::true_type{}, outs);
+        return;
+      }
+    }
+  }
+  moveEach<Src, Dst, Taken>(src, dst, i, n);
+}
+
+// Moves n pixels between images of one layout: all that it processes, and nothing else.
+template <class L, class W>
+void copyPixels(const Element<W>* src, Element<W>* dst, Index n) {
+  if constexpr (L::processed == L::channels)
+    ownsCopy_8u(src, dst, n * L::channels * Index(sizeof(W)), sizeof(W));
+  else
+    moveRow<W, Interleaved<L::channels>, Interleaved<L::channels>, L::processed>(src, dst, n);
+}
+
+}  // namespace hux

@@ -1,0 +1,70 @@
+// A constant pixel repeated along a row: what Set and the constant border write.
+#pragma once
+
+#include <algorithm>
+
+#include "core/rows.h"
+#include "core/simd.h"
+
+namespace hux {
+
+// The pixel laid out over 192 bytes, a whole number of pixels of every layout and of vectors of every width.
+// L::channels is the distance between pixels in elements and L::processed the number of elements written to each.
+template <class L, class W>
+class Pattern {
+ public:
+  static constexpr int bytes = 192;
+  static constexpr int vectors = bytes / simd::kBytes;
+  static constexpr bool whole = L::processed == L::channels;
+
+  explicit Pattern(const Element<W>* pixel) {
+    for (int i = 0; i < count; ++i) elements_[i] = i % L::channels < L::processed ? W(pixel[i % L::channels]) : W(0);
+  }
+
+  W element(int c) const { return elements_[c]; }
+  simd::Vec vector(int k) const { return simd::load(elements_ + k * (simd::kBytes / Index(sizeof(W)))); }
+
+  // Bytes of vector k that are written.
+  static constexpr simd::Mask written(int k) {
+    simd::Mask mask = 0;
+    for (int j = 0; j < simd::kBytes; ++j)
+      mask |= simd::Mask((k * simd::kBytes + j) / int(sizeof(W)) % L::channels < L::processed) << j;
+    return mask;
+  }
+
+  // Writes the pixel n times.
+  void fill(Element<W>* dst, Index n) const {
+    const Index end = ((n - 1) * L::channels + L::processed) * Index(sizeof(W));
+    if constexpr (whole || simd::kMasks) {
+      simd::Vec v[vectors];
+      for (int k = 0; k < vectors; ++k) v[k] = vector(k);
+      Index at = 0;
+      for (; at + bytes <= end; at += bytes)
+        for (int k = 0; k < vectors; ++k) put(advance(dst, at + k * simd::kBytes), v[k], k);
+      if constexpr (whole) {
+        std::memcpy(advance(dst, at), elements_, std::size_t(end - at));
+      } else {
+        for (int k = 0; k < vectors; ++k)
+          simd::store(advance(dst, at + k * simd::kBytes), v[k],
+                      written(k) & simd::lowBytes(end - at - k * simd::kBytes));
+      }
+    } else {
+      for (Index i = 0; i < n; ++i)
+        for (int c = 0; c < L::processed; ++c) dst[i * L::channels + c] = elements_[c];
+    }
+  }
+
+ private:
+  static constexpr int count = bytes / int(sizeof(W));
+
+  static void put(Element<W>* to, simd::Vec v, int k) {
+    if constexpr (whole)
+      simd::store(to, v);
+    else
+      simd::store(to, v, written(k));
+  }
+
+  W elements_[count];
+};
+
+}  // namespace hux

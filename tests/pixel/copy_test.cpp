@@ -1,0 +1,278 @@
+// Copy in all its forms, against the definition: element by element, in order.
+#include "huxi_pixel.h"
+
+#include "core/stamp.h"
+#include "support/image.h"
+#include "support/order.h"
+
+namespace hux::test {
+namespace {
+
+using CopyFn = HuxStatus (*)(const void*, int, void*, int, HuxiSize);
+using MaskedFn = HuxStatus (*)(const void*, int, void*, int, HuxiSize, const Hux8u*, int);
+using ToPlanesFn = HuxStatus (*)(const void*, int, void* const*, int, HuxiSize);
+using FromPlanesFn = HuxStatus (*)(const void* const*, int, void*, int, HuxiSize);
+
+// A form moves `taken` elements from each source pixel of srcStride to each destination pixel of dstStride elements.
+struct Form {
+  std::string name;
+  int bytes, srcStride, dstStride, taken;
+  CopyFn copy = nullptr;
+  MaskedFn masked = nullptr;
+};
+
+#define COPY(t, form)                                                                                             \
+  [](const void* src, int srcStep, void* dst, int dstStep, HuxiSize roi) {                                        \
+    return huxiCopy_##t##_##form##R(static_cast<const Hux##t*>(src), srcStep, static_cast<Hux##t*>(dst), dstStep, \
+                                    roi);                                                                         \
+  }
+#define MASKED(t, l)                                                                                                 \
+  [](const void* src, int srcStep, void* dst, int dstStep, HuxiSize roi, const Hux8u* mask, int maskStep) {          \
+    return huxiCopy_##t##_##l##MR(static_cast<const Hux##t*>(src), srcStep, static_cast<Hux##t*>(dst), dstStep, roi, \
+                                  mask, maskStep);                                                                   \
+  }
+#define FORM(t, f, s, d, taken) Form{#t "_" #f, int(sizeof(Hux##t)), s, d, taken, COPY(t, f), nullptr},
+#define MASKED_FORM(t, l, n, taken) Form{#t "_" #l "M", int(sizeof(Hux##t)), n, n, taken, nullptr, MASKED(t, l)},
+
+std::vector<Form> plainForms() {
+  return {
+#define FORMS(t, _)                                                                                                    \
+  FORM(t, C1, 1, 1, 1)                                                                                                 \
+  FORM(t, C3, 3, 3, 3) FORM(t, C4, 4, 4, 4) FORM(t, AC4, 4, 4, 3) FORM(t, AC4C3, 4, 3, 3) FORM(t, C3AC4, 3, 4, 3)      \
+      FORM(t, C3C, 3, 3, 1) FORM(t, C4C, 4, 4, 1) FORM(t, C3C1, 3, 1, 1) FORM(t, C4C1, 4, 1, 1) FORM(t, C1C3, 1, 3, 1) \
+          FORM(t, C1C4, 1, 4, 1)
+    HUX_STAMP(FORMS, (8u, 16s, 32s, 32f), (_))
+#undef FORMS
+  };
+}
+
+std::vector<Form> maskedForms() {
+  return {
+#define FORMS(t, _) MASKED_FORM(t, C1, 1, 1) MASKED_FORM(t, C3, 3, 3) MASKED_FORM(t, C4, 4, 4) MASKED_FORM(t, AC4, 4, 3)
+    HUX_STAMP(FORMS, (8u, 16s, 32s, 32f), (_))
+#undef FORMS
+  };
+}
+
+// The pixel that a channel form is given: the region starts at the selected channel, and ends with it in the last
+// pixel.
+int regionBytes(int width, int stride, int taken, int bytes) { return ((width - 1) * stride + taken) * bytes; }
+
+// An image whose rows end with the last element that belongs to the region, so that reading on is caught at a page's
+// end.
+Image channelImage(Rng& rng, int width, int height, int stride, int taken, int bytes, Place place) {
+  return Image(rng, regionBytes(width, stride, taken, bytes), height, 1, place);
+}
+
+template <class Kept>
+void moveElements(const Form& f, const std::byte* src, std::ptrdiff_t srcStep, std::byte* dst, std::ptrdiff_t dstStep,
+                  HuxiSize roi, Kept kept) {
+  for (int y = 0; y < roi.height; ++y)
+    for (int x = 0; x < roi.width; ++x)
+      for (int c = 0; c < f.taken && kept(x, y); ++c) {
+        std::byte element[4];
+        std::memcpy(element, src + y * srcStep + (x * f.srcStride + c) * f.bytes, std::size_t(f.bytes));
+        std::memcpy(dst + y * dstStep + (x * f.dstStride + c) * f.bytes, element, std::size_t(f.bytes));
+      }
+}
+
+bool all(int, int) { return true; }
+
+TEST(Copy, MovesTheElementsOfTheForm) {
+  Rng rng(1);
+  for (const Form& f : plainForms()) {
+    SCOPED_TRACE(f.name);
+    forShapes(rng, 300, [&](int width, int height, Place place) {
+      const Image src = channelImage(rng, width, height, f.srcStride, f.taken, f.bytes, place);
+      const Image dst = channelImage(rng, width, height, f.dstStride, f.taken, f.bytes, place);
+      const Image srcBefore = src, expected = dst;
+      const HuxiSize roi = {width, height};
+      moveElements(f, src.bytes(), src.step(), expected.bytes(), expected.step(), roi, all);
+      ASSERT_EQ(f.copy(src.bytes(), src.step(), dst.bytes(), dst.step(), roi), huxStsOk);
+      ASSERT_TRUE(same(dst, expected));
+      ASSERT_TRUE(same(src, srcBefore));
+    });
+  }
+}
+
+TEST(Copy, MaskedStoresOnlyWhereTheMaskIsSet) {
+  Rng rng(2);
+  for (const Form& f : maskedForms()) {
+    SCOPED_TRACE(f.name);
+    forShapes(rng, 300, [&](int width, int height, Place place) {
+      const Image src(rng, width, height, f.srcStride * f.bytes, place), dst(rng, width, height, f.dstStride * f.bytes);
+      Image mask(rng, width, height, 1, place);
+      const int kind = between(rng, 0, 3);  // none, all, few, many
+      mask.fill<Hux8u>([&] {
+        const int roll = between(rng, 0, 255);
+        return Hux8u(kind == 0 ? 0 : kind == 1 ? roll | 1 : kind == 2 ? (roll < 16 ? roll : 0) : roll & 3);
+      });
+      const Image expected = dst;
+      moveElements(f, src.bytes(), src.step(), expected.bytes(), expected.step(), src.size(),
+                   [&](int x, int y) { return mask.get<Hux8u>(x, y) != 0; });
+      ASSERT_EQ(f.masked(src.bytes(), src.step(), dst.bytes(), dst.step(), src.size(), mask.data<Hux8u>(), mask.step()),
+                huxStsOk);
+      ASSERT_TRUE(same(dst, expected));
+    });
+  }
+}
+
+// Where the destination starts inside the source, an element already written is read again; no other care is taken.
+TEST(Copy, OverlapShowsTheOrderOfElements) {
+  Rng rng(3);
+  for (const Form& f : plainForms()) {
+    SCOPED_TRACE(f.name);
+    for (int ahead : {-200, -65, -3, -1, 1, 2, 3, 4, 31, 64, 100}) {
+      const int width = between(rng, 60, 150), height = 3;
+      const Image buffer(rng, 8 * width * f.bytes, height + 4, 1), expected = buffer;
+      const auto run = [&](const Image& image, auto call) {
+        std::byte* src = image.bytes(0, 2) + 2 * width;
+        call(src, src + ahead * f.bytes, image.step());
+      };
+      run(expected, [&](std::byte* src, std::byte* dst, int step) {
+        moveElements(f, src, step, dst, step, {width, height}, all);
+      });
+      run(buffer, [&](std::byte* src, std::byte* dst, int step) {
+        ASSERT_EQ(f.copy(src, step, dst, step, {width, height}), huxStsOk);
+      });
+      ASSERT_TRUE(same(buffer, expected)) << "destination " << ahead << " elements ahead, width " << width;
+    }
+  }
+}
+
+TEST(Copy, StepsMayBeZeroOrNegative) {
+  Rng rng(4);
+  for (const Form& f : plainForms()) {
+    SCOPED_TRACE(f.name);
+    const int width = 70, height = 5;
+    const Image src(rng, width, height, f.srcStride * f.bytes), dst(rng, width, height, f.dstStride * f.bytes);
+    for (auto [srcRow, srcStep, dstRow, dstStep] :
+         {std::array{2, 0, 0, dst.step()}, std::array{0, src.step(), 3, 0},
+          std::array{height - 1, -src.step(), 0, dst.step()}, std::array{0, src.step(), height - 1, -dst.step()}}) {
+      const Image actual = dst, expected = dst;
+      moveElements(f, src.bytes(0, srcRow), srcStep, expected.bytes(0, dstRow), dstStep, src.size(), all);
+      ASSERT_EQ(f.copy(src.bytes(0, srcRow), srcStep, actual.bytes(0, dstRow), dstStep, src.size()), huxStsOk);
+      ASSERT_TRUE(same(actual, expected));
+    }
+  }
+}
+
+struct PlanarForm {
+  std::string name;
+  int bytes, planes;
+  ToPlanesFn toPlanes;
+  FromPlanesFn fromPlanes;
+};
+
+#define PLANAR(t, n)                                                                                                 \
+  PlanarForm{#t "_P" #n, int(sizeof(Hux##t)), n,                                                                     \
+             [](const void* src, int srcStep, void* const* dst, int dstStep, HuxiSize roi) {                         \
+               Hux##t* planes[n];                                                                                    \
+               for (int c = 0; c < n && dst; ++c) planes[c] = static_cast<Hux##t*>(dst[c]);                          \
+               return huxiCopy_##t##_C##n##P##n##R(static_cast<const Hux##t*>(src), srcStep, dst ? planes : nullptr, \
+                                                   dstStep, roi);                                                    \
+             },                                                                                                      \
+             [](const void* const* src, int srcStep, void* dst, int dstStep, HuxiSize roi) {                         \
+               const Hux##t* planes[n];                                                                              \
+               for (int c = 0; c < n && src; ++c) planes[c] = static_cast<const Hux##t*>(src[c]);                    \
+               return huxiCopy_##t##_P##n##C##n##R(src ? planes : nullptr, srcStep, static_cast<Hux##t*>(dst),       \
+                                                   dstStep, roi);                                                    \
+             }},
+
+std::vector<PlanarForm> planarForms() {
+  return { HUX_STAMP(PLANAR, (8u, 16s, 32s, 32f), (3, 4)) };
+}
+
+// n planes of one step: bands of one tall image.
+struct Planes {
+  Image image;
+  int height;
+  std::array<void*, 4> pointers{};
+  Planes(Rng& rng, int width, int height, int n, int bytes) : image(rng, width, height * n, bytes), height(height) {
+    for (int c = 0; c < n; ++c) pointers[std::size_t(c)] = image.bytes(0, c * height);
+  }
+};
+
+TEST(Copy, PlanesAndPixelsCorrespond) {
+  Rng rng(5);
+  for (const PlanarForm& f : planarForms()) {
+    SCOPED_TRACE(f.name);
+    forShapes(rng, 300, [&](int width, int height, Place place) {
+      const Image pixels(rng, width, height, f.planes * f.bytes, place);
+      const Planes planes(rng, width, height, f.planes, f.bytes);
+      const auto visit = [&](const Image& p, const Image& q, auto move) {
+        for (int y = 0; y < height; ++y)
+          for (int x = 0; x < width; ++x)
+            for (int c = 0; c < f.planes; ++c)
+              move(p.bytes(x, y) + c * f.bytes, q.bytes(x, c * height + y), std::size_t(f.bytes));
+      };
+      const Image planesExpected = planes.image, pixelsExpected = pixels;
+      visit(pixelsExpected, planes.image, [](std::byte* p, std::byte* q, std::size_t n) { std::memcpy(p, q, n); });
+      visit(pixels, planesExpected, [](std::byte* p, std::byte* q, std::size_t n) { std::memcpy(q, p, n); });
+      const Image joined = pixels;
+      ASSERT_EQ(f.fromPlanes(planes.pointers.data(), planes.image.step(), joined.bytes(), joined.step(), pixels.size()),
+                huxStsOk);
+      ASSERT_TRUE(same(joined, pixelsExpected));
+      ASSERT_EQ(f.toPlanes(pixels.bytes(), pixels.step(), planes.pointers.data(), planes.image.step(), pixels.size()),
+                huxStsOk);
+      ASSERT_TRUE(same(planes.image, planesExpected));
+    });
+  }
+}
+
+TEST(Copy, ChecksPointersThenSizeAndNoSteps) {
+  Rng rng(6);
+  const Image image(rng, 16, 4, 16), before = image;
+  const auto untouched = [&] { return same(image, before); };
+  const void* src;
+  void* dst;
+  const Hux8u* mask;
+  HuxiSize roi;
+  const auto reset = [&] { src = dst = image.bytes(), mask = image.data<Hux8u>(), roi = {1, 1}; };
+  for (const Form& f : plainForms()) {
+    SCOPED_TRACE(f.name);
+    reset();
+    CheckOrder([&] { return f.copy(src, -1, dst, 0, roi); })
+        .breaks(huxStsNullPtr, src, nullptr)
+        .breaks(huxStsNullPtr, dst, nullptr)
+        .breaks(huxStsBadSize, roi.width, 0)
+        .breaks(huxStsBadSize, roi.height, -1)
+        .run(untouched);
+  }
+  for (const Form& f : maskedForms()) {
+    SCOPED_TRACE(f.name);
+    reset();
+    CheckOrder([&] { return f.masked(src, -1, dst, 0, roi, mask, 0); })
+        .breaks(huxStsNullPtr, src, nullptr)
+        .breaks(huxStsNullPtr, dst, nullptr)
+        .breaks(huxStsNullPtr, mask, nullptr)
+        .breaks(huxStsBadSize, roi.width, -5)
+        .breaks(huxStsBadSize, roi.height, 0)
+        .run(untouched);
+  }
+  for (const PlanarForm& f : planarForms()) {
+    SCOPED_TRACE(f.name);
+    std::array<void*, 4> list;
+    list.fill(image.bytes());
+    const auto planes = std::size_t(f.planes);
+    void** array = list.data();
+    reset();
+    CheckOrder([&] { return f.toPlanes(src, 0, array, 0, roi); })
+        .breaks(huxStsNullPtr, src, nullptr)
+        .breaks(huxStsNullPtr, array, nullptr)
+        .breaks(huxStsNullPtr, list[0], nullptr)
+        .breaks(huxStsNullPtr, list[planes - 1], nullptr)
+        .breaks(huxStsBadSize, roi.width, 0)
+        .run([] { return testing::AssertionSuccess(); });
+    CheckOrder([&] { return f.fromPlanes(array, 0, dst, 0, roi); })
+        .breaks(huxStsNullPtr, array, nullptr)
+        .breaks(huxStsNullPtr, list[1], nullptr)
+        .breaks(huxStsNullPtr, list[planes - 1], nullptr)
+        .breaks(huxStsNullPtr, dst, nullptr)
+        .breaks(huxStsBadSize, roi.height, 0)
+        .run([] { return testing::AssertionSuccess(); });
+  }
+}
+
+}  // namespace
+}  // namespace hux::test
