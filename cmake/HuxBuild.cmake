@@ -28,9 +28,9 @@ endfunction()
 # The two shared libraries of one architecture level, as targets <name>huxcore and <name>huxi.
 function(hux_add_libraries name objects)
   add_library(${name}huxcore SHARED $<TARGET_OBJECTS:${objects}_core>)
-  target_link_libraries(${name}huxcore PRIVATE hux_build_flags OpenMP::OpenMP_CXX)
+  target_link_libraries(${name}huxcore PRIVATE $<BUILD_INTERFACE:hux_build_flags> OpenMP::OpenMP_CXX)
   add_library(${name}huxi SHARED $<TARGET_OBJECTS:${objects}_images>)
-  target_link_libraries(${name}huxi PRIVATE hux_build_flags OpenMP::OpenMP_CXX PUBLIC ${name}huxcore)
+  target_link_libraries(${name}huxi PRIVATE $<BUILD_INTERFACE:hux_build_flags> OpenMP::OpenMP_CXX PUBLIC ${name}huxcore)
   foreach(library huxcore huxi)
     set_target_properties(${name}${library} PROPERTIES OUTPUT_NAME ${library} VERSION ${PROJECT_VERSION}
                                                        SOVERSION ${PROJECT_VERSION_MAJOR} EXPORT_NAME ${library})

@@ -12,7 +12,9 @@
 #define HUX_END_C
 #endif
 
+#ifndef HUX_API
 #define HUX_API __attribute__((visibility("default")))
+#endif
 
 HUX_BEGIN_C
 

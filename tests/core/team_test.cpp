@@ -1,0 +1,255 @@
+// The four work divisions: every row and tile once, whatever the team, and a status for every failure. The program is
+// also run with a thread limit of 1, where the runtime refuses all teams.
+#include "core/team.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cstring>
+#include <mutex>
+#include <set>
+#include <thread>
+#include <vector>
+
+#include "huxcore.h"
+#include "support/failing_malloc.h"
+
+namespace hux::test {
+namespace {
+
+// Runs body(largest possible team) for teams of 1, 2, 3 and 7, and for counts that act as a small number.
+template <class Body>
+void forTeams(Body body) {
+  const Hux32u before = huxGetThreadCount();
+  for (Hux32u n : {0u, 1u, 2u, 3u, 7u}) {
+    SCOPED_TRACE(n);
+    huxSetThreadCount(n);
+    body(n == 0 ? 1 : int(n));
+  }
+  huxSetThreadCount(before);
+}
+
+// Counts visits to rows or tiles from several threads.
+class Visits {
+ public:
+  explicit Visits(Index count) : visits_(std::size_t(count)) {}
+  void visit(Index i) { ++visits_[std::size_t(i)]; }
+  void visit(RowRange r) {
+    for (Index y = r.first; y < r.first + r.count; ++y) visit(y);
+  }
+  bool eachOnce() const {
+    for (const auto& v : visits_)
+      if (v != 1) return false;
+    return true;
+  }
+  bool none() const {
+    for (const auto& v : visits_)
+      if (v != 0) return false;
+    return true;
+  }
+
+ private:
+  std::vector<std::atomic<int>> visits_;
+};
+
+TEST(Team, InitialCountIsTheProcessorsOfTheProcess) {
+  EXPECT_EQ(huxGetThreadCount(), threads_omp_of_n_hux);
+  EXPECT_GE(threads_omp_of_n_hux, 1u);
+}
+
+TEST(Team, SplitRowsGivesTheRestToTheLast) {
+  forTeams([](int most) {
+    for (Index height : {1, 2, 6, 7, 100}) {
+      Visits visits(height);
+      std::mutex mutex;
+      std::vector<RowRange> shares;
+      splitRows(height, [&](RowRange r) {
+        visits.visit(r);
+        std::lock_guard lock(mutex);
+        shares.push_back(r);
+      });
+      EXPECT_TRUE(visits.eachOnce());
+      std::sort(shares.begin(), shares.end(), [](RowRange a, RowRange b) { return a.first < b.first; });
+      ASSERT_LE(int(shares.size()), most);
+      const RowRange first = shares.front(), last = shares.back();
+      for (std::size_t t = 0; t + 1 < shares.size(); ++t) EXPECT_EQ(shares[t].count, first.count);
+      EXPECT_GE(last.count, first.count);
+      EXPECT_LT(last.count, first.count + most);
+    }
+  });
+}
+
+TEST(Team, LoopRowsGivesEachThreadOneRangeAndItsOwnSlice) {
+  forTeams([](int most) {
+    for (bool fork : {false, true})
+      for (Index height : {1, 5, 64}) {
+        Visits visits(height);
+        std::mutex mutex;
+        std::set<std::byte*> slices;
+        const int before = liveBlocks();
+        EXPECT_EQ(loopRows(height, fork, 100,
+                           [&](RowRange r, std::byte* slice) {
+                             std::memset(slice, int(r.first), 100);
+                             visits.visit(r);
+                             std::lock_guard lock(mutex);
+                             EXPECT_TRUE(slices.insert(slice).second);
+                             EXPECT_EQ(slice[99], std::byte(r.first));
+                           }),
+                  huxStsOk);
+        EXPECT_TRUE(visits.eachOnce());
+        EXPECT_LE(int(slices.size()), fork ? most : 1);
+        EXPECT_EQ(liveBlocks(), before);
+      }
+  });
+}
+
+TEST(Team, TilesAreTakenOnceAndTheLowestStatusWins) {
+  forTeams([](int) {
+    for (Index tiles : {0, 1, 6, 50}) {
+      Visits visits(tiles);
+      std::atomic<int> prepared{0};
+      const auto run = [&](HuxStatus bad) {
+        return runTiles(
+            {40, 24},
+            [&](std::byte* shared, Index& count) {
+              ++prepared;
+              std::memset(shared, 0x11, 40);
+              count = tiles;
+              return HuxStatus(huxStsOk);
+            },
+            [&](Index tile, std::byte* shared, std::byte* slice) {
+              EXPECT_EQ(shared[39], std::byte(0x11));  // the master's work is seen by all
+              std::memset(slice, int(tile), 24);
+              visits.visit(tile);
+              return tile == 3 ? bad : tile == 4 ? HuxStatus(huxStsBadSize) : HuxStatus(huxStsOk);
+            });
+      };
+      EXPECT_EQ(run(huxStsNoMem), tiles > 4 ? huxStsNoMem : huxStsOk);
+      EXPECT_EQ(prepared, 1);
+      EXPECT_TRUE(visits.eachOnce());
+    }
+  });
+}
+
+TEST(Team, TilesDoNotRunWhenThePreparationFails) {
+  forTeams([](int) {
+    Visits visits(9);
+    EXPECT_EQ(runTiles(
+                  {8, 8},
+                  [&](std::byte*, Index& tiles) {
+                    tiles = 9;
+                    return HuxStatus(huxStsBadOrder);
+                  },
+                  [&](Index tile, std::byte*, std::byte*) {
+                    visits.visit(tile);
+                    return HuxStatus(huxStsOk);
+                  }),
+              huxStsBadOrder);
+    EXPECT_TRUE(visits.none());
+  });
+}
+
+TEST(Team, PartialSumsAreAddedInThreadOrder) {
+  forTeams([](int most) {
+    for (Index height : {1, 3, 40})
+      for (bool ownBuffer : {false, true}) {
+        Visits visits(height);
+        std::vector<std::byte> buffer(ownBuffer ? std::size_t(most) * sizeof(Index) : 1);
+        Index last = -1, sum = 0;
+        EXPECT_EQ(sumRows(
+                      height, sizeof(Index), ownBuffer ? buffer.data() : nullptr,
+                      [&](RowRange r, std::byte* partial) {
+                        visits.visit(r);
+                        std::memcpy(partial, &r.count, sizeof r.count);
+                      },
+                      [&](const std::byte* partial) {
+                        Index count;
+                        std::memcpy(&count, partial, sizeof count);
+                        EXPECT_GE(count, last);  // equal shares, and the last takes the rest
+                        last = count, sum += count;
+                      }),
+                  huxStsOk);
+        EXPECT_TRUE(visits.eachOnce());
+        EXPECT_EQ(sum, height);
+      }
+  });
+}
+
+TEST(Team, NoMemoryIsAStatusAndNothingRuns) {
+  forTeams([](int) {
+    const int before = liveBlocks();
+    int failures = 0;
+    const auto noMem = [&](HuxStatus s) {
+      EXPECT_EQ(s, huxStsNoMem);
+      ++failures;
+    };
+    for (bool fork : {false, true}) {
+      Visits visits(8);
+      walkAllocationFailures(
+          [&] {
+            return loopRows(8, fork, 10,
+                            [&](RowRange r, std::byte*) { allocationFailed() ? visits.visit(r) : void(); });
+          },
+          noMem);
+      EXPECT_TRUE(visits.none());
+    }
+    walkAllocationFailures(
+        [&] {
+          return runTiles(
+              {1, 1}, [](std::byte*, Index&) { return HuxStatus(huxStsOk); },
+              [](Index, std::byte*, std::byte*) { return HuxStatus(huxStsOk); });
+        },
+        noMem);
+    walkAllocationFailures(
+        [&] {
+          return sumRows(
+              4, 8, nullptr, [](RowRange, std::byte*) {}, [](const std::byte*) {});
+        },
+        noMem);
+    EXPECT_EQ(failures, 4);
+    EXPECT_EQ(liveBlocks(), before);
+  });
+}
+
+// A call from inside another team: the runtime does not nest, and the team of one does all the work.
+TEST(Team, RefusedTeamDoesAllTheWork) {
+  huxSetThreadCount(4);
+  std::atomic<int> whole{0};
+  splitRows(4, [&](RowRange) {
+    Visits rows(10), tiles(10);
+    splitRows(10, [&](RowRange r) { rows.visit(r); });
+    runTiles(
+        {1, 1},
+        [](std::byte*, Index& count) {
+          count = 10;
+          return HuxStatus(huxStsOk);
+        },
+        [&](Index tile, std::byte*, std::byte*) {
+          tiles.visit(tile);
+          return HuxStatus(huxStsOk);
+        });
+    whole += rows.eachOnce() && tiles.eachOnce();
+  });
+  EXPECT_GE(whole, 1);
+}
+
+// Several application threads, each with a team of its own.
+TEST(Team, CallsFromSeveralThreadsDoNotDisturbEachOther) {
+  huxSetThreadCount(3);
+  std::vector<std::thread> callers;
+  std::atomic<int> whole{0};
+  for (int i = 0; i < 4; ++i)
+    callers.emplace_back([&] {
+      for (int round = 0; round < 20; ++round) {
+        Visits visits(33);
+        splitRows(33, [&](RowRange r) { visits.visit(r); });
+        whole += visits.eachOnce();
+      }
+    });
+  for (auto& caller : callers) caller.join();
+  EXPECT_EQ(whole, 80);
+}
+
+}  // namespace
+}  // namespace hux::test
