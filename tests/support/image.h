@@ -36,6 +36,7 @@ class Image {
   int width() const { return width_; }
   int height() const { return height_; }
   int step() const { return step_; }
+  int pixelBytes() const { return pixelBytes_; }
   HuxiSize size() const { return {width_, height_}; }
 
   std::byte* bytes(int x = 0, int y = 0) const {

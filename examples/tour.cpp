@@ -1,0 +1,263 @@
+// A tour of the library on two photographs: runs every step of the table below, writes a picture for each and a contact
+// sheet of all, and tells how long each took.
+//
+//   tour <folder of the photographs> <folder for the results>
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <exception>
+#include <iterator>
+#include <limits>
+#include <string>
+
+#include "image.h"
+#include "png.h"
+#include "sheet.h"
+
+namespace tour {
+namespace {
+
+struct Photos {
+  Colour raccoon;
+  Gray stairs;
+};
+
+constexpr HuxiSize kWhole = {1024, 768};  // of the raccoon
+constexpr HuxiSize kStairs = {512, 512};
+bool same(HuxiSize a, HuxiSize b) { return a.width == b.width && a.height == b.height; }
+
+// The raccoon's face. A region is no object: it is a pointer to its first pixel, the step of the image around it, and a
+// size.
+constexpr HuxiSize kFace = {512, 384};
+const Hux8u* face(const Photos& in) { return in.raccoon.at(470, 150); }
+
+// Where quarter 0, 1, 2, 3 of a picture starts: four faces fill a whole one.
+Hux8u* quarter(Colour& picture, int i) { return picture.at(i % 2 * kFace.width, i / 2 * kFace.height); }
+
+Colour planes(const Photos& in) {
+  Gray red(kFace), green(kFace), blue(kFace);
+  Hux8u* const split[3] = {red.at(0, 0), green.at(0, 0), blue.at(0, 0)};
+  HUX_DO(huxiCopy_8u_C3P3R(face(in), in.raccoon.step(), split, red.step(), kFace));
+  Colour out(kWhole);
+  for (int c = 0; c < 3; ++c) HUX_DO(huxiDup_8u_C1C3R(split[c], red.step(), quarter(out, c), out.step(), kFace));
+  const Hux8u* const joined[3] = {split[1], split[2], split[0]};
+  HUX_DO(huxiCopy_8u_P3C3R(joined, red.step(), quarter(out, 3), out.step(), kFace));
+  return out;
+}
+
+Colour swapChannels(const Photos& in) {
+  const int orders[4][3] = {{2, 1, 0}, {0, 2, 1}, {1, 0, 2}, {1, 1, 1}};
+  Colour out(kWhole);
+  for (int i = 0; i < 4; ++i)
+    HUX_DO(huxiSwapChannels_8u_C3R(face(in), in.raccoon.step(), quarter(out, i), out.step(), kFace, orders[i]));
+  return out;
+}
+
+Colour oneChannel(const Photos& in) {
+  const int shift = 24;
+  const HuxiSize moved = {kWhole.width - shift, kWhole.height};
+  const Colour& src = in.raccoon;
+  Colour out(kWhole);
+  HUX_DO(huxiCopy_8u_C3R(src.at(0, 0), src.step(), out.at(0, 0), out.step(), kWhole));
+  // The pointers address the channel in question of the region's first pixel.
+  HUX_DO(huxiCopy_8u_C3CR(src.at(0, 0) + 0, src.step(), out.at(shift, 0) + 0, out.step(), moved));
+  HUX_DO(huxiCopy_8u_C3CR(src.at(shift, 0) + 2, src.step(), out.at(0, 0) + 2, out.step(), moved));
+  return out;
+}
+
+Colour grayToColour(const Photos& in) {
+  const HuxiSize size = in.stairs.size(), band = {size.width / 4, size.height};
+  Colour out(size);
+  HUX_DO(huxiDup_8u_C1C3R(in.stairs.at(0, 0), in.stairs.step(), out.at(0, 0), out.step(), size));
+  for (int c = 0; c < 3; ++c) HUX_DO(huxiSet_8u_C3CR(0, out.at((c + 1) * band.width, 0) + c, out.step(), band));
+  return out;
+}
+
+Colour setRegions(const Photos&) {
+  const int columns = 8, rows = 6, field = 128, inset = 32;
+  Colour out(kWhole);
+  for (int row = 0; row < rows; ++row)
+    for (int column = 0; column < columns; ++column) {
+      const Hux8u outer[3] = {Hux8u(30 + 28 * column), Hux8u(60 + 26 * row), Hux8u(190 - 20 * column)};
+      const Hux8u inner[3] = {Hux8u(255 - outer[0]), Hux8u(255 - outer[1]), Hux8u(255 - outer[2])};
+      HUX_DO(huxiSet_8u_C3R(outer, out.at(column * field, row * field), out.step(), {field, field}));
+      HUX_DO(huxiSet_8u_C3R(inner, out.at(column * field + inset, row * field + inset), out.step(),
+                            {field - 2 * inset, field - 2 * inset}));
+    }
+  return out;
+}
+
+// A mask that is set in a disc, made of one region for each of its rows.
+Gray disc(HuxiSize size, HuxiPoint centre, int radius) {
+  Gray mask(size);
+  HUX_DO(huxiSet_8u_C1R(0, mask.at(0, 0), mask.step(), size));
+  for (int y = -radius; y <= radius; ++y) {
+    const int half = int(std::sqrt(double(radius * radius - y * y)));
+    HUX_DO(huxiSet_8u_C1R(255, mask.at(centre.x - half, centre.y + y), mask.step(), {2 * half + 1, 1}));
+  }
+  return mask;
+}
+
+Colour maskedCopy(const Photos& in) {
+  const Colour& src = in.raccoon;
+  Gray green(kWhole);
+  HUX_DO(huxiCopy_8u_C3C1R(src.at(0, 0) + 1, src.step(), green.at(0, 0), green.step(), kWhole));
+  Colour out(kWhole);
+  HUX_DO(huxiDup_8u_C1C3R(green.at(0, 0), green.step(), out.at(0, 0), out.step(), kWhole));
+  const HuxiPoint head = {690, 300};
+  const Gray rim = disc(kWhole, head, 290), inside = disc(kWhole, head, 280);
+  const Hux8u white[3] = {255, 255, 255};
+  HUX_DO(huxiSet_8u_C3MR(white, out.at(0, 0), out.step(), kWhole, rim.at(0, 0), rim.step()));
+  HUX_DO(huxiCopy_8u_C3MR(src.at(0, 0), src.step(), out.at(0, 0), out.step(), kWhole, inside.at(0, 0), inside.step()));
+  return out;
+}
+
+// Lays the colours of a four-channel image into one quarter of `out` and its alpha, in gray, into another.
+void showAlpha(const Image<Hux8u, 4>& image, Colour& out, int colours, int alpha) {
+  Gray plane(image.size());
+  HUX_DO(huxiCopy_8u_AC4C3R(image.at(0, 0), image.step(), quarter(out, colours), out.step(), image.size()));
+  HUX_DO(huxiCopy_8u_C4C1R(image.at(0, 0) + 3, image.step(), plane.at(0, 0), plane.step(), image.size()));
+  HUX_DO(huxiDup_8u_C1C3R(plane.at(0, 0), plane.step(), quarter(out, alpha), out.step(), image.size()));
+}
+
+Colour alphaKept(const Photos& in) {
+  const Hux8u ground[4] = {30, 90, 120, 0};
+  const int steps = 16;
+  const HuxiSize band = {kFace.width / steps, kFace.height};
+  Image<Hux8u, 4> canvas(kFace);
+  HUX_DO(huxiSet_8u_C4R(ground, canvas.at(0, 0), canvas.step(), kFace));
+  for (int i = 0; i < steps; ++i)
+    HUX_DO(huxiSet_8u_C4CR(Hux8u(17 * i), canvas.at(i * band.width, 0) + 3, canvas.step(), band));
+  Colour out(kWhole);
+  showAlpha(canvas, out, 0, 1);
+  HUX_DO(huxiCopy_8u_C3AC4R(face(in), in.raccoon.step(), canvas.at(0, 0), canvas.step(), kFace));
+  showAlpha(canvas, out, 2, 3);
+  return out;
+}
+
+constexpr HuxiPoint kFrame = {(kWhole.width - kFace.width) / 2, (kWhole.height - kFace.height) / 2};
+
+Colour constantBorder(const Photos& in) {
+  const Hux8u brick[3] = {170, 70, 50};
+  Colour out(kWhole);
+  HUX_DO(huxiCopyConstBorder_8u_C3R(face(in), in.raccoon.step(), kFace, out.at(0, 0), out.step(), kWhole, kFrame.y,
+                                    kFrame.x, brick));
+  return out;
+}
+
+Colour replicatedBorder(const Photos& in) {
+  Colour out(kWhole);
+  HUX_DO(huxiCopyReplicateBorder_8u_C3R(face(in), in.raccoon.step(), kFace, out.at(0, 0), out.step(), kWhole, kFrame.y,
+                                        kFrame.x));
+  return out;
+}
+
+Colour wrappedBorder(const Photos& in) {
+  // Four channels of 8 bits are one element of 32: functions that only move pixels take either view.
+  const Hux8u opaque[4] = {0, 0, 0, 255};
+  Image<Hux8u, 4> four(kFace);
+  HUX_DO(huxiSet_8u_C4R(opaque, four.at(0, 0), four.step(), kFace));
+  HUX_DO(huxiCopy_8u_C3AC4R(face(in), in.raccoon.step(), four.at(0, 0), four.step(), kFace));
+
+  // Every third pixel of every third row, by the copy of one channel of three.
+  const HuxiSize size = {kFace.width / 3, kFace.height / 3};
+  Image<Hux32s, 1> tile(size);
+  HUX_DO(huxiCopy_32s_C3C1R(reinterpret_cast<const Hux32s*>(four.at(0, 0)), 3 * four.step(), tile.at(0, 0), tile.step(),
+                            size));
+
+  Image<Hux32s, 1> tiled(kWhole);
+  HUX_DO(huxiCopyWrapBorder_32s_C1R(tile.at(0, 0), tile.step(), size, tiled.at(0, 0), tiled.step(), kWhole,
+                                    (kWhole.height - size.height) / 2, (kWhole.width - size.width) / 2));
+  Colour out(kWhole);
+  HUX_DO(huxiCopy_8u_AC4C3R(reinterpret_cast<const Hux8u*>(tiled.at(0, 0)), tiled.step(), out.at(0, 0), out.step(),
+                            kWhole));
+  return out;
+}
+
+Colour mirror(const Photos& in) {
+  const HuxiAxis axes[3] = {huxAxsVertical, huxAxsHorizontal, huxAxsBoth};
+  Colour out(kWhole);
+  HUX_DO(huxiCopy_8u_C3R(face(in), in.raccoon.step(), quarter(out, 0), out.step(), kFace));
+  for (int i = 0; i < 3; ++i)
+    HUX_DO(huxiMirror_8u_C3R(face(in), in.raccoon.step(), quarter(out, i + 1), out.step(), kFace, axes[i]));
+  return out;
+}
+
+Colour transpose(const Photos& in) {
+  Colour out({kWhole.height, kWhole.width});
+  HUX_DO(huxiTranspose_8u_C3R(in.raccoon.at(0, 0), in.raccoon.step(), out.at(0, 0), out.step(), kWhole));
+  return out;
+}
+
+// The tour. A step takes the photographs, works with functions of the library only, and returns its picture. The name
+// is that of its file and, with spaces for hyphens, its title.
+struct Step {
+  const char* name;
+  const char* shows;
+  Colour (*run)(const Photos&);
+};
+constexpr Step kSteps[] = {
+    {"planes", "red, green, blue; joined as green, blue, red", planes},
+    {"swap-channels", "the channels in four other orders", swapChannels},
+    {"one-channel", "red moved to the right, blue to the left", oneChannel},
+    {"gray-to-colour", "gray in all channels, one cleared in each band", grayToColour},
+    {"set", "regions filled with constants", setRegions},
+    {"masked-copy", "colour copied onto gray through a mask", maskedCopy},
+    {"alpha-kept", "colour and alpha, before and after a copy", alphaKept},
+    {"constant-border", "a frame of one colour", constantBorder},
+    {"replicated-border", "a frame of the nearest pixels", replicatedBorder},
+    {"wrapped-border", "a frame of the periodic continuation", wrappedBorder},
+    {"mirror", "as it is; vertical, horizontal, both axes", mirror},
+    {"transpose", "rows become columns", transpose},
+};
+
+// The result of a step and the shortest of three runs, memory for the pictures included.
+Colour timed(const Step& step, const Photos& photos, double& milliseconds) {
+  milliseconds = std::numeric_limits<double>::infinity();
+  for (int run = 1;; ++run) {
+    const auto start = std::chrono::steady_clock::now();
+    Colour picture = step.run(photos);
+    const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
+    milliseconds = std::min(milliseconds, took.count());
+    if (run == 3) return picture;
+  }
+}
+
+void run(const std::string& images, const std::string& results) {
+  const Photos photos = {loadPng<3>(images + "/raccoon.png"), loadPng<1>(images + "/stairs.png")};
+  if (!same(photos.raccoon.size(), kWhole) || !same(photos.stairs.size(), kStairs))
+    throw std::runtime_error("the photographs in " + images + " are not those of the tour");
+  std::printf("hux %s\n", huxiGetLibVersion()->versionText);
+  Sheet sheet("a tour of hux", int(std::size(kSteps)));
+  int number = 0;
+  for (const Step& step : kSteps) {
+    double milliseconds;
+    const Colour picture = timed(step, photos, milliseconds);
+    char file[64];
+    std::snprintf(file, sizeof file, "%02d-%s", ++number, step.name);
+    std::string title = step.name;
+    std::printf("%-22s %7.2f ms  %s\n", file, milliseconds, step.shows);
+    savePng(results + "/" + file + ".png", picture);
+    std::replace(title.begin(), title.end(), '-', ' ');
+    sheet.add(title, step.shows, picture);
+  }
+  savePng(results + "/contact-sheet.png", sheet.image());
+  std::printf("contact sheet: %s/contact-sheet.png\n", results.c_str());
+}
+
+}  // namespace
+}  // namespace tour
+
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::fprintf(stderr, "usage: tour <folder of the photographs> <folder for the results>\n");
+    return 2;
+  }
+  try {
+    tour::run(argv[1], argv[2]);
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "tour: %s\n", failure.what());
+    return 1;
+  }
+}
