@@ -8,7 +8,7 @@
 
 #include "core/layout.h"
 
-#if defined(__AVX512BW__) && defined(__AVX512VL__)
+#if defined(__SSE2__)
 #include <immintrin.h>
 #endif
 
@@ -75,6 +75,69 @@ inline Mask nonZero(Vec v) {
   Mask mask = 0;
   for (int j = 0; j < kBytes; ++j) mask |= Mask(v[j] != 0) << j;
   return mask;
+}
+#endif
+
+// Streaming: stores that go past the cache. An ordinary store first reads the line that it is about to overwrite, which
+// a region that does not stay in the cache need not pay for; where it would stay, streaming takes it away from whoever
+// reads it next. So the size of the work decides, once for each call: Streaming is made from the bytes that a call
+// reads and writes, and lives until its last store.
+#if defined(__SSE2__)
+inline constexpr bool kStreams = true;
+inline void stream(void* aligned, Vec v) {
+#if defined(__AVX512VBMI__) && defined(__AVX512BW__) && defined(__AVX512VL__)
+  _mm512_stream_si512(static_cast<__m512i*>(aligned), __m512i(v));
+#else
+  _mm_stream_si128(static_cast<__m128i*>(aligned), __m128i(v));
+#endif
+}
+inline void endStreams() { _mm_sfence(); }
+#else
+inline constexpr bool kStreams = false;
+inline void stream(void* aligned, Vec v) { store(aligned, v); }
+inline void endStreams() {}
+#endif
+
+class Streaming {
+ public:
+  static constexpr Index kLeast = 40 << 20;  // a little above the last-level cache of a large processor
+
+  explicit Streaming(Index bytes) : on_(kStreams && bytes >= kLeast) {}
+  Streaming(const Streaming&) = delete;
+  ~Streaming() {
+    if (on_) endStreams();  // streams are ordered with nothing else
+  }
+  operator bool() const { return on_; }
+
+ private:
+  bool on_;
+};
+
+// Pixels to pass from p on until one starts at a vector boundary, where streams start; -1 where none does. A pixel is a
+// power of two bytes or three times that.
+inline Index pixelsToBoundary(const void* p, int pixelBytes) {
+  const auto bytes = Index(-reinterpret_cast<std::uintptr_t>(p) % kBytes);
+  const Index power = pixelBytes & -pixelBytes, inverseOf3 = 43;  // modulo 64
+  if (bytes % power != 0) return -1;
+  return bytes / power * (pixelBytes == power ? 1 : inverseOf3) % (kBytes / power);
+}
+
+// permuteBy(a, b, index): byte j of the result is byte index[j] of a and b laid end to end. Where kPermutes holds.
+#if defined(__AVX512VBMI__) && defined(__AVX512BW__) && defined(__AVX512VL__)
+inline Vec permuteBy(Vec a, Vec b, Vec index) {
+  return Vec(_mm512_permutex2var_epi8(__m512i(a), __m512i(index), __m512i(b)));
+}
+#elif defined(__SSSE3__)
+inline Vec permuteBy(Vec a, Vec b, Vec index) {
+  const Vec inA = Vec(index < kBytes);  // a shuffle clears bytes whose index has the top bit set
+  return Vec(_mm_shuffle_epi8(__m128i(a), __m128i(index | ~inA))) |
+         Vec(_mm_shuffle_epi8(__m128i(b), __m128i((index - kBytes) | inA)));
+}
+#else
+inline Vec permuteBy(Vec a, Vec b, Vec index) {
+  Vec v{};
+  for (int j = 0; j < kBytes; ++j) v[j] = index[j] < kBytes ? a[index[j]] : b[index[j] - kBytes];
+  return v;
 }
 #endif
 
@@ -155,18 +218,43 @@ constexpr Mask written() {
   return mask;
 }
 
-// Short vectors of 16 bytes, whose interleaving is one instruction on every machine.
+// Lanes of 16 bytes, within which interleaving is one instruction on every machine.
 typedef std::uint8_t Quad __attribute__((vector_size(16)));
 
-// The low or the high halves of a and b interleaved, in elements of ElementBytes.
-template <int ElementBytes, bool High>
-Quad zip(Quad a, Quad b) {
+// In each lane, the low or the high halves of a and b interleaved, in elements of ElementBytes. The shuffle is written
+// in elements, in which compilers know the instruction.
+template <int ElementBytes, bool High, class V>
+V zip(V a, V b) {
+  using E = std::conditional_t<ElementBytes == 1, std::uint8_t,
+                               std::conditional_t<ElementBytes == 2, std::uint16_t,
+                                                  std::conditional_t<ElementBytes == 4, std::uint32_t, std::uint64_t>>>;
+  typedef E Elements __attribute__((vector_size(sizeof(V))));
+  constexpr int lane = 16 / ElementBytes, all = int(sizeof(V)) / ElementBytes;
   return [&]<std::size_t... J>(std::index_sequence<J...>) {
-    return __builtin_shufflevector(a, b,
-                                   (int(J) / (2 * ElementBytes) * ElementBytes + int(J) % ElementBytes +
-                                    (High ? 8 : 0) + (int(J) / ElementBytes % 2 ? 16 : 0))...);
+    return V(__builtin_shufflevector(
+        Elements(a), Elements(b),
+        (int(J) / lane * lane + int(J) % lane / 2 + (High ? lane / 2 : 0) + (int(J) % 2 ? all : 0))...));
   }
-  (std::make_index_sequence<16>{});
+  (std::make_index_sequence<std::size_t(all)>{});
+}
+
+// A vector whose lanes come from p, p + step, ...; one of the two widths above.
+template <class V>
+V loadLanes(const std::byte* p, Index step) {
+  const auto lane = [&](Index i) {
+    Quad q;
+    std::memcpy(&q, p + i * step, sizeof q);
+    return q;
+  };
+#if defined(__AVX512BW__) && defined(__AVX512VL__)
+  if constexpr (sizeof(V) == 64) {
+    __m512i v = _mm512_castsi128_si512(__m128i(lane(0)));
+    v = _mm512_inserti32x4(v, __m128i(lane(1)), 1);
+    v = _mm512_inserti32x4(v, __m128i(lane(2)), 2);
+    return V(_mm512_inserti32x4(v, __m128i(lane(3)), 3));
+  }
+#endif
+  if constexpr (sizeof(V) == sizeof(Quad)) return lane(0);
 }
 
 }  // namespace hux::simd

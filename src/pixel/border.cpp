@@ -32,9 +32,26 @@ HuxStatus fits(HuxiSize src, HuxiSize dst, int top, int left) {
 // Writes n copies of a pixel; borders are mostly a few pixels wide, for which laying out a pattern does not pay.
 template <class L, class W>
 void repeatPixel(const Element<W>* pixel, Element<W>* dst, Index n) {
-  if (n >= 64) return Pattern<L, W>(pixel).fill(dst, n);
-  for (Index i = 0; i < n; ++i)
-    for (int c = 0; c < L::processed; ++c) dst[i * L::channels + c] = pixel[c];
+  constexpr int pixelBytes = L::channels * int(sizeof(W)), processedBytes = L::processed * int(sizeof(W));
+  constexpr int period = simd::kBytes / pixelBytes * pixelBytes;
+  struct Repeat {
+    static constexpr int source(int j) { return j < period && j % pixelBytes < processedBytes ? j % pixelBytes : -1; }
+  };
+  if constexpr (simd::kPermutes && simd::kMasks) {
+    const simd::Vec one = simd::load(pixel, simd::lowBytes(processedBytes)), v = simd::permute<Repeat, 1>(&one);
+    for (Index at = 0; at < n * pixelBytes; at += period)
+      simd::store(advance(dst, at), v, simd::written<Repeat>() & simd::lowBytes(n * pixelBytes - at));
+  } else {
+    if (n >= 64) return Pattern<L, W>(pixel).fill(dst, n);
+    for (Index i = 0; i < n; ++i)
+      for (int c = 0; c < L::processed; ++c) dst[i * L::channels + c] = pixel[c];
+  }
+}
+
+// Bytes read and written.
+template <class L, class W>
+Index traffic(HuxiSize src, HuxiSize dst) {
+  return (area(src) + area(dst)) * L::channels * Index(sizeof(W));
 }
 
 template <class L, class T>
@@ -51,23 +68,23 @@ HuxStatus constBorder(const T* pSrc, int srcStep, HuxiSize srcRoi, T* pDst, int 
   const auto fill = [&](Element<W>* at, Index n) {
     if (n > 0) pattern.fill(at, n);
   };
+  const simd::Streaming streaming(traffic<L, W>(srcRoi, dstRoi));
   for (Index y = 0; y < f.top; ++y) fill(dst.row(y), f.fullWidth);
   for (Index y = 0; y < f.height; ++y) {
     Element<W>* row = dst.row(f.top + y);
     fill(row, f.left);
-    copyPixels<L, W>(src.row(y), row + f.left * L::channels, f.width);
+    copyPixels<L, W>(src.row(y), row + f.left * L::channels, f.width, streaming);
     fill(row + (f.left + f.width) * L::channels, f.right);
   }
   for (Index y = 0; y < f.bottom; ++y) fill(dst.row(f.top + f.height + y), f.fullWidth);
   return huxStsOk;
 }
 
-// Fills the borders left and right of the source pixels that stand at their place in a row of the destination.
+// Fills the borders left and right of a row of the destination from a row of the source, which may be in its place.
 template <class L, class W>
-void replicateSides(Element<W>* row, const Frame& f) {
-  Element<W>* source = row + f.left * L::channels;
+void replicateSides(const Element<W>* source, Element<W>* row, const Frame& f) {
   repeatPixel<L, W>(source, row, f.left);
-  repeatPixel<L, W>(source + (f.width - 1) * L::channels, source + f.width * L::channels, f.right);
+  repeatPixel<L, W>(source + (f.width - 1) * L::channels, row + (f.left + f.width) * L::channels, f.right);
 }
 
 template <class L, class T>
@@ -78,10 +95,11 @@ HuxStatus replicateBorder(const T* pSrc, int srcStep, HuxiSize srcRoi, T* pDst, 
   const Frame f = frame(srcRoi, dstRoi, top, left);
   const auto src = wordRows<L>(pSrc, srcStep);
   const auto dst = wordRows<L>(pDst, dstStep);
+  const simd::Streaming streaming(traffic<L, W>(srcRoi, dstRoi));
   for (Index y = 0; y < f.height; ++y) {
     Element<W>* row = dst.row(f.top + y);
-    copyPixels<L, W>(src.row(y), row + f.left * L::channels, f.width);
-    replicateSides<L, W>(row, f);
+    copyPixels<L, W>(src.row(y), row + f.left * L::channels, f.width, streaming);
+    replicateSides<L, W>(src.row(y), row, f);
   }
   for (Index y = 0; y < f.bottom; ++y)
     copyPixels<L, W>(dst.row(f.top + f.height - 1), dst.row(f.top + f.height + y), f.fullWidth);
@@ -105,9 +123,10 @@ HuxStatus replicateBorderInPlace(T* pSrc, int srcDstStep, HuxiSize srcRoi, HuxiS
   using W = Word<T>;
   const Frame f = frame(srcRoi, dstRoi, top, left);
   const auto image = imageAround<L>(pSrc, srcDstStep, f);
-  replicateSides<L, W>(image.row(f.top), f);
+  const auto extend = [&](Index y) { replicateSides<L, W>(image.row(y) + f.left * L::channels, image.row(y), f); };
+  extend(f.top);
   for (Index y = 0; y < f.top; ++y) copyPixels<L, W>(image.row(f.top), image.row(y), f.fullWidth);
-  for (Index y = 1; y < f.height; ++y) replicateSides<L, W>(image.row(f.top + y), f);
+  for (Index y = 1; y < f.height; ++y) extend(f.top + y);
   for (Index y = 0; y < f.bottom; ++y)
     copyPixels<L, W>(image.row(f.top + f.height - 1), image.row(f.top + f.height + y), f.fullWidth);
   return huxStsOk;
@@ -132,10 +151,10 @@ void wrapSides(E* source, Index period, Index left, Index right) {
 }
 
 template <class T>
-void wrapBorder(const Rows<const T>& src, const Rows<T>& dst, const Frame& f) {
+void wrapBorder(const Rows<const T>& src, const Rows<T>& dst, const Frame& f, bool streaming = false) {
   for (Index y = 0; y < f.height; ++y) {
     Element<T>* source = dst.row(f.top + y) + f.left;
-    if (src.row(y) != source) copyPixels<C1, T>(src.row(y), source, f.width);
+    if (src.row(y) != source) copyPixels<C1, T>(src.row(y), source, f.width, streaming);
     wrapSides(source, f.width, f.left, f.right);
   }
   for (Index y = f.top - 1; y >= 0; --y) copyPixels<C1, T>(dst.row(y + f.height), dst.row(y), f.fullWidth);
@@ -145,7 +164,8 @@ void wrapBorder(const Rows<const T>& src, const Rows<T>& dst, const Frame& f) {
 HuxStatus wrapBorder(const Hux32s* pSrc, int srcStep, HuxiSize srcRoi, Hux32s* pDst, int dstStep, HuxiSize dstRoi,
                      int top, int left) {
   if (HuxStatus s = check(pointers(pSrc, pDst), steps(srcStep, dstStep), fits(srcRoi, dstRoi, top, left))) return s;
-  wrapBorder(wordRows<C1>(pSrc, srcStep), wordRows<C1>(pDst, dstStep), frame(srcRoi, dstRoi, top, left));
+  const simd::Streaming streaming(traffic<C1, Hux32s>(srcRoi, dstRoi));
+  wrapBorder(wordRows<C1>(pSrc, srcStep), wordRows<C1>(pDst, dstStep), frame(srcRoi, dstRoi, top, left), streaming);
   return huxStsOk;
 }
 

@@ -8,8 +8,10 @@ namespace {
 
 HuxStatus dup(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roi) {
   if (HuxStatus s = check(pointers(pSrc, pDst), size(roi))) return s;
-  forEachRow(roi, rows<C1>(pSrc, srcStep), rows<C3>(pDst, dstStep),
-             [](auto* src, auto* dst, Index n) { moveRow<Hux8u, Repeated, Interleaved<3>, 3>(src, dst, n); });
+  const simd::Streaming streaming(area(roi) * (1 + 3));
+  forEachRow(roi, rows<C1>(pSrc, srcStep), rows<C3>(pDst, dstStep), [&](auto* src, auto* dst, Index n) {
+    moveRow<Hux8u, Repeated, Interleaved<3>, 3>(src, dst, n, streaming);
+  });
   return huxStsOk;
 }
 
@@ -23,39 +25,89 @@ HuxStatus channelNumbers(const int* dstOrder) {
   return huxStsOk;
 }
 
-// The order is only known at run time, so a group of pixels is split into its channels, and these are put together
-// again in the order asked for. A group is read as a whole before it is written: source and destination may be one
-// image.
+// The order is only known at run time, and so are the indices of the shuffles that reorder a group of pixels. Pixels
+// may lie across vectors: output vector k draws on two windows of the group, one from the start of its first pixel on,
+// the other up to the end of its last.
 template <class L, class W>
-void swapRow(const Element<W>* src, Element<W>* dst, Index n, ChannelOrder order) {
-  using Pixels = Interleaved<L::channels>;
-  constexpr int bytes = sizeof(W);
-  constexpr Index group = simd::kBytes / bytes;
-  constexpr bool whole = L::processed == L::channels;
+class Shuffles {
+ public:
+  static constexpr int pixelBytes = L::channels * int(sizeof(W));
+  static constexpr int vectors = L::channels;
+  static constexpr Index pixels = simd::kBytes / Index(sizeof(W));
+  static constexpr bool whole = L::processed == L::channels;
+
+  explicit Shuffles(ChannelOrder order) {
+    for (int at = 0; at < vectors * simd::kBytes; ++at) {
+      const int channel = at % pixelBytes / int(sizeof(W)), k = at / simd::kBytes;
+      const int from = channel < 3 ? at + (order.from[channel] - channel) * int(sizeof(W)) : at;
+      const int inFirst = from - firstWindow(k), inLast = from - lastWindow(k);
+      index_[k][at % simd::kBytes] = std::uint8_t(inFirst < simd::kBytes ? inFirst : simd::kBytes + inLast);
+    }
+  }
+
+  enum Mode { Whole, Stream, Part };
+
+  // Moves a group, or its first `left` pixels. It is read as a whole before it is written: source and destination may
+  // be one image.
+  template <Mode M>
+  void move(const Element<W>* src, Element<W>* dst, Index left = pixels) const {
+    const Index bytes = left * pixelBytes - (L::channels - L::processed) * Index(sizeof(W));
+    const auto window = [&](int at) {
+      return M == Part ? simd::load(advance(src, at), simd::lowBytes(bytes - at)) : simd::load(advance(src, at));
+    };
+    simd::Vec out[vectors];
+    for (int k = 0; k < vectors; ++k)
+      out[k] = simd::permuteBy(window(firstWindow(k)), window(lastWindow(k)), index_[k]);
+    for (int k = 0; k < vectors; ++k) {
+      auto* to = advance(dst, k * simd::kBytes);
+      if constexpr (M == Part)
+        simd::store(to, out[k], kWritten & simd::lowBytes(bytes - k * simd::kBytes));
+      else if constexpr (M == Stream)
+        simd::stream(to, out[k]);
+      else if constexpr (whole)
+        simd::store(to, out[k]);
+      else
+        simd::store(to, out[k], kWritten);
+    }
+  }
+
+ private:
+  static constexpr int firstWindow(int k) { return k * simd::kBytes / pixelBytes * pixelBytes; }
+  static constexpr int lastWindow(int k) {
+    return ((k + 1) * simd::kBytes + pixelBytes - 1) / pixelBytes * pixelBytes - simd::kBytes;
+  }
+  static constexpr simd::Mask kWritten = [] {
+    simd::Mask mask = 0;
+    for (int j = 0; j < simd::kBytes; ++j)
+      mask |= simd::Mask(whole || j % pixelBytes / int(sizeof(W)) < L::processed) << j;
+    return mask;
+  }();
+
+  simd::Vec index_[vectors];
+};
+
+template <class L, class W>
+void swapRow(const Element<W>* src, Element<W>* dst, Index n, const Shuffles<L, W>& shuffles, ChannelOrder order,
+             bool streaming) {
+  using S = Shuffles<L, W>;
   Index i = 0;
-  if constexpr (simd::kPermutes && (whole || simd::kMasks)) {
-    for (; i + group <= n; i += group) {
-      simd::Vec in[L::channels], split[3];
-      for (int k = 0; k < L::channels; ++k) in[k] = simd::load(Pixels::vectorAt(src, i, k));
-      const auto channel = [&]<int C>(std::integral_constant<int, C>) {
-        split[C] = simd::permute<detail::MoveMap<Pixels, Planar<3>, bytes, 3, C>, L::channels>(in);
-      };
-      channel(std::integral_constant<int, 0>{}), channel(std::integral_constant<int, 1>{}),
-          channel(std::integral_constant<int, 2>{});
-      const simd::Vec ordered[3] = {split[order.from[0]], split[order.from[1]], split[order.from[2]]};
-      [&]<std::size_t... Out>(std::index_sequence<Out...>) {
-        (
-            [&] {
-              using Map = detail::MoveMap<Planar<3>, Pixels, bytes, 3, int(Out)>;
-              auto* to = Pixels::vectorAt(dst, i, int(Out));
-              if constexpr (whole)
-                simd::store(to, simd::permute<Map, 3>(ordered));
-              else
-                simd::store(to, simd::permute<Map, 3>(ordered), simd::written<Map>());
-            }(),
-            ...);
+  const auto move = [&]<typename S::Mode M>(std::integral_constant<typename S::Mode, M>, Index left) {
+    shuffles.template move<M>(src + i * L::channels, dst + i * L::channels, left);
+  };
+  if constexpr (simd::kPermutes && (S::whole || simd::kMasks)) {
+    const std::integral_constant<typename S::Mode, S::Part> part;
+    if constexpr (S::whole && simd::kStreams && simd::kMasks) {
+      const Index head = streaming ? simd::pixelsToBoundary(dst, S::pixelBytes) : -1;
+      if (head >= 0 && head <= n) {
+        if (head > 0) move(part, head);
+        for (i = head; i + S::pixels <= n; i += S::pixels)
+          move(std::integral_constant<typename S::Mode, S::Stream>{}, S::pixels);
       }
-      (std::make_index_sequence<L::channels>{});
+    }
+    for (; i + S::pixels <= n; i += S::pixels) move(std::integral_constant<typename S::Mode, S::Whole>{}, S::pixels);
+    if constexpr (simd::kMasks) {
+      if (i < n) move(part, n - i);
+      return;
     }
   }
   for (; i < n; ++i) {
@@ -72,8 +124,11 @@ HuxStatus swapChannels(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSiz
                           [&] { return channelNumbers(dstOrder); }))
     return s;
   const ChannelOrder order = {{dstOrder[0], dstOrder[1], dstOrder[2]}};
+  const Shuffles<L, Word<T>> shuffles(order);
+  // In place every line has been read: nothing is gained by going past the cache.
+  const simd::Streaming streaming(pSrc == pDst ? 0 : area(roi) * 2 * L::channels * Index(sizeof(T)));
   forEachRow(roi, wordRows<L>(pSrc, srcStep), wordRows<L>(pDst, dstStep),
-             [&](auto* src, auto* dst, Index n) { swapRow<L, Word<T>>(src, dst, n, order); });
+             [&](auto* src, auto* dst, Index n) { swapRow<L, Word<T>>(src, dst, n, shuffles, order, streaming); });
   return huxStsOk;
 }
 

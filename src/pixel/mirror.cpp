@@ -24,39 +24,77 @@ struct Group {
     }
   };
 
+  // Bytes `from` to `to` of a group; what lies outside is not touched.
+  struct Range {
+    Index from, to;
+    simd::Mask mask(int k) const {
+      return simd::lowBytes(to - k * simd::kBytes) & ~simd::lowBytes(from - k * simd::kBytes);
+    }
+  };
+  static constexpr Range first(Index count) { return {0, count * pixelBytes}; }
+  static constexpr Range last(Index count) { return {(pixels - count) * pixelBytes, pixels * pixelBytes}; }
+
   simd::Vec in[vectors];
 
   void load(const Element<W>* src) {
     for (int k = 0; k < vectors; ++k) in[k] = simd::load(advance(src, k * simd::kBytes));
   }
-  void storeReversed(Element<W>* dst) const {
+  void load(const Element<W>* src, Range range) {
+    for (int k = 0; k < vectors; ++k) in[k] = simd::load(advance(src, k * simd::kBytes), range.mask(k));
+  }
+  // Calls put(k, vector, bytes that a pixel of the layout writes).
+  template <class Put>
+  void reversed(Put put) const {
     [&]<std::size_t... Out>(std::index_sequence<Out...>) {
-      (
-          [&] {
-            using Map = Reverse<int(Out)>;
-            auto* to = advance(dst, Index(Out) * simd::kBytes);
-            const simd::Vec v = simd::permute<Map, vectors>(in);
-            if constexpr (whole)
-              simd::store(to, v);
-            else
-              simd::store(to, v, simd::written<Map>());
-          }(),
-          ...);
+      (put(int(Out), simd::permute<Reverse<int(Out)>, vectors>(in), simd::written<Reverse<int(Out)>>()), ...);
     }
     (std::make_index_sequence<vectors>{});
+  }
+  void storeReversed(Element<W>* dst) const {
+    reversed([&](int k, simd::Vec v, simd::Mask written) {
+      if constexpr (whole)
+        simd::store(advance(dst, k * simd::kBytes), v);
+      else
+        simd::store(advance(dst, k * simd::kBytes), v, written);
+    });
+  }
+  void storeReversed(Element<W>* dst, Range range) const {
+    reversed([&](int k, simd::Vec v, simd::Mask written) {
+      simd::store(advance(dst, k * simd::kBytes), v, written & range.mask(k));
+    });
+  }
+  void streamReversed(Element<W>* dst) const {
+    reversed([&](int k, simd::Vec v, simd::Mask) { simd::stream(advance(dst, k * simd::kBytes), v); });
   }
 };
 
 // dst[i] = src[n - 1 - i], pixel by pixel.
 template <class L, class W>
-void reverseRow(const Element<W>* src, Element<W>* dst, Index n) {
+void reverseRow(const Element<W>* src, Element<W>* dst, Index n, bool streaming) {
   using G = Group<L, W>;
   Index i = 0;
   if constexpr (G::vectorised) {
     G group;
-    for (; i + G::pixels <= n; i += G::pixels) {
-      group.load(src + (n - i - G::pixels) * L::channels);
-      group.storeReversed(dst + i * L::channels);
+    // The group of source pixels that go to `at` and behind.
+    const auto source = [=](Index at) { return src + (n - at - G::pixels) * L::channels; };
+    const auto part = [&](Index at, Index count) {
+      group.load(source(at), G::last(count));
+      group.storeReversed(dst + at * L::channels, G::first(count));
+    };
+    if constexpr (G::whole && simd::kStreams && simd::kMasks) {
+      const Index head = streaming ? simd::pixelsToBoundary(dst, G::pixelBytes) : -1;
+      if (head >= 0 && head <= n) {
+        if (head > 0) part(0, head);
+        // Last group first: memory is read forwards, which it is better at.
+        i = head + (n - head) / G::pixels * G::pixels;
+        for (Index at = i - G::pixels; at >= head; at -= G::pixels)
+          group.load(source(at)), group.streamReversed(dst + at * L::channels);
+      }
+    }
+    for (; i + G::pixels <= n; i += G::pixels) group.load(source(i)), group.storeReversed(dst + i * L::channels);
+    if constexpr (simd::kMasks) {
+      if (i < n) part(i, n - i);
+      return;
     }
   }
   for (; i < n; ++i)
@@ -71,11 +109,18 @@ void exchangeReversed(Element<W>* a, Element<W>* b, Index n, Index pairs) {
   Index i = 0;
   if constexpr (G::vectorised) {
     G left, right;
+    const auto atA = [&] { return a + i * L::channels; };
+    const auto atB = [&] { return b + (n - i - G::pixels) * L::channels; };
     for (; i + G::pixels <= pairs; i += G::pixels) {
-      Element<W>* atA = a + i * L::channels;
-      Element<W>* atB = b + (n - i - G::pixels) * L::channels;
-      left.load(atA), right.load(atB);
-      left.storeReversed(atB), right.storeReversed(atA);
+      left.load(atA()), right.load(atB());
+      left.storeReversed(atB()), right.storeReversed(atA());
+    }
+    if constexpr (simd::kMasks) {
+      if (i == pairs) return;
+      const auto first = G::first(pairs - i), last = G::last(pairs - i);
+      left.load(atA(), first), right.load(atB(), last);
+      left.storeReversed(atB(), last), right.storeReversed(atA(), first);
+      return;
     }
   }
   for (; i < pairs; ++i)
@@ -104,12 +149,13 @@ HuxStatus mirror(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi,
   using W = Word<T>;
   const auto src = wordRows<L>(pSrc, srcStep);
   const auto dst = wordRows<L>(pDst, dstStep);
+  const simd::Streaming streaming(area(roi) * 2 * L::channels * Index(sizeof(T)));
   for (Index y = 0; y < roi.height; ++y) {
     Element<W>* to = dst.row(flip == huxAxsVertical ? y : roi.height - 1 - y);
     if (flip == huxAxsHorizontal)
-      copyPixels<L, W>(src.row(y), to, roi.width);
+      copyPixels<L, W>(src.row(y), to, roi.width, streaming);
     else
-      reverseRow<L, W>(src.row(y), to, roi.width);
+      reverseRow<L, W>(src.row(y), to, roi.width, streaming);
   }
   return huxStsOk;
 }

@@ -12,6 +12,8 @@
 
 namespace hux {
 
+constexpr Index area(HuxiSize size) { return Index(size.width) * size.height; }
+
 // A side whose pixels lie `Stride` elements apart in one row.
 template <int Stride>
 struct Interleaved {
@@ -32,6 +34,11 @@ struct Interleaved {
   static constexpr Index bytesLeft(Index left, int taken, int elementBytes, int k) {
     return ((left - 1) * Stride + taken) * elementBytes - k * simd::kBytes;
   }
+  // Pixels to pass until the vectors of a group can be streamed; -1 where they never can.
+  template <class E>
+  static Index toBoundary(E* row) {
+    return simd::pixelsToBoundary(row, Stride * int(sizeof(E)));
+  }
 };
 
 // A side with a plane for each element.
@@ -49,6 +56,13 @@ struct Planar {
     return row[k] + pixel;
   }
   static constexpr Index bytesLeft(Index left, int, int elementBytes, int) { return left * elementBytes; }
+  template <class E>
+  static Index toBoundary(const std::array<E*, Planes>& row) {
+    const Index pixels = simd::pixelsToBoundary(row[0], sizeof(E));
+    for (E* plane : row)
+      if (simd::pixelsToBoundary(plane, sizeof(E)) != pixels) return -1;
+    return pixels;
+  }
 };
 
 // A one-channel side whose element serves every channel of the other.
@@ -116,9 +130,9 @@ void moveEach(const SrcRow& src, const DstRow& dst, Index first, Index n) {
     for (int c = 0; c < Taken; ++c) Dst::at(dst, i, c) = Src::at(src, i, c);
 }
 
-// Moves `Taken` elements of each of n pixels of type W.
+// Moves `Taken` elements of each of n pixels of type W. Destinations of which every byte is written can be streamed.
 template <class W, class Src, class Dst, int Taken, class SrcRow, class DstRow>
-void moveRow(const SrcRow& src, const DstRow& dst, Index n) {
+void moveRow(SrcRow src, DstRow dst, Index n, bool streaming = false) {
   constexpr int bytes = sizeof(W);
   constexpr Index group = simd::kBytes / bytes;
   constexpr auto outs = std::make_index_sequence<Dst::vectors>{};
@@ -126,21 +140,30 @@ void moveRow(const SrcRow& src, const DstRow& dst, Index n) {
   Index i = 0;
   if constexpr (simd::kPermutes && (whole || simd::kMasks)) {
     if (apart<Src, Dst>(src, dst, n, bytes)) {
-      const auto moveGroup = [&]<bool Partial, std::size_t... Out>(std::bool_constant<Partial>,
-                                                                   std::index_sequence<Out...>) {
-        simd::Vec in[Src::vectors];
-        for (int k = 0; k < Src::vectors; ++k) {
+      enum Mode { Whole, Stream, Part };
+      const auto moveGroup = [&]<Mode M, std::size_t... Out>(std::integral_constant<Mode, M>, Index left,
+                                                             std::index_sequence<Out...>) {
+        const auto read = [&](int k) {
           const auto* from = Src::vectorAt(src, i, k);
-          in[k] = Partial ? simd::load(from, simd::lowBytes(Src::bytesLeft(n - i, Taken, bytes, k))) : simd::load(from);
-        }
+          return M == Part ? simd::load(from, simd::lowBytes(Src::bytesLeft(left, Taken, bytes, k))) : simd::load(from);
+        };
+        // Between equal sides a vector draws on its counterpart alone: then one is read as one is written, which keeps
+        // a prefetcher in step.
+        constexpr bool paired = std::is_same_v<Src, Dst>;
+        simd::Vec in[Src::vectors];
+        if constexpr (!paired)
+          for (int k = 0; k < Src::vectors; ++k) in[k] = read(k);
         (
             [&] {
+              if constexpr (paired) in[Out] = read(int(Out));
               using Map = detail::MoveMap<Src, Dst, bytes, Taken, int(Out)>;
               constexpr simd::Mask written = simd::written<Map>();
               auto* to = Dst::vectorAt(dst, i, int(Out));
               const simd::Vec v = simd::permute<Map, Src::vectors>(in);
-              if constexpr (Partial)
-                simd::store(to, v, written & simd::lowBytes(Dst::bytesLeft(n - i, Taken, bytes, int(Out))));
+              if constexpr (M == Part)
+                simd::store(to, v, written & simd::lowBytes(Dst::bytesLeft(left, Taken, bytes, int(Out))));
+              else if constexpr (M == Stream)
+                simd::stream(to, v);
               else if constexpr (written == simd::kAll)
                 simd::store(to, v);
               else if constexpr (written != 0)
@@ -150,9 +173,18 @@ void moveRow(const SrcRow& src, const DstRow& dst, Index n) {
       };
       // A group of a source that has elements behind the last one taken may reach past the row: it is left to the end.
       constexpr Index margin = Src::stride > Taken ? 1 : 0;
-      for (; i + group + margin <= n; i += group) moveGroup(std::false_type{}, outs);
+      constexpr std::integral_constant<Mode, Part> part;
+      if constexpr (whole && simd::kStreams && simd::kMasks) {
+        const Index head = streaming ? Dst::toBoundary(dst) : -1;
+        if (head >= 0 && head <= n) {
+          if (head > 0) moveGroup(part, head, outs);
+          for (i = head; i + group + margin <= n; i += group)
+            moveGroup(std::integral_constant<Mode, Stream>{}, group, outs);
+        }
+      }
+      for (; i + group + margin <= n; i += group) moveGroup(std::integral_constant<Mode, Whole>{}, group, outs);
       if constexpr (simd::kMasks) {
-        if (i < n) moveGroup(std::true_type{}, outs);
+        if (i < n) moveGroup(part, n - i, outs);
         return;
       }
     }
@@ -162,9 +194,9 @@ void moveRow(const SrcRow& src, const DstRow& dst, Index n) {
 
 // Moves n pixels between images of one layout: all that it processes, and nothing else.
 template <class L, class W>
-void copyPixels(const Element<W>* src, Element<W>* dst, Index n) {
+void copyPixels(const Element<W>* src, Element<W>* dst, Index n, bool streaming = false) {
   if constexpr (L::processed == L::channels)
-    ownsCopy_8u(src, dst, n * L::channels * Index(sizeof(W)), sizeof(W));
+    ownsCopy_8u(src, dst, n * L::channels * Index(sizeof(W)), sizeof(W), streaming);
   else
     moveRow<W, Interleaved<L::channels>, Interleaved<L::channels>, L::processed>(src, dst, n);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 
 #include "core/rows.h"
 #include "core/simd.h"
@@ -24,29 +25,38 @@ class Pattern {
   W element(int c) const { return elements_[c]; }
   simd::Vec vector(int k) const { return simd::load(elements_ + k * (simd::kBytes / Index(sizeof(W)))); }
 
-  // Bytes of vector k that are written.
-  static constexpr simd::Mask written(int k) {
-    simd::Mask mask = 0;
-    for (int j = 0; j < simd::kBytes; ++j)
-      mask |= simd::Mask((k * simd::kBytes + j) / int(sizeof(W)) % L::channels < L::processed) << j;
-    return mask;
-  }
+  // Bytes of each vector that are written.
+  static constexpr auto written = [] {
+    std::array<simd::Mask, vectors> masks{};
+    for (int j = 0; j < bytes; ++j)
+      masks[std::size_t(j / simd::kBytes)] |= simd::Mask(j / int(sizeof(W)) % L::channels < L::processed)
+                                              << j % simd::kBytes;
+    return masks;
+  }();
 
   // Writes the pixel n times.
-  void fill(Element<W>* dst, Index n) const {
+  void fill(Element<W>* dst, Index n, bool streaming = false) const {
     const Index end = ((n - 1) * L::channels + L::processed) * Index(sizeof(W));
     if constexpr (whole || simd::kMasks) {
       simd::Vec v[vectors];
       for (int k = 0; k < vectors; ++k) v[k] = vector(k);
       Index at = 0;
+      if constexpr (whole) {
+        const Index head = streaming ? simd::pixelsToBoundary(dst, L::channels * int(sizeof(W))) : -1;
+        if (head >= 0 && head <= n) {
+          at = head * L::channels * Index(sizeof(W));
+          std::memcpy(dst, elements_, std::size_t(at));
+          for (; at + bytes <= end; at += bytes)
+            for (int k = 0; k < vectors; ++k) simd::stream(advance(dst, at + k * simd::kBytes), v[k]);
+        }
+      }
       for (; at + bytes <= end; at += bytes)
         for (int k = 0; k < vectors; ++k) put(advance(dst, at + k * simd::kBytes), v[k], k);
-      if constexpr (whole) {
-        std::memcpy(advance(dst, at), elements_, std::size_t(end - at));
+      if constexpr (simd::kMasks) {
+        for (int k = 0; k < vectors && at < end; ++k, at += simd::kBytes)
+          simd::store(advance(dst, at), v[k], written[std::size_t(k)] & simd::lowBytes(end - at));
       } else {
-        for (int k = 0; k < vectors; ++k)
-          simd::store(advance(dst, at + k * simd::kBytes), v[k],
-                      written(k) & simd::lowBytes(end - at - k * simd::kBytes));
+        std::memcpy(advance(dst, at), elements_, std::size_t(end - at));
       }
     } else {
       for (Index i = 0; i < n; ++i)
@@ -61,7 +71,7 @@ class Pattern {
     if constexpr (whole)
       simd::store(to, v);
     else
-      simd::store(to, v, written(k));
+      simd::store(to, v, written[std::size_t(k)]);
   }
 
   W elements_[count];

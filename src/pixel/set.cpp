@@ -14,7 +14,8 @@ HuxStatus set(const T* pPixel, T* pDst, int dstStep, HuxiSize roi) {
   if (HuxStatus s = check(pointers(pPixel, pDst), size(roi), steps(dstStep))) return s;
   using W = Word<T>;
   const Pattern<L, W> pattern(reinterpret_cast<const Element<W>*>(pPixel));
-  forEachRow(roi, wordRows<L>(pDst, dstStep), [&](auto* dst, Index n) { pattern.fill(dst, n); });
+  const simd::Streaming streaming(Index(roi.width) * roi.height * L::channels * Index(sizeof(T)));
+  forEachRow(roi, wordRows<L>(pDst, dstStep), [&](auto* dst, Index n) { pattern.fill(dst, n, streaming); });
   return huxStsOk;
 }
 

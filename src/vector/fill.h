@@ -11,7 +11,7 @@ void ownsSet_32s(Hux32s value, Element<Hux32s>* pDst, Index len);
 void ownsZero_8u(void* pDst, Index bytes);
 
 // Elements of `elementBytes` go first to last: where the destination starts inside the source, what was already written
-// is read again, as element-wise code does.
-void ownsCopy_8u(const void* pSrc, void* pDst, Index bytes, int elementBytes);
+// is read again, as element-wise code does. `streaming` tells that the row is part of more than a cache holds.
+void ownsCopy_8u(const void* pSrc, void* pDst, Index bytes, int elementBytes, bool streaming = false);
 
 }  // namespace hux
