@@ -143,19 +143,14 @@ void moveRow(SrcRow src, DstRow dst, Index n, bool streaming = false) {
       enum Mode { Whole, Stream, Part };
       const auto moveGroup = [&]<Mode M, std::size_t... Out>(std::integral_constant<Mode, M>, Index left,
                                                              std::index_sequence<Out...>) {
-        const auto read = [&](int k) {
-          const auto* from = Src::vectorAt(src, i, k);
-          return M == Part ? simd::load(from, simd::lowBytes(Src::bytesLeft(left, Taken, bytes, k))) : simd::load(from);
-        };
-        // Between equal sides a vector draws on its counterpart alone: then one is read as one is written, which keeps
-        // a prefetcher in step.
-        constexpr bool paired = std::is_same_v<Src, Dst>;
         simd::Vec in[Src::vectors];
-        if constexpr (!paired)
-          for (int k = 0; k < Src::vectors; ++k) in[k] = read(k);
+        for (int k = 0; k < Src::vectors; ++k) {
+          const auto* from = Src::vectorAt(src, i, k);
+          in[k] =
+              M == Part ? simd::load(from, simd::lowBytes(Src::bytesLeft(left, Taken, bytes, k))) : simd::load(from);
+        }
         (
             [&] {
-              if constexpr (paired) in[Out] = read(int(Out));
               using Map = detail::MoveMap<Src, Dst, bytes, Taken, int(Out)>;
               constexpr simd::Mask written = simd::written<Map>();
               auto* to = Dst::vectorAt(dst, i, int(Out));

@@ -10,7 +10,7 @@
 namespace hux::test {
 namespace {
 
-// Mappings of images gone, by size, for those to come: system calls and first touches of pages would otherwise take
+// Mappings of small images gone, by size, for those to come: system calls and first touches of pages would otherwise take
 // more of a test's time than its comparisons.
 thread_local std::map<std::size_t, std::vector<std::byte*>> spareMappings;
 
@@ -45,7 +45,13 @@ Image::Image(const Image& other)
   std::memcpy(memory_, other.memory_, bytes_);
 }
 
-Image::~Image() { spareMappings[mapped_].push_back(mapping_); }
+Image::~Image() {
+  constexpr std::size_t kLarge = 1 << 20;
+  if (mapped_ < kLarge)
+    spareMappings[mapped_].push_back(mapping_);
+  else
+    munmap(mapping_, mapped_);
+}
 
 // The bytes lie between two unreadable pages, against the one or the other.
 void Image::allocate() {
