@@ -88,6 +88,19 @@ Colour setRegions(const Photos&) {
   return out;
 }
 
+// The green channel, which looks most like brightness.
+Gray green(const Photos& in) {
+  Gray plane(kWhole);
+  HUX_DO(huxiCopy_8u_C3C1R(in.raccoon.at(0, 0) + 1, in.raccoon.step(), plane.at(0, 0), plane.step(), kWhole));
+  return plane;
+}
+
+Colour shown(const Gray& plane) {
+  Colour out(plane.size());
+  HUX_DO(huxiDup_8u_C1C3R(plane.at(0, 0), plane.step(), out.at(0, 0), out.step(), plane.size()));
+  return out;
+}
+
 // A mask that is set in a disc, made of one region for each of its rows.
 Gray disc(HuxiSize size, HuxiPoint centre, int radius) {
   Gray mask(size);
@@ -101,10 +114,7 @@ Gray disc(HuxiSize size, HuxiPoint centre, int radius) {
 
 Colour maskedCopy(const Photos& in) {
   const Colour& src = in.raccoon;
-  Gray green(kWhole);
-  HUX_DO(huxiCopy_8u_C3C1R(src.at(0, 0) + 1, src.step(), green.at(0, 0), green.step(), kWhole));
-  Colour out(kWhole);
-  HUX_DO(huxiDup_8u_C1C3R(green.at(0, 0), green.step(), out.at(0, 0), out.step(), kWhole));
+  Colour out = shown(green(in));
   const HuxiPoint head = {690, 300};
   const Gray rim = disc(kWhole, head, 290), inside = disc(kWhole, head, 280);
   const Hux8u white[3] = {255, 255, 255};
@@ -190,6 +200,66 @@ Colour transpose(const Photos& in) {
   return out;
 }
 
+// Contrast and brightness by integer arithmetic: a scale factor of 1 halves, one of -1 doubles, with saturation.
+Colour contrast(const Photos& in) {
+  const int step = in.raccoon.step();
+  const Hux8u half[3] = {1, 1, 1}, base[3] = {50, 50, 50}, gain[3] = {3, 3, 3}, warm[3] = {60, 30, 0};
+  Colour out(kWhole);
+  HUX_DO(huxiMulC_8u_C3RSfs(face(in), step, half, quarter(out, 0), out.step(), kFace, 1));
+  HUX_DO(huxiSubC_8u_C3RSfs(face(in), step, base, quarter(out, 1), out.step(), kFace, 0));
+  HUX_DO(huxiMulC_8u_C3IRSfs(gain, quarter(out, 1), out.step(), kFace, 1));
+  HUX_DO(huxiAddC_8u_C3RSfs(face(in), step, warm, quarter(out, 2), out.step(), kFace, 0));
+  HUX_DO(huxiMul_8u_C3RSfs(face(in), step, face(in), step, quarter(out, 3), out.step(), kFace, 8));
+  return out;
+}
+
+// A picture with alpha: colours from one place, alpha from another.
+Image<Hux8u, 4> withAlpha(const Hux8u* colours, int step, const Gray& alpha, HuxiSize size) {
+  Image<Hux8u, 4> image(size);
+  HUX_DO(huxiCopy_8u_C3AC4R(colours, step, image.at(0, 0), image.step(), size));
+  HUX_DO(huxiCopy_8u_C1C4R(alpha.at(0, 0), alpha.step(), image.at(0, 0) + 3, image.step(), size));
+  return image;
+}
+
+Colour overlay(const Photos& in) {
+  Colour stairs(kFace);
+  HUX_DO(huxiDup_8u_C1C3R(in.stairs.at(0, 64), in.stairs.step(), stairs.at(0, 0), stairs.step(), kFace));
+  const Gray round = disc(kFace, {250, 190}, 180);
+  Gray fading(kFace);
+  for (int x = 0; x < kFace.width; ++x)
+    HUX_DO(huxiSet_8u_C1R(Hux8u(255 - x / 2), fading.at(x, 0), fading.step(), {1, kFace.height}));
+  const auto front = withAlpha(face(in), in.raccoon.step(), round, kFace);
+  const auto back = withAlpha(stairs.at(0, 0), stairs.step(), fading, kFace);
+  const HuxiAlphaType rules[4] = {huxAlphaOver, huxAlphaATop, huxAlphaXor, huxAlphaPlus};
+  Image<Hux8u, 4> composed(kFace);
+  Colour out(kWhole);
+  for (int i = 0; i < 4; ++i) {
+    HUX_DO(huxiAlphaComp_8u_AC4R(front.at(0, 0), front.step(), back.at(0, 0), back.step(), composed.at(0, 0),
+                                 composed.step(), kFace, rules[i]));
+    HUX_DO(huxiCopy_8u_AC4C3R(composed.at(0, 0), composed.step(), quarter(out, i), out.step(), kFace));
+  }
+  return out;
+}
+
+Colour halftone(const Photos& in) {
+  Gray plane = green(in);
+  Gray bits({kWhole.width / 8, kWhole.height});
+  HUX_DO(huxiConvert_8u1u_C1R(plane.at(0, 0), plane.step(), bits.at(0, 0), bits.step(), 0, kWhole, 128));
+  HUX_DO(huxiConvert_1u8u_C1R(bits.at(0, 0), bits.step(), 0, plane.at(0, 0), plane.step(), kWhole));
+  return shown(plane);
+}
+
+Colour binarised(const Photos& in) {
+  const Gray plane = green(in);
+  Gray mask(kWhole);
+  HUX_DO(huxiCompareC_8u_C1R(plane.at(0, 0), plane.step(), 110, mask.at(0, 0), mask.step(), kWhole, huxCmpGreater));
+  Colour out = shown(mask);
+  // To the right, the photograph where the mask is set.
+  const HuxiSize right = {kWhole.width / 2, kWhole.height};
+  HUX_DO(huxiAnd_8u_C3IR(in.raccoon.at(right.width, 0), in.raccoon.step(), out.at(right.width, 0), out.step(), right));
+  return out;
+}
+
 // The tour. A step takes the photographs, works with functions of the library only, and returns its picture. The name
 // is that of its file and, with spaces for hyphens, its title.
 struct Step {
@@ -210,6 +280,10 @@ constexpr Step kSteps[] = {
     {"wrapped-border", "a frame of the periodic continuation", wrappedBorder},
     {"mirror", "as it is; vertical, horizontal, both axes", mirror},
     {"transpose", "rows become columns", transpose},
+    {"contrast", "half; from 50 by 1.5; warmer; squared", contrast},
+    {"overlay", "over, atop, xor, plus", overlay},
+    {"halftone", "one bit for each pixel", halftone},
+    {"binarised", "above 110; the photograph there", binarised},
 };
 
 // The result of a step and the shortest of three runs, memory for the pictures included.

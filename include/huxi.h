@@ -10,6 +10,7 @@
 #define HUXI_H
 
 #include "huxdefs.h"
+#include "huxi_arith.h"
 #include "huxi_pixel.h"
 
 HUX_BEGIN_C

@@ -240,6 +240,167 @@ HUX_API HuxStatus huxiSet_32s_AC4MR(const Hux32s* pValue, Hux32s* pDst, int dstS
 HUX_API HuxStatus huxiSet_32f_AC4MR(const Hux32f* pValue, Hux32f* pDst, int dstStep, HuxiSize roiSize,
                                     const Hux8u* pMask, int maskStep);
 
+/* Convert: the same value in another type; integers that do not fit are saturated. From 32f: rounded by roundMode
+ * (huxRndNear: to nearest, ties to even, with the half added in single precision; any other value: towards zero) and
+ * saturated; NaN gives the lower limit. AC4: alpha of the destination stays.
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), steps (huxStsBadStep). */
+HUX_API HuxStatus huxiConvert_8u16u_C1R(const Hux8u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u16u_C3R(const Hux8u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u16u_C4R(const Hux8u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u16u_AC4R(const Hux8u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u16s_C1R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u16s_C3R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u16s_C4R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u16s_AC4R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u32s_C1R(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u32s_C3R(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u32s_C4R(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u32s_AC4R(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u32f_C1R(const Hux8u* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u32f_C3R(const Hux8u* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u32f_C4R(const Hux8u* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8u32f_AC4R(const Hux8u* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8s32s_C1R(const Hux8s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8s32s_C3R(const Hux8s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8s32s_C4R(const Hux8s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8s32s_AC4R(const Hux8s* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8s32f_C1R(const Hux8s* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8s32f_C3R(const Hux8s* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8s32f_C4R(const Hux8s* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_8s32f_AC4R(const Hux8s* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16u8u_C1R(const Hux16u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16u8u_C3R(const Hux16u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16u8u_C4R(const Hux16u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16u8u_AC4R(const Hux16u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16u32s_C1R(const Hux16u* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16u32s_C3R(const Hux16u* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16u32s_C4R(const Hux16u* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16u32s_AC4R(const Hux16u* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16u32f_C1R(const Hux16u* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16u32f_C3R(const Hux16u* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16u32f_C4R(const Hux16u* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16u32f_AC4R(const Hux16u* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16s8u_C1R(const Hux16s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16s8u_C3R(const Hux16s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16s8u_C4R(const Hux16s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16s8u_AC4R(const Hux16s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16s32f_C1R(const Hux16s* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16s32f_C3R(const Hux16s* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16s32f_C4R(const Hux16s* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_16s32f_AC4R(const Hux16s* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_32s8u_C1R(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_32s8u_C3R(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_32s8u_C4R(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_32s8u_AC4R(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_32s8s_C1R(const Hux32s* pSrc, int srcStep, Hux8s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_32s8s_C3R(const Hux32s* pSrc, int srcStep, Hux8s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_32s8s_C4R(const Hux32s* pSrc, int srcStep, Hux8s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_32s8s_AC4R(const Hux32s* pSrc, int srcStep, Hux8s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiConvert_32f8u_C1R(const Hux32f* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f8u_C3R(const Hux32f* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f8u_C4R(const Hux32f* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f8u_AC4R(const Hux32f* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                         HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f8s_C1R(const Hux32f* pSrc, int srcStep, Hux8s* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f8s_C3R(const Hux32f* pSrc, int srcStep, Hux8s* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f8s_C4R(const Hux32f* pSrc, int srcStep, Hux8s* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f8s_AC4R(const Hux32f* pSrc, int srcStep, Hux8s* pDst, int dstStep, HuxiSize roiSize,
+                                         HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f16u_C1R(const Hux32f* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                         HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f16u_C3R(const Hux32f* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                         HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f16u_C4R(const Hux32f* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                         HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f16u_AC4R(const Hux32f* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f16s_C1R(const Hux32f* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                         HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f16s_C3R(const Hux32f* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                         HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f16s_C4R(const Hux32f* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                         HuxRoundMode roundMode);
+HUX_API HuxStatus huxiConvert_32f16s_AC4R(const Hux32f* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxRoundMode roundMode);
+
+/* Convert, 1u8u: unpacks bits, most significant first, to 0 or 255; the first bit is bit srcBitOffset & 7 of the
+ * byte at pSrc: an offset of 8 or more does not move on to a later byte. Checks as above, then srcBitOffset below 0
+ * (huxStsBadSize). */
+HUX_API HuxStatus huxiConvert_1u8u_C1R(const Hux8u* pSrc, int srcStep, int srcBitOffset, Hux8u* pDst, int dstStep,
+                                       HuxiSize roiSize);
+/* Convert, 8u1u: halftones by error diffusion to packed bits, most significant first, from bit dstBitOffset & 7 of
+ * the first destination byte. Bits before the offset are kept; bits behind the end are kept where a row ends in a
+ * later byte, and cleared in a first byte that the row does not fill and that has an offset.
+ * Checks: null pointers (huxStsNullPtr), width, height or dstBitOffset (huxStsBadSize), huxStsNoMem. Steps are not
+ * checked. */
+HUX_API HuxStatus huxiConvert_8u1u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, int dstBitOffset,
+                                       HuxiSize roiSize, Hux8u threshold);
+
+/* Scale: maps the full range of one type onto the full range of the other; floats onto or from vMin..vMax. From
+ * integers to 8u, huxAlgHintAccurate rounds to nearest, any other hint takes a quick form that may be one off. 32f8u
+ * gives 255 from vMax on, 0 up to vMin and for NaN, and rounds in between, ties to even. AC4: alpha of the destination
+ * stays.
+ * Checks: 32f forms first of all vMax - vMin not above 0 (huxStsBadScaleRange); then null pointers (huxStsNullPtr),
+ * size (huxStsBadSize), steps (huxStsBadStep). */
+HUX_API HuxStatus huxiScale_8u16u_C1R(const Hux8u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiScale_8u16u_C3R(const Hux8u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiScale_8u16u_C4R(const Hux8u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiScale_8u16u_AC4R(const Hux8u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiScale_8u16s_C1R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiScale_8u16s_C3R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiScale_8u16s_C4R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiScale_8u16s_AC4R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiScale_8u32s_C1R(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiScale_8u32s_C3R(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiScale_8u32s_C4R(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiScale_8u32s_AC4R(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiScale_8u32f_C1R(const Hux8u* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                      Hux32f vMin, Hux32f vMax);
+HUX_API HuxStatus huxiScale_8u32f_C3R(const Hux8u* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                      Hux32f vMin, Hux32f vMax);
+HUX_API HuxStatus huxiScale_8u32f_C4R(const Hux8u* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                      Hux32f vMin, Hux32f vMax);
+HUX_API HuxStatus huxiScale_8u32f_AC4R(const Hux8u* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                       Hux32f vMin, Hux32f vMax);
+HUX_API HuxStatus huxiScale_16u8u_C1R(const Hux16u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                      HuxAccuracyHint hint);
+HUX_API HuxStatus huxiScale_16u8u_C3R(const Hux16u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                      HuxAccuracyHint hint);
+HUX_API HuxStatus huxiScale_16u8u_C4R(const Hux16u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                      HuxAccuracyHint hint);
+HUX_API HuxStatus huxiScale_16u8u_AC4R(const Hux16u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                       HuxAccuracyHint hint);
+HUX_API HuxStatus huxiScale_16s8u_C1R(const Hux16s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                      HuxAccuracyHint hint);
+HUX_API HuxStatus huxiScale_16s8u_C3R(const Hux16s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                      HuxAccuracyHint hint);
+HUX_API HuxStatus huxiScale_16s8u_C4R(const Hux16s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                      HuxAccuracyHint hint);
+HUX_API HuxStatus huxiScale_16s8u_AC4R(const Hux16s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                       HuxAccuracyHint hint);
+HUX_API HuxStatus huxiScale_32s8u_C1R(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                      HuxAccuracyHint hint);
+HUX_API HuxStatus huxiScale_32s8u_C3R(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                      HuxAccuracyHint hint);
+HUX_API HuxStatus huxiScale_32s8u_C4R(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                      HuxAccuracyHint hint);
+HUX_API HuxStatus huxiScale_32s8u_AC4R(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                       HuxAccuracyHint hint);
+HUX_API HuxStatus huxiScale_32f8u_C1R(const Hux32f* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                      Hux32f vMin, Hux32f vMax);
+HUX_API HuxStatus huxiScale_32f8u_C3R(const Hux32f* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                      Hux32f vMin, Hux32f vMax);
+HUX_API HuxStatus huxiScale_32f8u_C4R(const Hux32f* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                      Hux32f vMin, Hux32f vMax);
+HUX_API HuxStatus huxiScale_32f8u_AC4R(const Hux32f* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                       Hux32f vMin, Hux32f vMax);
+
 /* CopyConstBorder: places the source region in the larger destination, topBorderHeight rows down and leftBorderWidth
  * pixels to the right, and fills the frame around it with a constant. AC4: alpha of frame and source is not written.
  * Checks of the three border families: null pSrc, pDst (huxStsNullPtr); steps below 1 (huxStsBadStep); width or

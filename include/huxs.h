@@ -23,6 +23,176 @@ HUX_API Hux64fc* huxsMalloc_64fc(int len);
 /* Frees a vector from huxsMalloc, or an image from huxiMalloc; a null pointer is ignored. */
 HUX_API void huxsFree(void* pVector);
 
+/* Arithmetic on vectors of len elements. Sub is pSrc2 - pSrc1, Div is pSrc2 / pSrc1; in place, pSrcDst stands for
+ * pSrc2. Results are those of the image functions of the same names, see huxi_arith.h.
+ * Checks: null pointers (huxStsNullPtr), len below 1 (huxStsBadSize), then a zero constant divisor (huxStsDivByZero).
+ * Add and Sub on 16sc and 32fc test len first. Div by zero is a warning (huxStsDivByZeroWarn). */
+HUX_API HuxStatus huxsAdd_32f(const Hux32f* pSrc1, const Hux32f* pSrc2, Hux32f* pDst, int len);
+HUX_API HuxStatus huxsAdd_32f_I(const Hux32f* pSrc, Hux32f* pSrcDst, int len);
+HUX_API HuxStatus huxsAdd_32fc(const Hux32fc* pSrc1, const Hux32fc* pSrc2, Hux32fc* pDst, int len);
+HUX_API HuxStatus huxsAdd_32fc_I(const Hux32fc* pSrc, Hux32fc* pSrcDst, int len);
+HUX_API HuxStatus huxsAdd_16s_Sfs(const Hux16s* pSrc1, const Hux16s* pSrc2, Hux16s* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsAdd_16s_ISfs(const Hux16s* pSrc, Hux16s* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsAdd_16sc_Sfs(const Hux16sc* pSrc1, const Hux16sc* pSrc2, Hux16sc* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsAdd_16sc_ISfs(const Hux16sc* pSrc, Hux16sc* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsAdd_32s_Sfs(const Hux32s* pSrc1, const Hux32s* pSrc2, Hux32s* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsAdd_32s_ISfs(const Hux32s* pSrc, Hux32s* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsAdd_32sc_Sfs(const Hux32sc* pSrc1, const Hux32sc* pSrc2, Hux32sc* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsAdd_32sc_ISfs(const Hux32sc* pSrc, Hux32sc* pSrcDst, int len, int scaleFactor);
+
+HUX_API HuxStatus huxsSub_32f(const Hux32f* pSrc1, const Hux32f* pSrc2, Hux32f* pDst, int len);
+HUX_API HuxStatus huxsSub_32f_I(const Hux32f* pSrc, Hux32f* pSrcDst, int len);
+HUX_API HuxStatus huxsSub_32fc(const Hux32fc* pSrc1, const Hux32fc* pSrc2, Hux32fc* pDst, int len);
+HUX_API HuxStatus huxsSub_32fc_I(const Hux32fc* pSrc, Hux32fc* pSrcDst, int len);
+HUX_API HuxStatus huxsSub_16s_Sfs(const Hux16s* pSrc1, const Hux16s* pSrc2, Hux16s* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSub_16s_ISfs(const Hux16s* pSrc, Hux16s* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSub_16sc_Sfs(const Hux16sc* pSrc1, const Hux16sc* pSrc2, Hux16sc* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSub_16sc_ISfs(const Hux16sc* pSrc, Hux16sc* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSub_32s_Sfs(const Hux32s* pSrc1, const Hux32s* pSrc2, Hux32s* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSub_32s_ISfs(const Hux32s* pSrc, Hux32s* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSub_32sc_Sfs(const Hux32sc* pSrc1, const Hux32sc* pSrc2, Hux32sc* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSub_32sc_ISfs(const Hux32sc* pSrc, Hux32sc* pSrcDst, int len, int scaleFactor);
+
+HUX_API HuxStatus huxsAddC_32fc(const Hux32fc* pSrc, Hux32fc value, Hux32fc* pDst, int len);
+HUX_API HuxStatus huxsAddC_32fc_I(Hux32fc value, Hux32fc* pSrcDst, int len);
+HUX_API HuxStatus huxsAddC_16sc_Sfs(const Hux16sc* pSrc, Hux16sc value, Hux16sc* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsAddC_16sc_ISfs(Hux16sc value, Hux16sc* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsAddC_32sc_Sfs(const Hux32sc* pSrc, Hux32sc value, Hux32sc* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsAddC_32sc_ISfs(Hux32sc value, Hux32sc* pSrcDst, int len, int scaleFactor);
+
+HUX_API HuxStatus huxsSubC_32f(const Hux32f* pSrc, Hux32f value, Hux32f* pDst, int len);
+HUX_API HuxStatus huxsSubC_32f_I(Hux32f value, Hux32f* pSrcDst, int len);
+HUX_API HuxStatus huxsSubC_32fc(const Hux32fc* pSrc, Hux32fc value, Hux32fc* pDst, int len);
+HUX_API HuxStatus huxsSubC_32fc_I(Hux32fc value, Hux32fc* pSrcDst, int len);
+HUX_API HuxStatus huxsSubC_16sc_Sfs(const Hux16sc* pSrc, Hux16sc value, Hux16sc* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSubC_16sc_ISfs(Hux16sc value, Hux16sc* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSubC_32sc_Sfs(const Hux32sc* pSrc, Hux32sc value, Hux32sc* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSubC_32sc_ISfs(Hux32sc value, Hux32sc* pSrcDst, int len, int scaleFactor);
+
+HUX_API HuxStatus huxsMul_32fc(const Hux32fc* pSrc1, const Hux32fc* pSrc2, Hux32fc* pDst, int len);
+HUX_API HuxStatus huxsMul_32fc_I(const Hux32fc* pSrc, Hux32fc* pSrcDst, int len);
+HUX_API HuxStatus huxsMul_64fc_I(const Hux64fc* pSrc, Hux64fc* pSrcDst, int len);
+HUX_API HuxStatus huxsMul_16sc_Sfs(const Hux16sc* pSrc1, const Hux16sc* pSrc2, Hux16sc* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsMul_16sc_ISfs(const Hux16sc* pSrc, Hux16sc* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsMul_32sc_Sfs(const Hux32sc* pSrc1, const Hux32sc* pSrc2, Hux32sc* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsMul_32sc_ISfs(const Hux32sc* pSrc, Hux32sc* pSrcDst, int len, int scaleFactor);
+
+HUX_API HuxStatus huxsMulC_32f_I(Hux32f value, Hux32f* pSrcDst, int len);
+HUX_API HuxStatus huxsMulC_32fc(const Hux32fc* pSrc, Hux32fc value, Hux32fc* pDst, int len);
+HUX_API HuxStatus huxsMulC_32fc_I(Hux32fc value, Hux32fc* pSrcDst, int len);
+HUX_API HuxStatus huxsMulC_64fc_I(Hux64fc value, Hux64fc* pSrcDst, int len);
+HUX_API HuxStatus huxsMulC_16sc_Sfs(const Hux16sc* pSrc, Hux16sc value, Hux16sc* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsMulC_16sc_ISfs(Hux16sc value, Hux16sc* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsMulC_32sc_Sfs(const Hux32sc* pSrc, Hux32sc value, Hux32sc* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsMulC_32sc_ISfs(Hux32sc value, Hux32sc* pSrcDst, int len, int scaleFactor);
+
+HUX_API HuxStatus huxsDiv_32f(const Hux32f* pSrc1, const Hux32f* pSrc2, Hux32f* pDst, int len);
+HUX_API HuxStatus huxsDiv_32fc(const Hux32fc* pSrc1, const Hux32fc* pSrc2, Hux32fc* pDst, int len);
+HUX_API HuxStatus huxsDiv_32fc_I(const Hux32fc* pSrc, Hux32fc* pSrcDst, int len);
+HUX_API HuxStatus huxsDiv_64fc(const Hux64fc* pSrc1, const Hux64fc* pSrc2, Hux64fc* pDst, int len);
+HUX_API HuxStatus huxsDiv_64fc_I(const Hux64fc* pSrc, Hux64fc* pSrcDst, int len);
+HUX_API HuxStatus huxsDiv_8u_Sfs(const Hux8u* pSrc1, const Hux8u* pSrc2, Hux8u* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsDiv_16s_Sfs(const Hux16s* pSrc1, const Hux16s* pSrc2, Hux16s* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsDiv_16sc_Sfs(const Hux16sc* pSrc1, const Hux16sc* pSrc2, Hux16sc* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsDiv_16sc_ISfs(const Hux16sc* pSrc, Hux16sc* pSrcDst, int len, int scaleFactor);
+
+HUX_API HuxStatus huxsDivC_32fc(const Hux32fc* pSrc, Hux32fc value, Hux32fc* pDst, int len);
+HUX_API HuxStatus huxsDivC_32fc_I(Hux32fc value, Hux32fc* pSrcDst, int len);
+HUX_API HuxStatus huxsDivC_8u_Sfs(const Hux8u* pSrc, Hux8u value, Hux8u* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsDivC_16s_Sfs(const Hux16s* pSrc, Hux16s value, Hux16s* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsDivC_16sc_Sfs(const Hux16sc* pSrc, Hux16sc value, Hux16sc* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsDivC_16sc_ISfs(Hux16sc value, Hux16sc* pSrcDst, int len, int scaleFactor);
+
+/* Elementary functions, as on images (huxi_arith.h). Checks: null pointers (huxStsNullPtr), len below 1
+ * (huxStsBadSize). */
+HUX_API HuxStatus huxsAbs_16s(const Hux16s* pSrc, Hux16s* pDst, int len);
+HUX_API HuxStatus huxsAbs_16s_I(Hux16s* pSrcDst, int len);
+HUX_API HuxStatus huxsAbs_32f(const Hux32f* pSrc, Hux32f* pDst, int len);
+HUX_API HuxStatus huxsAbs_32f_I(Hux32f* pSrcDst, int len);
+
+HUX_API HuxStatus huxsSqr_8u_Sfs(const Hux8u* pSrc, Hux8u* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSqr_8u_ISfs(Hux8u* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSqr_16u_Sfs(const Hux16u* pSrc, Hux16u* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSqr_16u_ISfs(Hux16u* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSqr_16s_Sfs(const Hux16s* pSrc, Hux16s* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSqr_16s_ISfs(Hux16s* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSqr_32f(const Hux32f* pSrc, Hux32f* pDst, int len);
+HUX_API HuxStatus huxsSqr_32f_I(Hux32f* pSrcDst, int len);
+
+HUX_API HuxStatus huxsSqrt_8u_Sfs(const Hux8u* pSrc, Hux8u* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSqrt_8u_ISfs(Hux8u* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSqrt_16u_Sfs(const Hux16u* pSrc, Hux16u* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSqrt_16u_ISfs(Hux16u* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSqrt_16s_Sfs(const Hux16s* pSrc, Hux16s* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSqrt_16s_ISfs(Hux16s* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsSqrt_32f(const Hux32f* pSrc, Hux32f* pDst, int len);
+HUX_API HuxStatus huxsSqrt_32f_I(Hux32f* pSrcDst, int len);
+
+HUX_API HuxStatus huxsExp_16s_Sfs(const Hux16s* pSrc, Hux16s* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsExp_16s_ISfs(Hux16s* pSrcDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsExp_32f(const Hux32f* pSrc, Hux32f* pDst, int len);
+HUX_API HuxStatus huxsExp_32f_I(Hux32f* pSrcDst, int len);
+
+HUX_API HuxStatus huxsLn_16s_Sfs(const Hux16s* pSrc, Hux16s* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsLn_16s_ISfs(Hux16s* pSrcDst, int len, int scaleFactor);
+
+/* Magnitude and phase of complex elements, times 2^-scaleFactor on integers. Magnitude rounds ties to even for a
+ * positive scaleFactor only, else up. Phase at scaleFactor 0 uses a fast approximation of the arc tangent. Checks as
+ * above. */
+HUX_API HuxStatus huxsMagnitude_32fc(const Hux32fc* pSrc, Hux32f* pDst, int len);
+HUX_API HuxStatus huxsMagnitude_16sc_Sfs(const Hux16sc* pSrc, Hux16s* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsMagnitude_32sc_Sfs(const Hux32sc* pSrc, Hux32s* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsPhase_32fc(const Hux32fc* pSrc, Hux32f* pDst, int len);
+HUX_API HuxStatus huxsPhase_16sc_Sfs(const Hux16sc* pSrc, Hux16s* pDst, int len, int scaleFactor);
+HUX_API HuxStatus huxsPhase_32sc_Sfs(const Hux32sc* pSrc, Hux32s* pDst, int len, int scaleFactor);
+
+/* PolarToCart: magnitude and phase, in radians, to a complex element. Integer phases are multiplied by
+ * 2^-phaseFixedPoint; integer results are truncated and saturated. 16sc and 32fc take sine and cosine from a polynomial
+ * good to 3e-8, except for the last element of an odd len, which may differ in the last place. Checks as above, then
+ * phaseFixedPoint outside 0..15 (16sc), 0..31 (32sc) (huxStsBadSize). */
+HUX_API HuxStatus huxsPolarToCart_32fc(const Hux32f* pMagnitude, const Hux32f* pPhase, Hux32fc* pDst, int len);
+HUX_API HuxStatus huxsPolarToCart_16sc(const Hux16s* pMagnitude, const Hux16s* pPhase, int phaseFixedPoint,
+                                       Hux16sc* pDst, int len);
+HUX_API HuxStatus huxsPolarToCart_32sc(const Hux32s* pMagnitude, const Hux32s* pPhase, int phaseFixedPoint,
+                                       Hux32sc* pDst, int len);
+
+/* Convert: between element types. From float: times 2^-scaleFactor, in single precision (to 32s in double), then
+ * rounded by roundMode (huxRndNear: to nearest, ties to even; any other value: towards zero) and saturated; NaN gives
+ * the type's minimum, and so does 0 times the infinity that a far negative scaleFactor stands for. Checks as above. */
+HUX_API HuxStatus huxsConvert_8u32f(const Hux8u* pSrc, Hux32f* pDst, int len);
+HUX_API HuxStatus huxsConvert_32s32f(const Hux32s* pSrc, Hux32f* pDst, int len);
+HUX_API HuxStatus huxsConvert_32s64f(const Hux32s* pSrc, Hux64f* pDst, int len);
+HUX_API HuxStatus huxsConvert_32f8u_Sfs(const Hux32f* pSrc, Hux8u* pDst, int len, HuxRoundMode roundMode,
+                                        int scaleFactor);
+HUX_API HuxStatus huxsConvert_32f16s_Sfs(const Hux32f* pSrc, Hux16s* pDst, int len, HuxRoundMode roundMode,
+                                         int scaleFactor);
+HUX_API HuxStatus huxsConvert_32f32s_Sfs(const Hux32f* pSrc, Hux32s* pDst, int len, HuxRoundMode roundMode,
+                                         int scaleFactor);
+HUX_API HuxStatus huxsConvert_64f32s_Sfs(const Hux64f* pSrc, Hux32s* pDst, int len, HuxRoundMode roundMode,
+                                         int scaleFactor);
+
+/* Fill and copy. Copy assumes that the vectors do not overlap, Move allows it. Checks as above. */
+HUX_API HuxStatus huxsSet_8u(Hux8u value, Hux8u* pDst, int len);
+HUX_API HuxStatus huxsSet_16s(Hux16s value, Hux16s* pDst, int len);
+HUX_API HuxStatus huxsSet_32s(Hux32s value, Hux32s* pDst, int len);
+HUX_API HuxStatus huxsSet_32f(Hux32f value, Hux32f* pDst, int len);
+HUX_API HuxStatus huxsSet_16sc(Hux16sc value, Hux16sc* pDst, int len);
+HUX_API HuxStatus huxsSet_32fc(Hux32fc value, Hux32fc* pDst, int len);
+HUX_API HuxStatus huxsZero_8u(Hux8u* pDst, int len);
+HUX_API HuxStatus huxsZero_16s(Hux16s* pDst, int len);
+HUX_API HuxStatus huxsZero_16sc(Hux16sc* pDst, int len);
+HUX_API HuxStatus huxsZero_32f(Hux32f* pDst, int len);
+HUX_API HuxStatus huxsCopy_8u(const Hux8u* pSrc, Hux8u* pDst, int len);
+HUX_API HuxStatus huxsCopy_32f(const Hux32f* pSrc, Hux32f* pDst, int len);
+HUX_API HuxStatus huxsMove_16s(const Hux16s* pSrc, Hux16s* pDst, int len);
+HUX_API HuxStatus huxsMove_32f(const Hux32f* pSrc, Hux32f* pDst, int len);
+
+/* Measures. Mean and Norm_L2 sum in double precision; DotProd sums in single precision, in an order that is left
+ * open. Checks: null pointers (huxStsNullPtr), len below 1 (huxStsBadSize). */
+HUX_API HuxStatus huxsMean_32f(const Hux32f* pSrc, int len, Hux32f* pResult);
+HUX_API HuxStatus huxsNorm_L2_32f(const Hux32f* pSrc, int len, Hux32f* pResult);
+HUX_API HuxStatus huxsDotProd_32f(const Hux32f* pSrc1, const Hux32f* pSrc2, int len, Hux32f* pResult);
+
 HUX_END_C
 
 #endif

@@ -68,4 +68,14 @@ struct ConstantOf<C1, T> {
 template <class L, class T>
 using Constant = typename ConstantOf<L, T>::Type;
 
+// The constant argument as an array, whichever way it came.
+template <class T>
+const T* pixelOf(const T* pValue) {
+  return pValue;
+}
+template <class T>
+const T* pixelOf(const T& value) {
+  return &value;
+}
+
 }  // namespace hux

@@ -10,8 +10,8 @@
 namespace hux::test {
 namespace {
 
-// Mappings of small images gone, by size, for those to come: system calls and first touches of pages would otherwise take
-// more of a test's time than its comparisons.
+// Mappings of small images gone, by size, for those to come: system calls and first touches of pages would otherwise
+// take more of a test's time than its comparisons.
 thread_local std::map<std::size_t, std::vector<std::byte*>> spareMappings;
 
 }  // namespace

@@ -1,0 +1,37 @@
+// Image functions that test their steps ahead of their size: two images, or an image and a constant, through a rule.
+#pragma once
+
+#include "arith/scaled_images.h"
+#include "core/check.h"
+#include "core/elementwise.h"
+
+namespace hux {
+
+// Forms of three and four equal channels that stand for the one-channel form over a wider row ask for a size before
+// they do.
+template <class L>
+constexpr HuxStatus delegatedSize(HuxiSize roi) {
+  return L::channels == 1 || L::channels != L::processed ? HuxStatus(huxStsOk) : size(roi);
+}
+
+template <class L, class Rule, class T>
+HuxStatus zipImages(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep, HuxiSize roi) {
+  if (HuxStatus s =
+          check(delegatedSize<L>(roi), pointers(pSrc1, pSrc2, pDst), steps(src1Step, src2Step, dstStep), size(roi)))
+    return s;
+  forEachRow(roi, rows<L>(pSrc1, src1Step), rows<L>(pSrc2, src2Step), rows<L>(pDst, dstStep),
+             [](auto* a, auto* b, auto* d, Index n) { zipRow<Flat<L>>(a, b, d, n * kFlat<L>, Rule{}); });
+  return huxStsOk;
+}
+
+// pPixel addresses one constant per processed channel.
+template <class L, class Rule, class T>
+HuxStatus zipConstant(const T* pSrc, int srcStep, const T* pPixel, T* pDst, int dstStep, HuxiSize roi) {
+  if (HuxStatus s = check(pointers(pSrc, pPixel, pDst), steps(srcStep, dstStep), size(roi))) return s;
+  const Repeat<L, T, Rule::lanes> constants(reinterpret_cast<const Element<T>*>(pPixel));
+  forEachRow(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep),
+             [&](auto* s, auto* d, Index n) { applyRule<L>(d, n, Rule{}, constants, Stream<T, Rule::lanes>{s}); });
+  return huxStsOk;
+}
+
+}  // namespace hux

@@ -1,0 +1,140 @@
+// DivC: an image divided by a constant. Each element type has a way of its own, in checks and in rounding.
+#include "arith/scaled_images.h"
+#include "core/scratch.h"
+#include "core/table.h"
+#include "huxi_arith.h"
+#include "vector/divide.h"
+
+namespace hux {
+namespace {
+
+// The constants of a pixel.
+template <class T>
+struct Divisor {
+  const T* p;
+
+  T operator[](int c) const { return reinterpret_cast<const Element<T>*>(p)[c]; }
+  // A NaN is no better than a zero.
+  template <class L>
+  HuxStatus nonZero() const {
+    for (int c = 0; c < L::processed; ++c)
+      if (!((*this)[c] < 0 || (*this)[c] > 0)) return huxStsDivByZero;
+    return huxStsOk;
+  }
+};
+
+// 8u: tables of the 256 quotients.
+template <class L>
+void replace(const Hux8u* tables, const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roi) {
+  const ByteTables<L> rule(tables);
+  forEachRow(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep),
+             [&](auto* s, auto* d, Index n) { rule.map(s, d, n); });
+}
+
+// One channel multiplies by the six-decimal reciprocal. The others divide, and of these C3 and C4 carry on past a zero
+// constant: they write what Div would, and then return the error.
+template <class L>
+HuxStatus divC(const Hux8u* pSrc, int srcStep, const Hux8u* pPixel, Hux8u* pDst, int dstStep, HuxiSize roi,
+               int scaleFactor) {
+  constexpr bool carriesOn = L::channels > 1 && L::channels == L::processed;
+  const Divisor<Hux8u> divisor{pPixel};
+  if (HuxStatus s = check(pointers(pSrc, pPixel, pDst), size(roi), steps(srcStep, dstStep),
+                          [&] { return carriesOn ? huxStsOk : divisor.nonZero<L>(); }))
+    return s;
+  const HuxStatus status = divisor.nonZero<L>();
+  if constexpr (L::channels == 1) {
+    Hux8u quotients[256];
+    tabulate(quotients, ReciprocalProduct<Hux8u>(divisor[0], scaleFactor));
+    replace<L>(quotients, pSrc, srcStep, pDst, dstStep, roi);
+  } else {
+    const Scratch<Hux8u> quotients(ByteTables<L>::bytes);
+    if (!quotients) return huxStsNoMem;
+    for (int c = 0; c < L::processed; ++c) {
+      const Element<Hux8u> value = {divisor[c]};
+      tabulate(quotients.get() + 256 * c, Quotient<Hux8u>(scaleFactor),
+               Repeat<C1, Hux8u, Quotient<Hux8u>::lanes>(&value));
+    }
+    replace<L>(quotients.get(), pSrc, srcStep, pDst, dstStep, roi);
+  }
+  return status;
+}
+
+// 16s: one channel multiplies by the reciprocal; the others divide by a row of constants, in which alpha is 1.
+template <class L>
+HuxStatus divC(const Hux16s* pSrc, int srcStep, const Hux16s* pPixel, Hux16s* pDst, int dstStep, HuxiSize roi,
+               int scaleFactor) {
+  const Divisor<Hux16s> divisor{pPixel};
+  if (HuxStatus s =
+          check(pointers(pSrc, pPixel, pDst), size(roi), steps(srcStep, dstStep), [&] { return divisor.nonZero<L>(); }))
+    return s;
+  const auto src = rows<L>(pSrc, srcStep);
+  const auto dst = rows<L>(pDst, dstStep);
+  if constexpr (L::channels == 1) {
+    const ReciprocalProduct<Hux16s> rule(divisor[0], scaleFactor);
+    forEachRow(roi, src, dst, [&](auto* s, auto* d, Index n) { mapRow<L>(s, d, n, rule); });
+  } else {
+    const Index elements = L::channels * Index(roi.width);
+    const Scratch<Hux16s> constants(elements);
+    if (!constants) return huxStsNoMem;
+    for (Index i = 0; i < elements; ++i)
+      constants[i] = i % L::channels < L::processed ? divisor[int(i % L::channels)] : Hux16s(1);
+    const Quotient<Hux16s> rule(scaleFactor);
+    forEachRow(roi, rows<L>(constants.get(), 0), src, dst,
+               [&](auto* c, auto* s, auto* d, Index n) { ownDiv<Flat<L>, Hux16s>(c, s, d, n * kFlat<L>, rule); });
+  }
+  return huxStsOk;
+}
+
+// 16u: in the fixed point of Div; quotients by 1 are rounded to nearest there too. Shortcuts come ahead of the other
+// checks, and for that reason the constants of several channels are tested before everything; C3 and C4 stand for C1
+// over a wider row where their constants are equal.
+template <class L>
+HuxStatus divC(const Hux16u* pSrc, int srcStep, const Hux16u* pPixel, Hux16u* pDst, int dstStep, HuxiSize roi,
+               int scaleFactor) {
+  const Divisor<Hux16u> divisor{pPixel};
+  if constexpr (L::channels > 1)
+    if (HuxStatus s = check(pointers(pPixel), [&] { return divisor.nonZero<L>(); })) return s;
+  const Hux16u value = divisor[0];
+  if constexpr (L::channels == 1) {
+    if (scaleFactor == 0 && value == 1) return copyAll<L>(pSrc, srcStep, pDst, dstStep, roi);
+  } else if constexpr (L::channels == L::processed) {
+    bool equal = roi.width >= 1 && roi.width <= std::numeric_limits<int>::max() / L::channels;
+    for (int c = 1; c < L::channels; ++c) equal &= divisor[c] == value;
+    if (equal)
+      return divC<C1>(pSrc, srcStep, &value, pDst, dstStep, {roi.width * L::channels, roi.height}, scaleFactor);
+  }
+  if (scaleFactor > 16 && value != 0) {
+    if (HuxStatus s = pointers(pSrc)) return s;
+    return setAll<L>(Hux16u(0), pDst, dstStep, roi);
+  }
+  if (HuxStatus s = check(pointers(pSrc, pDst), size(roi), [&] { return divisor.nonZero<L>(); })) return s;
+  withQuotient<Hux16u>(scaleFactor, [&](auto rule) {
+    using Rule = decltype(rule);
+    const Repeat<L, Hux16u, Rule::lanes> constants(reinterpret_cast<const Element<Hux16u>*>(pPixel));
+    forEachRow(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep),
+               [&](auto* s, auto* d, Index n) { applyRule<L>(d, n, rule, constants, Stream<Hux16u, Rule::lanes>{s}); });
+  });
+  return huxStsOk;
+}
+
+// 32f: a product with the single-precision reciprocal.
+template <class L>
+HuxStatus divC(const Hux32f* pSrc, int srcStep, const Hux32f* pPixel, Hux32f* pDst, int dstStep, HuxiSize roi) {
+  const Divisor<Hux32f> divisor{pPixel};
+  if (HuxStatus s =
+          check(pointers(pSrc, pPixel, pDst), size(roi), steps(srcStep, dstStep), [&] { return divisor.nonZero<L>(); }))
+    return s;
+  Hux32f reciprocals[L::processed];
+  for (int c = 0; c < L::processed; ++c) reciprocals[c] = 1.0f / divisor[c];
+  return combineC<L, MulOp>(pSrc, srcStep, reciprocals, pDst, dstStep, roi);
+}
+
+}  // namespace
+}  // namespace hux
+
+#define EXPORT(t, l) HUX_EXPORT_ARITH_CONSTANT(DivC, t, l, Sfs, hux::divC<hux::l>)
+HUX_STAMP(EXPORT, (8u, 16s, 16u), (C1, C3, C4, AC4))
+#undef EXPORT
+
+#define EXPORT(t, l) HUX_EXPORT_ARITH_CONSTANT(DivC, t, l, , hux::divC<hux::l>)
+HUX_STAMP(EXPORT, (32f), (C1, C3, C4, AC4))

@@ -1,0 +1,131 @@
+// The image functions of Add, Sub and Mul on real pixels, by operation: checks, shortcuts, rows.
+#pragma once
+
+#include "arith/delegate.h"
+#include "core/check.h"
+#include "vector/scaled.h"
+
+namespace hux {
+
+template <class T>
+inline constexpr bool kInteger = std::is_integral_v<T>;
+
+// Layouts in which all elements are treated alike are rows of single elements.
+template <class L>
+using Flat = std::conditional_t<L::channels == L::processed, Layout<1, 1>, L>;
+template <class L>
+inline constexpr Index kFlat = L::channels == L::processed ? L::channels : 1;
+
+// Two-image forms of three and four equal channels stand for the one-channel form over a wider row, and ask for a width
+// before anything else.
+template <class L>
+HuxStatus delegatedWidth(HuxiSize roi) {
+  return failUnless(L::channels == 1 || L::channels != L::processed || roi.width >= 1, huxStsBadSize);
+}
+
+template <class L, class Op, class T>
+HuxStatus combine(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep, HuxiSize roi,
+                  int scaleFactor = 0) {
+  const auto zip = [&](auto rule) {
+    forEachRow(roi, rows<L>(pSrc1, src1Step), rows<L>(pSrc2, src2Step), rows<L>(pDst, dstStep),
+               [&](auto* a, auto* b, auto* d, Index n) { zipRow<Flat<L>>(a, b, d, n * kFlat<L>, rule); });
+  };
+  if constexpr (!kInteger<T>) {
+    if (HuxStatus s = check(delegatedWidth<L>(roi), pointers(pSrc1, pSrc2, pDst), size(roi))) return s;
+    zip(Float<Op, T>{});
+  } else {
+    const bool allZero = scaleFactor > Op::template allZeroAbove<T>;
+    // 16u takes the all-zero shortcut ahead of its checks: Set judges the destination, the size and the step.
+    if (std::is_same_v<T, Hux16u> && allZero) {
+      if (HuxStatus s = pointers(pSrc1, pSrc2)) return s;
+      return setAll<L>(T(0), pDst, dstStep, roi);
+    }
+    if (HuxStatus s = check(delegatedWidth<L>(roi), pointers(pSrc1, pSrc2, pDst), size(roi))) return s;
+    if (allZero) return setAll<L>(T(0), pDst, dstStep, roi);
+    withRule<Op, T>(scaleFactor, zip);
+  }
+  return huxStsOk;
+}
+
+// What is special about constant forms of an operation, by element type: a constant that makes it the identity at
+// scaleFactor 0, a constant that makes every result 0, and a non-zero constant that saturates every result far enough
+// below 0.
+template <class Op, class T>
+struct ConstantCases {
+  static constexpr bool zeroIsIdentity = std::is_same_v<T, Hux16u> && !std::is_same_v<Op, MulOp>;
+  static constexpr bool oneIsIdentity = std::is_same_v<T, Hux16u> && std::is_same_v<Op, MulOp>;
+  static constexpr bool zeroIsZero = kInteger<T> && std::is_same_v<Op, MulOp>;
+  static constexpr bool saturates = std::is_same_v<Op, AddOp> && std::is_unsigned_v<T>;
+};
+
+// pPixel addresses one constant per processed channel. 16u forms take their shortcuts ahead of all other checks, and
+// for that reason test pPixel alone first; of their multi-channel forms C3 stands for C1 over a wider row where its
+// constants are equal.
+template <class L, class Op, class T>
+HuxStatus combineC(const T* pSrc, int srcStep, const T* pPixel, T* pDst, int dstStep, HuxiSize roi,
+                   int scaleFactor = 0) {
+  using Case = ConstantCases<Op, T>;
+  constexpr bool early = std::is_same_v<T, Hux16u>, single = L::channels == 1;
+  const auto run = [&](auto rule) {
+    using Rule = decltype(rule);
+    const Repeat<L, T, Rule::lanes> constants(reinterpret_cast<const Element<T>*>(pPixel));
+    forEachRow(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep),
+               [&](auto* s, auto* d, Index n) { applyRule<L>(d, n, rule, constants, Stream<T, Rule::lanes>{s}); });
+  };
+  if constexpr (!kInteger<T>) {
+    if (HuxStatus s = check(pointers(pSrc, pPixel, pDst), size(roi))) return s;
+    run(Float<Op, T>{});
+    return huxStsOk;
+  } else {
+    if constexpr (early) {
+      if (HuxStatus s = pointers(pPixel)) return s;
+      const T value = *reinterpret_cast<const Element<T>*>(pPixel);
+      if constexpr (L::channels == 3) {
+        const auto* v = reinterpret_cast<const Element<T>*>(pPixel);
+        if (v[1] == value && v[2] == value && roi.width >= 1 && roi.width <= std::numeric_limits<int>::max() / 3)
+          return combineC<C1, Op>(pSrc, srcStep, &value, pDst, dstStep, HuxiSize{roi.width * 3, roi.height},
+                                  scaleFactor);
+      }
+      if (single && scaleFactor == 0 && ((Case::zeroIsIdentity && value == 0) || (Case::oneIsIdentity && value == 1)))
+        return copyAll<L>(pSrc, srcStep, pDst, dstStep, roi);
+    }
+    if (HuxStatus s = check(pointers(pSrc, pPixel, pDst), size(roi))) return s;
+    const T value = *reinterpret_cast<const Element<T>*>(pPixel);
+    if (scaleFactor > Op::template allZeroAbove<T> || (single && Case::zeroIsZero && value == 0))
+      return setAll<L>(T(0), pDst, dstStep, roi);
+    if (single && Case::saturates && value != 0 && scaleFactor < (sizeof(T) == 1 ? -7 : -15))
+      return setAll<L>(std::numeric_limits<T>::max(), pDst, dstStep, roi);
+    withRule<Op, T>(scaleFactor, run);
+    return huxStsOk;
+  }
+}
+
+}  // namespace hux
+
+// The names of one operation and its constant form; `sfs` is Sfs or nothing, what follows it is the function to call.
+// Constants come by value in C1, else as an array.
+#define HUX_PARAMETER_
+#define HUX_PARAMETER_Sfs , int scaleFactor
+#define HUX_ARGUMENT_
+#define HUX_ARGUMENT_Sfs , scaleFactor
+#define HUX_EXPORT_ARITH_IMAGES(name, t, l, sfs, ...)                                                            \
+  HuxStatus huxi##name##_##t##_##l##R##sfs(const Hux##t* pSrc1, int src1Step, const Hux##t* pSrc2, int src2Step, \
+                                           Hux##t* pDst, int dstStep, HuxiSize roiSize HUX_PARAMETER_##sfs) {    \
+    return __VA_ARGS__(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roiSize HUX_ARGUMENT_##sfs);             \
+  }                                                                                                              \
+  HuxStatus huxi##name##_##t##_##l##IR##sfs(const Hux##t* pSrc, int srcStep, Hux##t* pSrcDst, int srcDstStep,    \
+                                            HuxiSize roiSize HUX_PARAMETER_##sfs) {                              \
+    return __VA_ARGS__(pSrc, srcStep, pSrcDst, srcDstStep, pSrcDst, srcDstStep, roiSize HUX_ARGUMENT_##sfs);     \
+  }
+#define HUX_EXPORT_ARITH_CONSTANT(name, t, l, sfs, ...)                                                               \
+  HuxStatus huxi##name##_##t##_##l##R##sfs(const Hux##t* pSrc, int srcStep, hux::Constant<hux::l, Hux##t> constant,   \
+                                           Hux##t* pDst, int dstStep, HuxiSize roiSize HUX_PARAMETER_##sfs) {         \
+    return __VA_ARGS__(pSrc, srcStep, hux::pixelOf(constant), pDst, dstStep, roiSize HUX_ARGUMENT_##sfs);             \
+  }                                                                                                                   \
+  HuxStatus huxi##name##_##t##_##l##IR##sfs(hux::Constant<hux::l, Hux##t> constant, Hux##t* pSrcDst, int srcDstStep,  \
+                                            HuxiSize roiSize HUX_PARAMETER_##sfs) {                                   \
+    return __VA_ARGS__(pSrcDst, srcDstStep, hux::pixelOf(constant), pSrcDst, srcDstStep, roiSize HUX_ARGUMENT_##sfs); \
+  }
+#define HUX_EXPORT_ARITH(name, Op, t, l, sfs)                                \
+  HUX_EXPORT_ARITH_IMAGES(name, t, l, sfs, hux::combine<hux::l, Op, Hux##t>) \
+  HUX_EXPORT_ARITH_CONSTANT(name##C, t, l, sfs, hux::combineC<hux::l, Op, Hux##t>)

@@ -1,0 +1,86 @@
+// Element-wise rows: one rule on lanes, applied along a row.
+//
+// A rule is a callable from operand lanes to result lanes, with `static constexpr int lanes`, the number of elements
+// that it takes at a time. Operands are rows (Stream) or constants per channel (Repeat). A rule sees each element once;
+// at the end of a row, lanes behind the last element hold the operand's `rest` and their results are dropped.
+#pragma once
+
+#include <algorithm>
+
+#include "core/lanes.h"
+#include "core/rows.h"
+
+namespace hux {
+
+// The step of a family that moves its row pointers in whole elements: what is left over is dropped.
+template <class T>
+constexpr int wholeElements(int step) {
+  return step - step % int(sizeof(T));
+}
+
+template <class T, int N>
+struct Stream {
+  static constexpr int period = 1;
+  const Element<T>* row;
+  T rest = T(0);
+
+  Lanes<T, N> load(Index i, int) const { return loadLanes<Lanes<T, N>>(row + i); }
+  Lanes<T, N> load(Index i, int, int count) const { return loadLanes<Lanes<T, N>>(row + i, count, rest); }
+};
+
+// Constants of a pixel, repeated over as many vectors as it takes for a pixel to start at lane 0 again.
+template <class L, class T, int N>
+struct Repeat {
+  static constexpr int period = L::channels == 3 ? 3 : 1;
+  Lanes<T, N> constants[period];
+
+  explicit Repeat(const Element<T>* pixel) {
+    for (int i = 0; i < period * N; ++i)
+      constants[i / N][i % N] = i % L::channels < L::processed ? T(pixel[i % L::channels]) : T(0);
+  }
+  Lanes<T, N> load(Index, int phase) const { return constants[phase]; }
+  Lanes<T, N> load(Index, int phase, int) const { return constants[phase]; }
+};
+
+// Applies the rule to n pixels of layout L and returns it, with whatever it has noted. Rule and operands are taken by
+// value: what is kept behind a reference would have to be read again after every store.
+template <class L, class D, class Rule, class... Operands>
+Rule applyRule(Element<D>* dst, Index n, Rule rule, Operands... operands) {
+  constexpr int lanes = Rule::lanes;
+  constexpr int period = std::max({1, Operands::period...});
+  constexpr int colours = L::channels == 4 ? L::processed : 4;
+  const Index elements = n * L::channels;
+  Index i = 0;
+  for (; i + period * lanes <= elements; i += period * lanes)
+    for (int k = 0; k < period; ++k) {
+      const Lanes<D, lanes> v = rule(operands.load(i + k * lanes, k)...);
+      if constexpr (colours == 4)
+        storeLanes(dst + i + k * lanes, v);
+      else
+        storeColours<colours>(dst + i + k * lanes, v);
+    }
+  for (int k = 0; i < elements; ++k, i += lanes) {
+    const int count = int(std::min<Index>(lanes, elements - i));
+    storeColours<colours>(dst + i, Lanes<D, lanes>(rule(operands.load(i, k, count)...)), count);
+  }
+  return rule;
+}
+
+// The rule that moves its operand: a copy by layout.
+template <class T>
+struct Same {
+  static constexpr int lanes = laneCount<T>;
+  Lanes<T, lanes> operator()(Lanes<T, lanes> v) const { return v; }
+};
+
+// The usual shapes. Layouts whose elements are all treated alike may pass C1 and the number of elements.
+template <class L, class T, class D, class Rule>
+Rule mapRow(const Element<T>* src, Element<D>* dst, Index n, Rule rule) {
+  return applyRule<L>(dst, n, rule, Stream<T, Rule::lanes>{src});
+}
+template <class L, class T, class U, class D, class Rule>
+Rule zipRow(const Element<T>* src1, const Element<U>* src2, Element<D>* dst, Index n, Rule rule) {
+  return applyRule<L>(dst, n, rule, Stream<T, Rule::lanes>{src1}, Stream<U, Rule::lanes>{src2});
+}
+
+}  // namespace hux

@@ -1,0 +1,147 @@
+// What mathematical functions on lanes are made of: square roots, fused products, look-ups in small tables.
+#pragma once
+
+#include <cmath>
+#include <utility>
+
+#include "core/lanes.h"
+
+namespace hux {
+
+// Lane by lane, correctly rounded.
+template <class V>
+V squareRoot(V v) {
+  for (int i = 0; i < lanesIn<V>; ++i) v[i] = std::sqrt(v[i]);
+  return v;
+}
+
+// a * b + c, rounded once where the machine can and twice where it cannot: for use only where the last bits of the sum
+// do not show in the result.
+template <class V>
+V mulAdd(V a, V b, V c) {
+  return a * b + c;
+}
+
+// Whether some lane of a comparison's result holds.
+template <class V>
+bool any(V mask) {
+  std::uint64_t words[(sizeof(V) + 7) / 8] = {}, all = 0;
+  std::memcpy(words, &mask, sizeof mask);
+  for (const std::uint64_t word : words) all |= word;
+  return all != 0;
+}
+
+// Whether a is below b in some lane.
+template <class V>
+bool anyBelow(V a, V b) {
+  return any(a < b);
+}
+
+// Whether in some lane no bit of the mask is set.
+template <class V>
+bool anyClear(V v, V mask) {
+  return any((v & mask) == 0);
+}
+
+// 64-bit integers as doubles.
+template <class V>
+auto toDouble(V v) {
+  return convert<Hux64f>(v);
+}
+
+// The first and the second half of the lanes, and lanes of two halves.
+template <int Half, class V>
+auto half(V v) {
+  return [&]<std::size_t... I>(std::index_sequence<I...>) {
+    return __builtin_shufflevector(v, v, (Half * lanesIn<V> / 2 + int(I))...);
+  }
+  (std::make_index_sequence<lanesIn<V> / 2>{});
+}
+template <class V>
+auto joined(V first, V second) {
+  return [&]<std::size_t... I>(std::index_sequence<I...>) { return __builtin_shufflevector(first, second, int(I)...); }
+  (std::make_index_sequence<2 * lanesIn<V>>{});
+}
+
+// A table of Size entries, a power of two, addressed by the low bits of unsigned lanes as wide as an entry.
+template <class T, int Size>
+struct LaneTable {
+  const T* entries;
+  explicit LaneTable(const T* entries) : entries(entries) {}
+  template <class I>
+  Lanes<T, lanesIn<I>> operator()(I index) const {
+    Lanes<T, lanesIn<I>> v;
+    for (int i = 0; i < lanesIn<I>; ++i) v[i] = entries[index[i] % unsigned(Size)];
+    return v;
+  }
+};
+
+#if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512DQ__)
+inline Lanes<Hux32f, 16> squareRoot(Lanes<Hux32f, 16> v) { return _mm512_maskz_sqrt_ps(~0, v); }
+inline Lanes<Hux64f, 8> mulAdd(Lanes<Hux64f, 8> a, Lanes<Hux64f, 8> b, Lanes<Hux64f, 8> c) {
+  return _mm512_fmadd_pd(a, b, c);
+}
+inline Lanes<Hux32f, 16> mulAdd(Lanes<Hux32f, 16> a, Lanes<Hux32f, 16> b, Lanes<Hux32f, 16> c) {
+  return _mm512_fmadd_ps(a, b, c);
+}
+inline bool any(Lanes<Hux32s, 16> mask) { return _mm512_movepi32_mask(__m512i(mask)) != 0; }
+inline bool any(Lanes<Hux32s, 8> mask) { return _mm256_movepi32_mask(__m256i(mask)) != 0; }
+inline bool anyClear(Lanes<std::uint64_t, 8> v, Lanes<std::uint64_t, 8> mask) {
+  return _mm512_testn_epi64_mask(__m512i(v), __m512i(mask)) != 0;
+}
+inline bool anyBelow(Lanes<Hux32u, 8> a, Lanes<Hux32u, 8> b) {
+  return _mm256_cmplt_epu32_mask(__m256i(a), __m256i(b)) != 0;
+}
+inline Lanes<Hux64f, 8> toDouble(Lanes<Hux64s, 8> v) { return _mm512_maskz_cvtepi64_pd(~0, __m512i(v)); }
+inline bool any(Lanes<Hux16s, 16> mask) { return _mm256_movepi16_mask(__m256i(mask)) != 0; }
+
+template <>
+struct LaneTable<Hux64f, 16> {
+  Lanes<Hux64f, 8> low, high;
+  explicit LaneTable(const Hux64f* entries)
+      : low(loadLanes<Lanes<Hux64f, 8>>(entries)), high(loadLanes<Lanes<Hux64f, 8>>(entries + 8)) {}
+  Lanes<Hux64f, 8> operator()(Lanes<std::uint64_t, 8> index) const {
+    return _mm512_permutex2var_pd(low, __m512i(index), high);
+  }
+};
+
+template <>
+struct LaneTable<Hux16s, 32> {
+  Lanes<Hux16s, 32> all;
+  explicit LaneTable(const Hux16s* entries) : all(loadLanes<Lanes<Hux16s, 32>>(entries)) {}
+  Lanes<Hux16s, 32> operator()(Lanes<Hux16u, 32> index) const {
+    return Lanes<Hux16s, 32>(_mm512_maskz_permutexvar_epi16(~0u, __m512i(index), __m512i(all)));
+  }
+};
+
+#if defined(__AVX512VBMI__)
+template <>
+struct LaneTable<Hux8u, 256> {
+  using V = Lanes<Hux8u, 64>;
+  V quarter[4];
+  explicit LaneTable(const Hux8u* entries) {
+    for (int i = 0; i < 4; ++i) quarter[i] = loadLanes<V>(entries + 64 * i);
+  }
+  V operator()(V index) const {
+    const auto i = __m512i(index);
+    const V low = V(_mm512_permutex2var_epi8(__m512i(quarter[0]), i, __m512i(quarter[1])));
+    const V high = V(_mm512_permutex2var_epi8(__m512i(quarter[2]), i, __m512i(quarter[3])));
+    return index > 127 ? high : low;
+  }
+};
+#endif
+#elif defined(__AVX2__)
+inline Lanes<Hux32f, 8> squareRoot(Lanes<Hux32f, 8> v) { return _mm256_sqrt_ps(v); }
+#if defined(__FMA__)
+inline Lanes<Hux64f, 4> mulAdd(Lanes<Hux64f, 4> a, Lanes<Hux64f, 4> b, Lanes<Hux64f, 4> c) {
+  return _mm256_fmadd_pd(a, b, c);
+}
+inline Lanes<Hux32f, 8> mulAdd(Lanes<Hux32f, 8> a, Lanes<Hux32f, 8> b, Lanes<Hux32f, 8> c) {
+  return _mm256_fmadd_ps(a, b, c);
+}
+#endif
+#elif defined(__SSE2__)
+inline Lanes<Hux32f, 4> squareRoot(Lanes<Hux32f, 4> v) { return _mm_sqrt_ps(v); }
+#endif
+
+}  // namespace hux

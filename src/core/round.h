@@ -1,0 +1,53 @@
+// The rounding idioms of the library, once each. They work on lanes; `V` is a vector of lanes.
+#pragma once
+
+#include <cmath>
+
+#include "core/lanes.h"
+
+namespace hux {
+
+// v * 2^-n rounded to nearest, ties to even, for n of 1 and above, below the width of the lanes; the lanes must hold
+// v + 2^(n-1).
+template <class V>
+V roundShift(V v, int n) {
+  using T = LaneType<V>;
+  const V belowHalf = splat<V>(T((T(1) << (n - 1)) - 1));
+  return (v + belowHalf + ((v >> T(n)) & T(1))) >> T(n);
+}
+
+// The same for lanes that have no room for the sum; n up to the width of unsigned lanes, below that of signed ones.
+template <class V>
+V roundShiftFull(V v, int n) {
+  using T = LaneType<V>;
+  const T half = T(T(1) << (n - 1));
+  const V quotient = (v >> T(n - 1)) >> T(1);
+  const V rest = v & splat<V>(T(T(half - 1) | half));
+  return quotient - V(rest > splat<V>(half) - (quotient & T(1)));
+}
+
+// Nearest integer, ties to even, of lanes that already hold the value plus one half: truncated, and lowered by one
+// where the truncation is odd and exact. The lanes must be in the range of the integer.
+template <class V>
+auto truncateHalfEven(V valuePlusHalf) {
+  using I = std::conditional_t<sizeof(LaneType<V>) == 4, Hux32s, Hux64s>;
+  const auto i = convert<I>(valuePlusHalf);
+  return i - (i & I(1) & (convert<LaneType<V>>(i) == valuePlusHalf));
+}
+
+// Nearest integer, ties to even, of lanes of at most 2^22 (2^51 in double) either way, as the lowest 22 (51) bits of
+// the result: next to 1.5 * 2^23 (2^52) the lanes have no room for a fraction.
+template <class V>
+auto nearestEvenBits(V v) {
+  using F = LaneType<V>;
+  using I = std::conditional_t<sizeof(F) == 4, Hux32s, Hux64s>;
+  return bitsAs<Lanes<I, lanesIn<V>>>(addBeside(v, splat<V>(F(sizeof(F) == 4 ? 0x1.8p23 : 0x1.8p52))));
+}
+
+// 2^-scaleFactor as repeated doubling or halving of 1 gives it: infinity and zero past the ends of the type.
+template <class F>
+F powerOfTwo(int scaleFactor) {
+  return std::ldexp(F(1), scaleFactor < -4000 ? 4000 : scaleFactor > 4000 ? -4000 : -scaleFactor);
+}
+
+}  // namespace hux

@@ -1,0 +1,162 @@
+// Ln: the natural logarithm. Of zero and of negative elements the first that is met decides the warning.
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cmath>
+#include <limits>
+#include <numbers>
+
+#include "core/elementwise.h"
+#include "core/round.h"
+#include "core/table.h"
+#include "huxcore.h"
+#include "huxs.h"
+#include "vector/elementary.h"
+#include "vector/nearest.h"
+
+namespace hux {
+namespace {
+
+// The natural logarithm of a positive number, by its series: for tables made at compile time.
+constexpr long double logarithm(long double x) {
+  long double powers = 0;
+  for (; x > 1.5L; x /= 2) ++powers;
+  for (; x < 0.75L; x *= 2) --powers;
+  const long double t = (x - 1) / (x + 1);
+  long double sum = 0, power = t;
+  for (int k = 1; k < 60; k += 2, power *= t * t) sum += power / k;
+  return 2 * sum + powers * std::numbers::ln2_v<long double>;
+}
+
+// 8u: a table for each scale factor. At the first every element above 1 saturates; at the last every result is 0.
+constexpr int kFirstScale = -9, kLastScale = 4;
+constexpr auto kTables = [] {
+  std::array<std::array<Hux8u, 256>, kLastScale - kFirstScale + 1> tables{};
+  for (int element = 1; element < 256; ++element) {
+    long double value = logarithm(element) / (1 << kLastScale);
+    for (int scaleFactor = kLastScale; scaleFactor >= kFirstScale; --scaleFactor, value *= 2)
+      tables[std::size_t(scaleFactor - kFirstScale)][std::size_t(element)] = value < 255 ? Hux8u(value + 0.5L) : 255;
+  }
+  return tables;
+}();
+
+// Of positive elements, to within a relative 2^-kErrorBits, for operands of 24 bits at most.
+//
+// The operand is 2^e * z with z from 0.699 to 1.398, and z = (1 + r) / c with c one of 16 reciprocals, chosen by the
+// leading bits; c has 24 bits, so that r is exact. About z = 1 c is 1, and the result keeps its precision.
+struct Logarithm {
+  static constexpr int lanes = laneCount<Hux64f>, kErrorBits = 37;
+  using D = Lanes<Hux64f, lanes>;
+  using U = Lanes<std::uint64_t, lanes>;
+  static constexpr std::uint64_t kFirst = 0x3FE6600000000000;
+  struct alignas(64) Tables {
+    Hux64f reciprocals[16], logarithms[16];
+  };
+  static constexpr Tables kTables = [] {
+    Tables tables{};
+    for (int j = 0; j < 16; ++j) {
+      const auto middle = std::bit_cast<Hux64f>(kFirst + (std::uint64_t(2 * j + 1) << 47));
+      const Hux64f c = j == 9 ? 1 : Hux64f(Hux32f(1 / middle));
+      tables.reciprocals[j] = c;
+      tables.logarithms[j] = Hux64f(-logarithm(c));
+    }
+    return tables;
+  }();
+  LaneTable<Hux64f, 16> reciprocals{kTables.reciprocals}, logarithms{kTables.logarithms};
+
+  D operator()(D x) const {
+    using I = Lanes<Hux64s, lanes>;
+    const U bits = bitsAs<U>(x), offset = bits - kFirst, exponent = offset & ~std::uint64_t(0) << 52;
+    const D z = bitsAs<D>(bits - exponent), e = toDouble(I(exponent));
+    const U entry = offset >> std::uint64_t(48);
+    const D r = mulAdd(z, reciprocals(entry), splat<D>(-1));
+    const D base = mulAdd(e, splat<D>(0x1p-52 * std::numbers::ln2), logarithms(entry));
+    D p = splat<D>(1.0 / 7);
+    for (int k = 6; k >= 1; --k) p = mulAdd(p, r, splat<D>((k % 2 ? 1.0 : -1.0) / k));
+    return mulAdd(p, r, base);
+  }
+};
+
+// The warning of the first lane that is not above 0. (Not inlined: lanes that are taken one by one live in memory.)
+template <class V>
+[[gnu::noinline]] HuxStatus firstWarning(V v) {
+  for (int i = 0; i < lanesIn<V>; ++i)
+    if (v[i] <= 0) return v[i] < 0 ? huxStsLogNegWarn : huxStsLogZeroWarn;
+  return huxStsOk;
+}
+
+struct LnFloat {
+  static constexpr int lanes = Logarithm::lanes;
+  using V = Lanes<Hux32f, lanes>;
+  Logarithm logarithm;
+  Hux32f nan = huxConstantOfNAN_32f;
+  HuxStatus status = huxStsOk;
+
+  V operator()(V v) {
+    constexpr Hux32f infinity = std::numeric_limits<Hux32f>::infinity();
+    // As unsigned integers, less one, all but the finite positive numbers lie above those.
+    using U = Lanes<Hux32u, lanes>;
+    const U last = splat<U>(std::bit_cast<Hux32u>(infinity) - 2), order = bitsAs<U>(v) - 1u;
+    const bool special = anyBelow(last, order);
+    V x = v;
+    if (special) {
+      if (status == huxStsOk) status = firstWarning(v);
+      x = order <= last ? v : splat<V>(1);
+    }
+    const auto wide = logarithm(convert<Hux64f>(x));
+    V result = convert<Hux32f>(wide);
+    if (anyOpen<Logarithm::kErrorBits>(wide)) [[unlikely]]
+      result = careful(x);
+    if (special) {
+      const V limit = v == 0 ? splat<V>(-infinity) : v > 0 ? v : splat<V>(nan);
+      result = order <= last ? result : limit;
+    }
+    return result;
+  }
+  [[gnu::noinline]] V careful(V v) const {
+    return closed<Logarithm::kErrorBits>(logarithm(convert<Hux64f>(v)), v, [](Hux64f e) { return std::log(e); });
+  }
+};
+
+struct LnShort {
+  static constexpr int lanes = 2 * Logarithm::lanes;
+  using V = Lanes<Hux16s, lanes>;
+  Hux64f factor;
+  Logarithm logarithm;
+  HuxStatus status = huxStsOk;
+
+  // Beyond -16 every element above 1 saturates, beyond 5 every result is 0.
+  explicit LnShort(int scaleFactor) : factor(powerOfTwo<Hux64f>(std::clamp(scaleFactor, -16, 5))) {}
+  V operator()(V v) {
+    const auto good = v > 0;
+    if (status == huxStsOk && any(~good)) status = firstWarning(v);
+    const auto positive = convert<Hux32s>(greater(v, splat<V>(1)));
+    // No result lies within the logarithm's error of a rounding boundary.
+    const auto rounded = [&](auto x) { return convert<Hux32s>(logarithm(convert<Hux64f>(x)) * factor + 0.5); };
+    const V result = saturate<Hux16s>(joined(rounded(half<0>(positive)), rounded(half<1>(positive))));
+    return good ? result : splat<V>(-32768);
+  }
+};
+
+}  // namespace
+
+template <class T>
+HuxStatus Ln<T>::operator()(const Element<T>* src, Element<T>* dst, Index n) const {
+  if constexpr (std::is_same_v<T, Hux8u>) {
+    const int table = std::clamp(scaleFactor, kFirstScale, kLastScale) - kFirstScale;
+    const bool zero = n > 0 && std::memchr(src, 0, std::size_t(n));
+    ByteTables<C1>(kTables[std::size_t(table)].data()).map(src, dst, n);
+    return zero ? huxStsLogZeroWarn : huxStsOk;
+  } else if constexpr (std::is_same_v<T, Hux16s>) {
+    return applyRule<C1>(dst, n, LnShort(scaleFactor), Stream<T, LnShort::lanes>{src, 1}).status;
+  } else {
+    return applyRule<C1>(dst, n, LnFloat{}, Stream<T, LnFloat::lanes>{src, 1}).status;
+  }
+}
+template struct Ln<Hux8u>;
+template struct Ln<Hux16s>;
+template struct Ln<Hux32f>;
+
+}  // namespace hux
+
+HUX_EXPORT_VECTOR_SFS(Ln, 16s)

@@ -1,0 +1,31 @@
+// Functions in single precision as those of double precision narrowed, exactly: from values in double precision that
+// are good to some bits more than a float has. Only where a float's rounding boundary lies within their error, once in
+// thousands of times, is the function itself called; so their last bits, which differ between machines, never show.
+#pragma once
+
+#include "core/lanes_math.h"
+
+namespace hux {
+
+// Whether a relative error of 2^-ErrorBits decides how some of these values narrow; they must be normal as floats.
+template <int ErrorBits, class D>
+bool anyOpen(D values) {
+  using U = Lanes<std::uint64_t, lanesIn<D>>;
+  // A float drops 29 bits; the middle of their range is its rounding boundary. One unit of a double is a relative 2^-53
+  // or more. Moved so that the open ones start at 0, they have no higher bit among the 29.
+  constexpr std::uint64_t all = 1 << 29, middle = all / 2, margin = std::uint64_t(1) << (53 - ErrorBits);
+  return anyClear(bitsAs<U>(values) + (middle + margin), splat<U>(all - 2 * margin));
+}
+
+// The values narrowed, those that are open from function(argument) in double precision.
+template <int ErrorBits, class D, class V, class Function>
+V closed(D values, V arguments, Function function) {
+  constexpr Hux64f kError = 1.0 / (std::uint64_t(1) << ErrorBits);
+  V low = convert<Hux32f>(values * (1 - kError));
+  const V high = convert<Hux32f>(values * (1 + kError));
+  for (int i = 0; i < lanesIn<V>; ++i)
+    if (low[i] != high[i]) low[i] = Hux32f(function(Hux64f(arguments[i])));
+  return low;
+}
+
+}  // namespace hux

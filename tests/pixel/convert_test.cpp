@@ -1,0 +1,215 @@
+// Convert in all its forms, against the definition of one element, and the bit images bit by bit.
+#include <algorithm>
+
+#include "huxi_pixel.h"
+#include "pixel/element_map.h"
+#include "support/failing_malloc.h"
+
+namespace hux::test {
+namespace {
+
+template <class D, class S>
+D keep(S v) {
+  if constexpr (std::is_floating_point_v<D>)
+    return D(v);
+  else
+    return D(std::clamp<std::int64_t>(v, std::numeric_limits<D>::min(), std::numeric_limits<D>::max()));
+}
+
+#define KEEP(s, d, l, n, taken) \
+  elementMap<Hux##s, Hux##d>(#s #d "_" #l, n, taken, huxiConvert_##s##d##_##l##R, keep<Hux##d, Hux##s>),
+#define ROUND_BY(s, d, l, n, taken, mode)                                                                             \
+  elementMap<Hux##s, Hux##d>(                                                                                         \
+      #s #d "_" #l " mode " #mode, n, taken, [](auto... args) { return huxiConvert_##s##d##_##l##R(args..., mode); }, \
+      [](Hux##s v) { return roundTo<Hux##d>(v, mode); }),
+#define ROUND(s, d, l, n, taken) ROUND_BY(s, d, l, n, taken, 0) ROUND_BY(s, d, l, n, taken, 1)
+#define LAYOUTS(M, s, d) M(s, d, C1, 1, 1) M(s, d, C3, 3, 3) M(s, d, C4, 4, 4) M(s, d, AC4, 4, 3)
+
+std::vector<ElementMap> integerMaps() {
+  return {LAYOUTS(KEEP, 8u, 16u) LAYOUTS(KEEP, 8u, 16s) LAYOUTS(KEEP, 8u, 32s) LAYOUTS(KEEP, 8u, 32f) LAYOUTS(
+      KEEP, 8s, 32s) LAYOUTS(KEEP, 8s, 32f) LAYOUTS(KEEP, 16u, 8u) LAYOUTS(KEEP, 16u, 32s) LAYOUTS(KEEP, 16u, 32f)
+              LAYOUTS(KEEP, 16s, 8u) LAYOUTS(KEEP, 16s, 32f) LAYOUTS(KEEP, 32s, 8u) LAYOUTS(KEEP, 32s, 8s)};
+}
+std::vector<ElementMap> floatMaps() {
+  return {LAYOUTS(ROUND, 32f, 8u) LAYOUTS(ROUND, 32f, 8s) LAYOUTS(ROUND, 32f, 16u) LAYOUTS(ROUND, 32f, 16s)
+              ROUND_BY(32f, 8u, C1, 1, 1, 2) ROUND_BY(32f, 16s, C1, 1, 1, -1)};
+}
+
+TEST(Convert, EveryIntegerKeepsItsValueOrIsLimited) {
+  Rng rng(1);
+  // The member reads the values as its source type, whatever it is: all bit patterns of 8 and 16 bits are there.
+  const auto bytes = integers<Hux8u>(rng);
+  const auto words = integers<Hux16u>(rng);
+  const auto longs = integers<Hux32s>(rng);
+  for (const ElementMap& map : integerMaps()) {
+    expectShapes(map, rng);
+    if (map.srcBytes == 1) expectValues(map, rng, bytes);
+    if (map.srcBytes == 2) expectValues(map, rng, words);
+    if (map.srcBytes == 4) expectValues(map, rng, longs);
+  }
+}
+
+TEST(Convert, FloatsAreRoundedByTheMode) {
+  Rng rng(2);
+  const auto values = floats<Hux32f>(rng, -33000, 66000, 7);
+  for (const ElementMap& map : floatMaps()) {
+    expectShapes(map, rng);
+    expectValues(map, rng, values);
+  }
+}
+
+TEST(Convert, KnownResults) {
+  const Hux32f values[] = {0.5f, 1.5f, 2.5f, 254.5f, 254.9f, 0.50000006f, -1.5f, -2.5f, std::nanf("")};
+  const HuxiSize roi = {int(std::size(values)), 1};
+  Hux8u bytes[std::size(values)];
+  ASSERT_EQ(huxiConvert_32f8u_C1R(values, sizeof values, bytes, sizeof bytes, roi, huxRndNear), huxStsOk);
+  EXPECT_EQ(std::vector<int>(std::begin(bytes), std::end(bytes)), (std::vector<int>{0, 2, 2, 254, 255, 0, 0, 0, 0}));
+  Hux16s words[std::size(values)];
+  ASSERT_EQ(huxiConvert_32f16s_C1R(values, sizeof values, words, sizeof words, roi, huxRndNear), huxStsOk);
+  EXPECT_EQ(std::vector<int>(std::begin(words), std::end(words)),
+            (std::vector<int>{0, 2, 2, 254, 255, 0, -2, -2, -32768}));
+}
+
+TEST(Convert, ChecksPointersSizeSteps) {
+  Rng rng(3);
+  for (const ElementMap& map : integerMaps()) expectOrder(map, rng);
+  for (const ElementMap& map : floatMaps()) expectOrder(map, rng);
+}
+
+bool bitAt(const std::byte* row, int i) { return (int(row[i / 8]) >> (7 - i % 8) & 1) != 0; }
+void setBit(std::byte* row, int i, bool set) {
+  const auto bit = std::byte(0x80 >> i % 8);
+  row[i / 8] = set ? row[i / 8] | bit : row[i / 8] & ~bit;
+}
+
+TEST(Convert1u8u, UnpacksTheBitsBehindTheOffset) {
+  Rng rng(4);
+  for (int offset : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 23, 1 << 30})
+    forShapes(rng, 300, [&](int width, int height, Place place) {
+      // The source has no byte more than the row's bits need.
+      const Image src(rng, (offset % 8 + width + 7) / 8, height, 1, place), dst(rng, width, height, 1);
+      Image expected = dst;
+      for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) expected.set<Hux8u>(x, y, 0, bitAt(src.bytes(0, y), offset % 8 + x) ? 255 : 0);
+      ASSERT_EQ(huxiConvert_1u8u_C1R(src.data<Hux8u>(), src.step(), offset, dst.data<Hux8u>(), dst.step(), dst.size()),
+                huxStsOk);
+      ASSERT_TRUE(same(dst, expected)) << "offset " << offset;
+    });
+}
+
+// The definition of the halftone, bit by bit.
+void halftone(const Image& src, Image& dst, int dstBitOffset, int threshold) {
+  const int width = src.width(), first = dstBitOffset % 8;
+  std::vector<int> a(std::size_t(width) + 4), b = a, c = a;
+  for (int y = 0; y < src.height(); ++y) {
+    std::byte* row = dst.bytes(0, y);
+    if (first != 0)
+      for (int i = first; i < 8; ++i) setBit(row, i, false);
+    for (int x = 0; x < width; ++x) {
+      const auto A = a.begin() + x + 2, B = b.begin() + x + 2, C = c.begin() + x + 2;
+      const int sum = A[-2] + 2 * A[-1] + 4 * A[0] + 2 * A[1] + A[2] + 2 * B[-2] + 4 * B[-1] + 8 * B[0] + 4 * B[1] +
+                      2 * B[2] + 4 * C[-2] + 8 * C[-1];
+      const int t = (src.get<Hux8u>(x, y) << 13) + sum * 23;
+      C[0] = (t >> 10) - (t > threshold * 8192 ? 2047 : 0);
+      setBit(row, first + x, t > threshold * 8192);
+    }
+    std::swap(a, b);
+    std::swap(b, c);
+  }
+}
+
+TEST(Convert8u1u, DiffusesTheErrorAndKeepsTheBitsAround) {
+  Rng rng(5);
+  for (int offset : {0, 1, 2, 3, 4, 5, 6, 7, 8, 13})
+    forShapes(rng, 300, [&](int width, int height, Place place) {
+      height += between(rng, 0, 1) * 7;
+      const Image dst(rng, (offset % 8 + width + 7) / 8, height, 1, place);
+      Image src(rng, width, height, 1, place), expected = dst;
+      const int kind = between(rng, 0, 3), level = between(rng, 0, 255);
+      if (kind < 3)
+        src.fill<Hux8u>([&] { return Hux8u(kind == 0 ? level : kind == 1 ? 255 * (rng() & 1) : rng() & 63); });
+      const Hux8u threshold = Hux8u(std::array{0, 127, 255, between(rng, 0, 255)}[std::size_t(between(rng, 0, 3))]);
+      halftone(src, expected, offset, threshold);
+      ASSERT_EQ(huxiConvert_8u1u_C1R(src.data<Hux8u>(), src.step(), dst.data<Hux8u>(), dst.step(), offset, src.size(),
+                                     threshold),
+                huxStsOk);
+      ASSERT_TRUE(same(dst, expected)) << "offset " << offset << ", width " << width;
+    });
+}
+
+TEST(Convert8u1u, FlatFieldsBecomeTheirShareOfOnes) {
+  Rng rng(6);
+  const auto ones = [&](Hux8u level, Hux8u threshold) {
+    Image src(rng, 256, 64, 1), dst(rng, 32, 64, 1);
+    src.fill<Hux8u>([&] { return level; });
+    EXPECT_EQ(
+        huxiConvert_8u1u_C1R(src.data<Hux8u>(), src.step(), dst.data<Hux8u>(), dst.step(), 0, src.size(), threshold),
+        huxStsOk);
+    int count = 0;
+    for (int y = 0; y < 64; ++y)
+      for (int i = 0; i < 256; ++i) count += bitAt(dst.bytes(0, y), i);
+    return count / (256.0 * 64);
+  };
+  EXPECT_EQ(ones(0, 0), 0);
+  EXPECT_EQ(ones(0, 200), 0);
+  EXPECT_EQ(ones(255, 0), 1);
+  EXPECT_NEAR(ones(64, 128), 0.25, 0.02);
+  EXPECT_NEAR(ones(128, 128), 0.5, 0.02);
+}
+
+// Steps are not checked: row upon row of the source may go to one row, and rows may go upwards.
+TEST(Convert8u1u, StepsMayBeZeroOrNegative) {
+  Rng rng(7);
+  const Image src(rng, 50, 3, 1);
+  Image all(rng, 8, 3, 1), actual(rng, 8, 3, 1);
+  halftone(src, all, 0, 99);
+  ASSERT_EQ(huxiConvert_8u1u_C1R(src.data<Hux8u>(), src.step(), actual.data<Hux8u>(), 0, 0, src.size(), 99), huxStsOk);
+  EXPECT_EQ(std::memcmp(actual.bytes(), all.bytes(0, 2), 6), 0);
+  ASSERT_EQ(huxiConvert_8u1u_C1R(src.data<Hux8u>(), src.step(), reinterpret_cast<Hux8u*>(actual.bytes(0, 2)),
+                                 -actual.step(), 0, src.size(), 99),
+            huxStsOk);
+  for (int y = 0; y < 3; ++y) EXPECT_EQ(std::memcmp(actual.bytes(0, 2 - y), all.bytes(0, y), 6), 0) << y;
+}
+
+TEST(BitImages, Checks) {
+  const int blocks = liveBlocks();
+  Rng rng(8);
+  const Image image(rng, 16, 8, 1);
+  const Hux8u* src = image.data<Hux8u>();
+  Hux8u* dst = image.data<Hux8u>() + 8;
+  HuxiSize roi = {1, 1};
+  int srcStep = 1, dstStep = 1, offset = 0;
+  CheckOrder([&] { return huxiConvert_1u8u_C1R(src, srcStep, offset, dst, dstStep, roi); })
+      .breaks(huxStsNullPtr, src, nullptr)
+      .breaks(huxStsNullPtr, dst, nullptr)
+      .breaks(huxStsBadSize, roi.width, 0)
+      .breaks(huxStsBadSize, roi.height, 0)
+      .breaks(huxStsBadStep, srcStep, 0)
+      .breaks(huxStsBadStep, dstStep, 0)
+      .breaks(huxStsBadSize, offset, -1)
+      .run(image);
+  CheckOrder([&] { return huxiConvert_8u1u_C1R(src, -5, dst, 0, offset, roi, 1); })
+      .breaks(huxStsNullPtr, src, nullptr)
+      .breaks(huxStsNullPtr, dst, nullptr)
+      .breaks(huxStsBadSize, roi.width, 0)
+      .breaks(huxStsBadSize, roi.height, 0)
+      .breaks(huxStsBadSize, offset, -8)
+      .run(image);
+  const Image before = image;
+  int failures = 0;
+  EXPECT_EQ(walkAllocationFailures(
+                [&] {
+                  return huxiConvert_8u1u_C1R(src, 16, dst, 16, 0, {5, 3}, 1);
+                },
+                [&](HuxStatus status) {
+                  ++failures;
+                  EXPECT_EQ(status, huxStsNoMem);
+                  EXPECT_TRUE(same(image, before));
+                }),
+            huxStsOk);
+  EXPECT_EQ(failures, 1);
+  EXPECT_EQ(liveBlocks(), blocks);
+}
+
+}  // namespace
+}  // namespace hux::test
