@@ -7,10 +7,6 @@
 namespace hux {
 namespace {
 
-// Two images wait for memory, which serves vectors of 32 bytes faster than wider ones.
-template <class T>
-inline constexpr int kImageLanes = std::min(kLaneBytes, 32) / int(sizeof(T));
-
 template <class T, int N>
 struct And {
   static constexpr int lanes = N;
@@ -58,7 +54,7 @@ HuxStatus complement(Hux32s* pSrcDst, int srcDstStep, HuxiSize roi) {
 }  // namespace hux
 
 #define EXPORT_BITS(name, t, l)                                                                                      \
-  HUX_EXPORT_ARITH_IMAGES(name, t, l, , hux::zipImages<hux::l, hux::name<Hux##t, hux::kImageLanes<Hux##t>>, Hux##t>) \
+  HUX_EXPORT_ARITH_IMAGES(name, t, l, , hux::zipImages<hux::l, hux::name<Hux##t, hux::streamLanes<Hux##t>>, Hux##t>) \
   HUX_EXPORT_ARITH_CONSTANT(name##C, t, l, ,                                                                         \
                             hux::zipConstant<hux::l, hux::name<Hux##t, hux::laneCount<Hux##t>>, Hux##t>)
 #define EXPORT(t, l) EXPORT_BITS(And, t, l) EXPORT_BITS(Or, t, l) EXPORT_BITS(Xor, t, l)
