@@ -1,6 +1,6 @@
 // Alpha composition of two images, and colours multiplied by their alpha.
+#include "arith/delegate.h"
 #include "arith/fraction.h"
-#include "arith/scaled_images.h"
 #include "core/check.h"
 #include "core/stamp.h"
 #include "huxi_arith.h"
@@ -127,7 +127,7 @@ void composeRows(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* 
   withComposition(type, [&](auto composition) {
     const Rule<decltype(composition), T> rule{alphas...};
     forEachRow(roi, rows<L>(pSrc1, src1Step), rows<L>(pSrc2, src2Step), rows<L>(pDst, dstStep),
-               [&](auto* a, auto* b, auto* d, Index n) { zipRow<Flat<L>>(a, b, d, n * kFlat<L>, rule); });
+               [&](auto* a, auto* b, auto* d, Index n) { zipRow<L>(a, b, d, n, rule); });
   });
 }
 

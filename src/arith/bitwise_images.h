@@ -1,7 +1,7 @@
 // Image functions that test their steps ahead of their size: two images, or an image and a constant, through a rule.
 #pragma once
 
-#include "arith/scaled_images.h"
+#include "arith/exports.h"
 #include "core/check.h"
 #include "core/elementwise.h"
 
@@ -20,7 +20,7 @@ HuxStatus zipImages(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, 
           check(delegatedSize<L>(roi), pointers(pSrc1, pSrc2, pDst), steps(src1Step, src2Step, dstStep), size(roi)))
     return s;
   forEachRow(roi, rows<L>(pSrc1, src1Step), rows<L>(pSrc2, src2Step), rows<L>(pDst, dstStep),
-             [](auto* a, auto* b, auto* d, Index n) { zipRow<Flat<L>>(a, b, d, n * kFlat<L>, Rule{}); });
+             [](auto* a, auto* b, auto* d, Index n) { zipRow<L>(a, b, d, n, Rule{}); });
   return huxStsOk;
 }
 

@@ -23,7 +23,7 @@ HuxStatus zipComplex(const C* pSrc1, int src1Step, const C* pSrc2, int src2Step,
     return s;
   withComplexRule<Op, C>(scaleFactor, [&](auto rule) {
     forEachRow(roi, complexRows<L>(pSrc1, src1Step), complexRows<L>(pSrc2, src2Step), complexRows<L>(pDst, dstStep),
-               [&](auto* a, auto* b, auto* d, Index n) { zipRow<Flat<L>>(a, b, d, n * kFlat<L>, rule); });
+               [&](auto* a, auto* b, auto* d, Index n) { zipRow<L>(a, b, d, n, rule); });
   });
   return huxStsOk;
 }
@@ -89,9 +89,8 @@ HuxStatus divide(const C* pSrc1, int src1Step, const C* pSrc2, int src2Step, C* 
   const auto divisors = complexRows<L>(pSrc1, src1Step), src = complexRows<L>(pSrc2, src2Step);
   const auto dst = complexRows<L>(pDst, dstStep);
   if constexpr (!std::is_same_v<C, Hux32sc>) {
-    return forEachRow(roi, divisors, src, dst, [&](auto* a, auto* b, auto* d, Index n) {
-      return divideRow<Flat<L>, C>(a, b, d, n * kFlat<L>, scaleFactor);
-    });
+    return forEachRow(roi, divisors, src, dst,
+                      [&](auto* a, auto* b, auto* d, Index n) { return divideRow<L, C>(a, b, d, n, scaleFactor); });
   } else {
     // A zero divisor gives 0 here, not the NaN of doubles.
     const Widened<FloatQuotient<Hux64f>> rule{FloatQuotient<Hux64f>(0.0)};
@@ -152,9 +151,9 @@ HuxStatus divideC(const C* pSrc, int srcStep, const C* pPixel, C* pDst, int dstS
     });
     forEachRow(roi, complexRows<L>(row.get(), 0), src, dst, [&](auto* a, auto* b, auto* d, Index n) {
       if constexpr (reciprocals)
-        zipRow<Flat<L>>(a, b, d, n * kFlat<L>, onWords<C>(FloatProduct<Hux32f>{}));
+        zipRow<L>(a, b, d, n, onWords<C>(FloatProduct<Hux32f>{}));
       else
-        divideRow<Flat<L>, C>(a, b, d, n * kFlat<L>, scaleFactor);
+        divideRow<L, C>(a, b, d, n, scaleFactor);
     });
   }
   return huxStsOk;

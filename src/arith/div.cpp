@@ -21,9 +21,8 @@ HuxStatus div(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDs
   const auto quotients = rows<L>(pDst, dstStep);
   return withQuotient<T>(scaleFactor, [&](auto rule) -> HuxStatus {
     if constexpr (L::channels == L::processed || fixedPoint) {
-      return forEachRow(roi, denominators, numerators, quotients, [&](auto* d, auto* n, auto* q, Index width) {
-        return ownDiv<Flat<L>>(d, n, q, width * kFlat<L>, rule);
-      });
+      return forEachRow(roi, denominators, numerators, quotients,
+                        [&](auto* d, auto* n, auto* q, Index width) { return ownDiv<L>(d, n, q, width, rule); });
     } else {
       // The denominators go through a row whose alpha is 1.
       const Scratch<T> row(4 * Index(roi.width));

@@ -80,7 +80,7 @@ HuxStatus divC(const Hux16s* pSrc, int srcStep, const Hux16s* pPixel, Hux16s* pD
       constants[i] = i % L::channels < L::processed ? divisor[int(i % L::channels)] : Hux16s(1);
     const Quotient<Hux16s> rule(scaleFactor);
     forEachRow(roi, rows<L>(constants.get(), 0), src, dst,
-               [&](auto* c, auto* s, auto* d, Index n) { ownDiv<Flat<L>, Hux16s>(c, s, d, n * kFlat<L>, rule); });
+               [&](auto* c, auto* s, auto* d, Index n) { ownDiv<L, Hux16s>(c, s, d, n, rule); });
   }
   return huxStsOk;
 }

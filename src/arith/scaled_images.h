@@ -2,6 +2,7 @@
 #pragma once
 
 #include "arith/delegate.h"
+#include "arith/exports.h"
 #include "core/check.h"
 #include "vector/scaled.h"
 
@@ -9,12 +10,6 @@ namespace hux {
 
 template <class T>
 inline constexpr bool kInteger = std::is_integral_v<T>;
-
-// Layouts in which all elements are treated alike are rows of single elements.
-template <class L>
-using Flat = std::conditional_t<L::channels == L::processed, Layout<1, 1>, L>;
-template <class L>
-inline constexpr Index kFlat = L::channels == L::processed ? L::channels : 1;
 
 // Two-image forms of three and four equal channels stand for the one-channel form over a wider row, and ask for a width
 // before anything else.
@@ -28,7 +23,7 @@ HuxStatus combine(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T*
                   int scaleFactor = 0) {
   const auto zip = [&](auto rule) {
     forEachRow(roi, rows<L>(pSrc1, src1Step), rows<L>(pSrc2, src2Step), rows<L>(pDst, dstStep),
-               [&](auto* a, auto* b, auto* d, Index n) { zipRow<Flat<L>>(a, b, d, n * kFlat<L>, rule); });
+               [&](auto* a, auto* b, auto* d, Index n) { zipRow<L>(a, b, d, n, rule); });
   };
   if constexpr (!kInteger<T>) {
     if (HuxStatus s = check(delegatedWidth<L>(roi), pointers(pSrc1, pSrc2, pDst), size(roi))) return s;
@@ -102,30 +97,7 @@ HuxStatus combineC(const T* pSrc, int srcStep, const T* pPixel, T* pDst, int dst
 
 }  // namespace hux
 
-// The names of one operation and its constant form; `sfs` is Sfs or nothing, what follows it is the function to call.
-// Constants come by value in C1, else as an array.
-#define HUX_PARAMETER_
-#define HUX_PARAMETER_Sfs , int scaleFactor
-#define HUX_ARGUMENT_
-#define HUX_ARGUMENT_Sfs , scaleFactor
-#define HUX_EXPORT_ARITH_IMAGES(name, t, l, sfs, ...)                                                            \
-  HuxStatus huxi##name##_##t##_##l##R##sfs(const Hux##t* pSrc1, int src1Step, const Hux##t* pSrc2, int src2Step, \
-                                           Hux##t* pDst, int dstStep, HuxiSize roiSize HUX_PARAMETER_##sfs) {    \
-    return __VA_ARGS__(pSrc1, src1Step, pSrc2, src2Step, pDst, dstStep, roiSize HUX_ARGUMENT_##sfs);             \
-  }                                                                                                              \
-  HuxStatus huxi##name##_##t##_##l##IR##sfs(const Hux##t* pSrc, int srcStep, Hux##t* pSrcDst, int srcDstStep,    \
-                                            HuxiSize roiSize HUX_PARAMETER_##sfs) {                              \
-    return __VA_ARGS__(pSrc, srcStep, pSrcDst, srcDstStep, pSrcDst, srcDstStep, roiSize HUX_ARGUMENT_##sfs);     \
-  }
-#define HUX_EXPORT_ARITH_CONSTANT(name, t, l, sfs, ...)                                                               \
-  HuxStatus huxi##name##_##t##_##l##R##sfs(const Hux##t* pSrc, int srcStep, hux::Constant<hux::l, Hux##t> constant,   \
-                                           Hux##t* pDst, int dstStep, HuxiSize roiSize HUX_PARAMETER_##sfs) {         \
-    return __VA_ARGS__(pSrc, srcStep, hux::pixelOf(constant), pDst, dstStep, roiSize HUX_ARGUMENT_##sfs);             \
-  }                                                                                                                   \
-  HuxStatus huxi##name##_##t##_##l##IR##sfs(hux::Constant<hux::l, Hux##t> constant, Hux##t* pSrcDst, int srcDstStep,  \
-                                            HuxiSize roiSize HUX_PARAMETER_##sfs) {                                   \
-    return __VA_ARGS__(pSrcDst, srcDstStep, hux::pixelOf(constant), pSrcDst, srcDstStep, roiSize HUX_ARGUMENT_##sfs); \
-  }
+// The names of one operation and its constant form.
 #define HUX_EXPORT_ARITH(name, Op, t, l, sfs)                                \
   HUX_EXPORT_ARITH_IMAGES(name, t, l, sfs, hux::combine<hux::l, Op, Hux##t>) \
   HUX_EXPORT_ARITH_CONSTANT(name##C, t, l, sfs, hux::combineC<hux::l, Op, Hux##t>)

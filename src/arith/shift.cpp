@@ -1,6 +1,6 @@
 // LShiftC, RShiftC: shift by one count for all elements, or by a count per channel. Left shifts and right shifts of
 // unsigned elements are logical, right shifts of signed ones arithmetic.
-#include "arith/scaled_images.h"
+#include "arith/delegate.h"
 #include "core/check.h"
 #include "core/elementwise.h"
 #include "core/stamp.h"
@@ -115,7 +115,7 @@ HuxStatus shift(const T* pSrc, int srcStep, const Hux32u* pPixel, T* pDst, int d
     --count;
   }
   forEachRow(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep),
-             [&](auto* s, auto* d, Index n) { mapRow<Flat<L>>(s, d, n * kFlat<L>, ShiftAll<Op, T>{count}); });
+             [&](auto* s, auto* d, Index n) { mapRow<L>(s, d, n, ShiftAll<Op, T>{count}); });
   return huxStsOk;
 }
 

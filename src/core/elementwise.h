@@ -42,14 +42,13 @@ struct Repeat {
   Lanes<T, N> load(Index, int phase, int) const { return constants[phase]; }
 };
 
-// Applies the rule to n pixels of layout L and returns it, with whatever it has noted. Rule and operands are taken by
-// value: what is kept behind a reference would have to be read again after every store.
-template <class L, class D, class Rule, class... Operands>
-Rule applyRule(Element<D>* dst, Index n, Rule rule, Operands... operands) {
+namespace detail {
+
+// Of four elements each, `colours` are stored. The layout shows in nothing else, so that the loops of most are one.
+template <int colours, class D, class Rule, class... Operands>
+Rule applyToElements(Element<D>* dst, Index elements, Rule rule, Operands... operands) {
   constexpr int lanes = Rule::lanes;
   constexpr int period = std::max({1, Operands::period...});
-  constexpr int colours = L::channels == 4 ? L::processed : 4;
-  const Index elements = n * L::channels;
   Index i = 0;
   for (; i + period * lanes <= elements; i += period * lanes)
     for (int k = 0; k < period; ++k) {
@@ -66,6 +65,15 @@ Rule applyRule(Element<D>* dst, Index n, Rule rule, Operands... operands) {
   return rule;
 }
 
+}  // namespace detail
+
+// Applies the rule to n pixels of layout L and returns it, with whatever it has noted. Rule and operands are taken by
+// value: what is kept behind a reference would have to be read again after every store.
+template <class L, class D, class Rule, class... Operands>
+Rule applyRule(Element<D>* dst, Index n, Rule rule, Operands... operands) {
+  return detail::applyToElements < L::channels == 4 ? L::processed : 4 > (dst, n * L::channels, rule, operands...);
+}
+
 // The rule that moves its operand: a copy by layout.
 template <class T>
 struct Same {
@@ -73,7 +81,7 @@ struct Same {
   Lanes<T, lanes> operator()(Lanes<T, lanes> v) const { return v; }
 };
 
-// The usual shapes. Layouts whose elements are all treated alike may pass C1 and the number of elements.
+// The usual shapes: n pixels of one row, or of two.
 template <class L, class T, class D, class Rule>
 Rule mapRow(const Element<T>* src, Element<D>* dst, Index n, Rule rule) {
   return applyRule<L>(dst, n, rule, Stream<T, Rule::lanes>{src});
