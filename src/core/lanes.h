@@ -215,28 +215,6 @@ V subSaturated(V a, V b) {
   }
 }
 
-// The machine's own saturating instructions, for the types that have them.
-#if defined(__AVX512BW__)
-#define HUX_SATURATING(name, Type, N, Register, instruction)       \
-  inline Lanes<Type, N> name(Lanes<Type, N> a, Lanes<Type, N> b) { \
-    return Lanes<Type, N>(instruction(Register(a), Register(b)));  \
-  }
-HUX_SATURATING(addSaturated, Hux8u, 64, __m512i, _mm512_adds_epu8)
-HUX_SATURATING(subSaturated, Hux8u, 64, __m512i, _mm512_subs_epu8)
-HUX_SATURATING(addSaturated, Hux16u, 32, __m512i, _mm512_adds_epu16)
-HUX_SATURATING(subSaturated, Hux16u, 32, __m512i, _mm512_subs_epu16)
-HUX_SATURATING(addSaturated, Hux16s, 32, __m512i, _mm512_adds_epi16)
-HUX_SATURATING(subSaturated, Hux16s, 32, __m512i, _mm512_subs_epi16)
-#elif defined(__AVX2__)
-#define HUX_SATURATING(name, Type, N, Register, instruction)       \
-  inline Lanes<Type, N> name(Lanes<Type, N> a, Lanes<Type, N> b) { \
-    return Lanes<Type, N>(instruction(Register(a), Register(b)));  \
-  }
-HUX_SATURATING(addSaturated, Hux16s, 16, __m256i, _mm256_adds_epi16)
-HUX_SATURATING(subSaturated, Hux16s, 16, __m256i, _mm256_subs_epi16)
-#endif
-#undef HUX_SATURATING
-
 // Of unsigned 16-bit lanes: the high half of the product, and the mean rounded up.
 template <class V>
 V mulHigh(V a, V b) {
@@ -246,23 +224,33 @@ template <class V>
 V meanUp(V a, V b) {
   return (a | b) - ((a ^ b) >> Hux16u(1));
 }
-#define HUX_LANES_16U(N, Register, prefix)                                   \
-  inline Lanes<Hux16u, N> mulHigh(Lanes<Hux16u, N> a, Lanes<Hux16u, N> b) {  \
-    return Lanes<Hux16u, N>(prefix##_mulhi_epu16(Register(a), Register(b))); \
-  }                                                                          \
-  inline Lanes<Hux16u, N> meanUp(Lanes<Hux16u, N> a, Lanes<Hux16u, N> b) {   \
-    return Lanes<Hux16u, N>(prefix##_avg_epu16(Register(a), Register(b)));   \
+
+// The machine has instructions for these, on bytes and words, in every width.
+#define HUX_LANES_OF(name, Type, bytes, Register, instruction)                         \
+  inline Lanes<Type, bytes / sizeof(Type)> name(Lanes<Type, bytes / sizeof(Type)> a,   \
+                                                Lanes<Type, bytes / sizeof(Type)> b) { \
+    return Lanes<Type, bytes / sizeof(Type)>(instruction(Register(a), Register(b)));   \
   }
+#define HUX_PACKED(bytes, Register, prefix)                                \
+  HUX_LANES_OF(addSaturated, Hux8u, bytes, Register, prefix##_adds_epu8)   \
+  HUX_LANES_OF(subSaturated, Hux8u, bytes, Register, prefix##_subs_epu8)   \
+  HUX_LANES_OF(addSaturated, Hux16u, bytes, Register, prefix##_adds_epu16) \
+  HUX_LANES_OF(subSaturated, Hux16u, bytes, Register, prefix##_subs_epu16) \
+  HUX_LANES_OF(addSaturated, Hux16s, bytes, Register, prefix##_adds_epi16) \
+  HUX_LANES_OF(subSaturated, Hux16s, bytes, Register, prefix##_subs_epi16) \
+  HUX_LANES_OF(mulHigh, Hux16u, bytes, Register, prefix##_mulhi_epu16)     \
+  HUX_LANES_OF(meanUp, Hux16u, bytes, Register, prefix##_avg_epu16)
 #if defined(__AVX512BW__)
-HUX_LANES_16U(32, __m512i, _mm512)
+HUX_PACKED(64, __m512i, _mm512)
 #endif
 #if defined(__AVX2__)
-HUX_LANES_16U(16, __m256i, _mm256)
+HUX_PACKED(32, __m256i, _mm256)
 #endif
 #if defined(__SSE2__)
-HUX_LANES_16U(8, __m128i, _mm)
+HUX_PACKED(16, __m128i, _mm)
 #endif
-#undef HUX_LANES_16U
+#undef HUX_PACKED
+#undef HUX_LANES_OF
 
 template <class V>
 V loadLanes(const void* p) {

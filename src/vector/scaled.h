@@ -103,7 +103,7 @@ struct MulOp {
 // scaleFactor 0.
 template <class Op, class T>
 struct Plain {
-  static constexpr int lanes = laneCount<std::conditional_t<std::is_same_v<Op, MulOp>, Wide<T>, T>>;
+  static constexpr int lanes = std::is_same_v<Op, MulOp> ? laneCount<Wide<T>> : streamLanes<T>;
   using V = Lanes<T, lanes>;
   V operator()(V a, V b) const { return Op::template saturated<T>(a, b); }
 };
@@ -178,7 +178,7 @@ void withRule(int scaleFactor, Run&& run) {
 // The same operations on floats: one operation in the precision of the element.
 template <class Op, class T>
 struct Float {
-  static constexpr int lanes = laneCount<T>;
+  static constexpr int lanes = streamLanes<T>;
   using V = Lanes<T, lanes>;
   V operator()(V a, V b) const { return Op::exact(a, b); }
 };
