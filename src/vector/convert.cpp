@@ -14,15 +14,41 @@ HuxStatus convertVector(const S* pSrc, D* pDst, int len) {
   return huxStsOk;
 }
 
+// Floats times a power of two that is itself a float, to 32-bit integers. The rule is one of double precision; single
+// gives the same: only products too small to count are inexact, and from 2^23 on they are whole numbers.
+template <bool Near>
+struct ScaledTo32s {
+  static constexpr int lanes = laneCount<Hux32f>;
+  Hux32f factor;
+  auto operator()(Lanes<Hux32f, lanes> v) const {
+    using V = Lanes<Hux32f, lanes>;
+    using I = Lanes<Hux32s, lanes>;
+    v *= factor;
+    if constexpr (Near) {
+      const I sign = bitsAs<I>(v) & std::numeric_limits<Hux32s>::min();
+      const V whole = bitsAs<V>(bitsAs<I>(splat<V>(0x1p23f)) | sign);
+      v = bitsAs<V>(bitsAs<I>(v) ^ sign) < 0x1p23f ? (v + whole) - whole : v;
+    }
+    const I top = v >= 0x1p31f;
+    v = lesser(greater(v, splat<V>(-0x1p31f)), splat<V>(0x1p31f - 128));
+    return top ? splat<I>(std::numeric_limits<Hux32s>::max()) : convert<Hux32s>(v);
+  }
+};
+
 // F is the precision of the scaled value.
 template <class F, class S, class D>
 HuxStatus convertScaled(const S* pSrc, D* pDst, int len, HuxRoundMode roundMode, int scaleFactor) {
   if (HuxStatus s = check(pointers(pSrc, pDst), length(len))) return s;
+  const bool near = roundMode == huxRndNear;
+  const auto map = [&](auto rule) { mapRow<C1>(elements(pSrc), elements(pDst), len, rule); };
+  if constexpr (std::is_same_v<S, Hux32f> && std::is_same_v<D, Hux32s>)
+    if (scaleFactor >= -126 && scaleFactor <= 126) {
+      const Hux32f factor = powerOfTwo<Hux32f>(scaleFactor);
+      near ? map(ScaledTo32s<true>{factor}) : map(ScaledTo32s<false>{factor});
+      return huxStsOk;
+    }
   const F factor = powerOfTwo<F>(scaleFactor);
-  if (roundMode == huxRndNear)
-    mapRow<C1>(elements(pSrc), elements(pDst), len, FromScaledFloat<S, F, D, true>{factor});
-  else
-    mapRow<C1>(elements(pSrc), elements(pDst), len, FromScaledFloat<S, F, D, false>{factor});
+  near ? map(FromScaledFloat<S, F, D, true>{factor}) : map(FromScaledFloat<S, F, D, false>{factor});
   return huxStsOk;
 }
 
