@@ -215,10 +215,12 @@ V subSaturated(V a, V b) {
   }
 }
 
-// Of unsigned 16-bit lanes: the high half of the product, and the mean rounded up.
+// Of 16-bit lanes: the high half of the product; of unsigned ones the mean rounded up.
 template <class V>
 V mulHigh(V a, V b) {
-  return convert<Hux16u>((convert<Hux32u>(a) * convert<Hux32u>(b)) >> Hux32u(16));
+  using T = LaneType<V>;
+  using W = std::conditional_t<std::is_signed_v<T>, Hux32s, Hux32u>;
+  return convert<T>((convert<W>(a) * convert<W>(b)) >> W(16));
 }
 template <class V>
 V meanUp(V a, V b) {
@@ -238,6 +240,7 @@ V meanUp(V a, V b) {
   HUX_LANES_OF(subSaturated, Hux16u, bytes, Register, prefix##_subs_epu16) \
   HUX_LANES_OF(addSaturated, Hux16s, bytes, Register, prefix##_adds_epi16) \
   HUX_LANES_OF(subSaturated, Hux16s, bytes, Register, prefix##_subs_epi16) \
+  HUX_LANES_OF(mulHigh, Hux16s, bytes, Register, prefix##_mulhi_epi16)     \
   HUX_LANES_OF(mulHigh, Hux16u, bytes, Register, prefix##_mulhi_epu16)     \
   HUX_LANES_OF(meanUp, Hux16u, bytes, Register, prefix##_avg_epu16)
 #if defined(__AVX512BW__)

@@ -95,15 +95,24 @@ struct MulOp {
     return a * b;
   }
   template <class T, class V>
-  static auto saturated(V a, V b) {
-    return saturate<T>(exact(convert<Wide<T>>(a), convert<Wide<T>>(b)));
+  static V saturated(V a, V b) {
+    if constexpr (sizeof(T) != 2) {
+      return saturate<T>(exact(convert<Wide<T>>(a), convert<Wide<T>>(b)));
+    } else {
+      using U = Lanes<Hux16u, lanesIn<V>>;
+      const V high = mulHigh(a, b), low = V(U(a) * U(b));
+      if constexpr (std::is_signed_v<T>)
+        return high == (low >> T(15)) ? low : (high >> T(15)) ^ T(0x7fff);
+      else
+        return high != 0 ? ~V{} : low;
+    }
   }
 };
 
 // scaleFactor 0.
 template <class Op, class T>
 struct Plain {
-  static constexpr int lanes = std::is_same_v<Op, MulOp> ? laneCount<Wide<T>> : streamLanes<T>;
+  static constexpr int lanes = std::is_same_v<Op, MulOp> && sizeof(T) != 2 ? laneCount<Wide<T>> : streamLanes<T>;
   using V = Lanes<T, lanes>;
   V operator()(V a, V b) const { return Op::template saturated<T>(a, b); }
 };
@@ -163,6 +172,26 @@ struct RoundedNarrow {
   }
 };
 
+// The same for products of 16 bits with scaleFactor below 16, from their high and low halves.
+template <class T>
+struct RoundedProduct {
+  static constexpr int lanes = laneCount<T>;
+  using V = Lanes<T, lanes>;
+  using U = Lanes<Hux16u, lanes>;
+  int scaleFactor;
+  V operator()(V a, V b) const {
+    const Hux16u half = Hux16u(1 << (scaleFactor - 1)), mask = Hux16u(2 * half - 1);
+    const V high = mulHigh(a, b);
+    const U low = U(a) * U(b);
+    const V quotient = V((U(high) << Hux16u(16 - scaleFactor)) | (low >> Hux16u(scaleFactor)));
+    const V up = V((low & mask) > splat<U>(half) - (U(quotient) & 1));  // -1 where one is added
+    if constexpr (std::is_signed_v<T>)
+      return (high >> T(scaleFactor)) == (quotient >> T(15)) ? subSaturated(quotient, up) : (high >> T(15)) ^ T(0x7fff);
+    else
+      return high > mask ? ~V{} : addSaturated(quotient, up & 1);
+  }
+};
+
 // Calls run(rule) with the rule for a scale factor that is not above Op::allZeroAbove.
 template <class Op, class T, class Run>
 void withRule(int scaleFactor, Run&& run) {
@@ -171,6 +200,8 @@ void withRule(int scaleFactor, Run&& run) {
   // Bytes have no shifts of their own.
   if constexpr (sizeof(T) == 2 && !std::is_same_v<Op, MulOp>)
     if (scaleFactor <= 16) return run(RoundedNarrow<Op, T>{scaleFactor});
+  if constexpr (sizeof(T) == 2 && std::is_same_v<Op, MulOp>)
+    if (scaleFactor < 16) return run(RoundedProduct<T>{scaleFactor});
   if (scaleFactor <= Op::template roomTo<T>) return run(Rounded<Op, T, true>{scaleFactor});
   if constexpr (Op::template roomTo<T> < Op::template allZeroAbove<T>) run(Rounded<Op, T, false>{scaleFactor});
 }
