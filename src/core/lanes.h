@@ -110,6 +110,24 @@ HUX_SATURATE(Hux64s, Hux32s, 8, __m256i, _mm512_maskz_cvtsepi64_epi32)
 #undef HUX_SATURATE
 #endif
 
+// Bytes that fill less than a register.
+#define HUX_WIDEN(To, N, Whole, widen, enter)                         \
+  template <>                                                         \
+  inline auto convertDirect<To, Lanes<Hux8u, N>>(Lanes<Hux8u, N> v) { \
+    Whole bytes;                                                      \
+    std::memcpy(&bytes, &v, sizeof bytes);                            \
+    return Lanes<To, N>(widen(enter(bytes)));                         \
+  }
+#if defined(__AVX2__)
+HUX_WIDEN(Hux32s, 8, long long, _mm256_cvtepu8_epi32, _mm_cvtsi64_si128)
+HUX_WIDEN(Hux32u, 8, long long, _mm256_cvtepu8_epi32, _mm_cvtsi64_si128)
+#endif
+#if defined(__SSE4_1__)
+HUX_WIDEN(Hux32s, 4, int, _mm_cvtepu8_epi32, _mm_cvtsi32_si128)
+HUX_WIDEN(Hux32u, 4, int, _mm_cvtepu8_epi32, _mm_cvtsi32_si128)
+#endif
+#undef HUX_WIDEN
+
 }  // namespace detail
 
 // Lane by lane to another type; integers wrap, floats must be in range.
@@ -152,6 +170,16 @@ HUX_SELECT(lesser, Hux32f, 16, __m512, _mm512_maskz_min_ps)
 HUX_SELECT(greater, Hux32f, 16, __m512, _mm512_maskz_max_ps)
 HUX_SELECT(lesser, Hux64f, 8, __m512d, _mm512_maskz_min_pd)
 HUX_SELECT(greater, Hux64f, 8, __m512d, _mm512_maskz_max_pd)
+#define HUX_SELECT_INTEGER(Type, N, type)                       \
+  HUX_SELECT(lesser, Type, N, __m512i, _mm512_maskz_min_##type) \
+  HUX_SELECT(greater, Type, N, __m512i, _mm512_maskz_max_##type)
+HUX_SELECT_INTEGER(Hux8u, 64, epu8)
+HUX_SELECT_INTEGER(Hux16u, 32, epu16)
+HUX_SELECT_INTEGER(Hux16s, 32, epi16)
+HUX_SELECT_INTEGER(Hux32u, 16, epu32)
+HUX_SELECT_INTEGER(Hux32s, 16, epi32)
+HUX_SELECT_INTEGER(Hux64s, 8, epi64)
+#undef HUX_SELECT_INTEGER
 #undef HUX_SELECT
 #endif
 
@@ -270,6 +298,13 @@ void storeLanes(void* p, V v) {
 template <class V>
 V loadLanes(const void* p, int count, LaneType<V> rest) {
   V v = splat<V>(rest);
+#if defined(__AVX512BW__) && defined(__AVX512VL__)
+  const int bytes = count * int(sizeof(LaneType<V>));
+  const std::uint64_t mask = bytes < 64 ? (std::uint64_t(1) << bytes) - 1 : ~std::uint64_t(0);
+  if constexpr (sizeof(V) == 64) return bitsAs<V>(_mm512_mask_loadu_epi8(bitsAs<__m512i>(v), mask, p));
+  if constexpr (sizeof(V) == 32) return bitsAs<V>(_mm256_mask_loadu_epi8(bitsAs<__m256i>(v), __mmask32(mask), p));
+  if constexpr (sizeof(V) == 16) return bitsAs<V>(_mm_mask_loadu_epi8(bitsAs<__m128i>(v), __mmask16(mask), p));
+#endif
   std::memcpy(&v, p, std::size_t(count) * sizeof(LaneType<V>));
   return v;
 }

@@ -25,6 +25,15 @@ V mulAdd(V a, V b, V c) {
 // Whether some lane of a comparison's result holds.
 template <class V>
 bool any(V mask) {
+#if defined(__AVX512BW__)
+  if constexpr (sizeof(V) == 64) return _mm512_movepi8_mask(bitsAs<__m512i>(mask)) != 0;
+#endif
+#if defined(__AVX2__)
+  if constexpr (sizeof(V) == 32) return _mm256_movemask_epi8(bitsAs<__m256i>(mask)) != 0;
+#endif
+#if defined(__SSE2__)
+  if constexpr (sizeof(V) == 16) return _mm_movemask_epi8(bitsAs<__m128i>(mask)) != 0;
+#endif
   std::uint64_t words[(sizeof(V) + 7) / 8] = {}, all = 0;
   std::memcpy(words, &mask, sizeof mask);
   for (const std::uint64_t word : words) all |= word;
@@ -41,6 +50,19 @@ bool anyBelow(V a, V b) {
 template <class V>
 bool anyClear(V v, V mask) {
   return any((v & mask) == 0);
+}
+
+// Stores the lanes in which the mask, a comparison's result, holds one behind the other and returns their number. What
+// lies behind them is overwritten, up to the length of a vector.
+template <class V, class M>
+int storeWhere(void* p, V v, M mask) {
+  int n = 0;
+  for (int i = 0; i < lanesIn<V>; ++i) {
+    const auto lane = v[i];
+    std::memcpy(static_cast<std::byte*>(p) + n * int(sizeof lane), &lane, sizeof lane);
+    n -= int(mask[i]);
+  }
+  return n;
 }
 
 // 64-bit integers as doubles.
@@ -93,6 +115,12 @@ inline bool anyBelow(Lanes<Hux32u, 8> a, Lanes<Hux32u, 8> b) {
   return _mm256_cmplt_epu32_mask(__m256i(a), __m256i(b)) != 0;
 }
 inline Lanes<Hux64f, 8> toDouble(Lanes<Hux64s, 8> v) { return _mm512_maskz_cvtepi64_pd(~0, __m512i(v)); }
+template <>
+inline int storeWhere(void* p, Lanes<std::uint64_t, 8> v, Lanes<Hux64s, 8> mask) {
+  const __mmask8 chosen = _mm512_movepi64_mask(__m512i(mask));
+  storeLanes(p, _mm512_maskz_compress_epi64(chosen, __m512i(v)));
+  return __builtin_popcount(chosen);
+}
 inline bool any(Lanes<Hux16s, 16> mask) { return _mm256_movepi16_mask(__m256i(mask)) != 0; }
 
 template <>

@@ -4,7 +4,6 @@
 #include <bit>
 #include <cmath>
 #include <limits>
-#include <numbers>
 
 #include "core/elementwise.h"
 #include "core/round.h"
@@ -12,21 +11,11 @@
 #include "huxcore.h"
 #include "huxs.h"
 #include "vector/elementary.h"
+#include "vector/logarithm.h"
 #include "vector/nearest.h"
 
 namespace hux {
 namespace {
-
-// The natural logarithm of a positive number, by its series: for tables made at compile time.
-constexpr long double logarithm(long double x) {
-  long double powers = 0;
-  for (; x > 1.5L; x /= 2) ++powers;
-  for (; x < 0.75L; x *= 2) --powers;
-  const long double t = (x - 1) / (x + 1);
-  long double sum = 0, power = t;
-  for (int k = 1; k < 60; k += 2, power *= t * t) sum += power / k;
-  return 2 * sum + powers * std::numbers::ln2_v<long double>;
-}
 
 // 8u: a table for each scale factor. At the first every element above 1 saturates; at the last every result is 0.
 constexpr int kFirstScale = -9, kLastScale = 4;
@@ -39,43 +28,6 @@ constexpr auto kTables = [] {
   }
   return tables;
 }();
-
-// Of positive elements, to within a relative 2^-kErrorBits, for operands of 24 bits at most.
-//
-// The operand is 2^e * z with z from 0.699 to 1.398, and z = (1 + r) / c with c one of 16 reciprocals, chosen by the
-// leading bits; c has 24 bits, so that r is exact. About z = 1 c is 1, and the result keeps its precision.
-struct Logarithm {
-  static constexpr int lanes = laneCount<Hux64f>, kErrorBits = 37;
-  using D = Lanes<Hux64f, lanes>;
-  using U = Lanes<std::uint64_t, lanes>;
-  static constexpr std::uint64_t kFirst = 0x3FE6600000000000;
-  struct alignas(64) Tables {
-    Hux64f reciprocals[16], logarithms[16];
-  };
-  static constexpr Tables kTables = [] {
-    Tables tables{};
-    for (int j = 0; j < 16; ++j) {
-      const auto middle = std::bit_cast<Hux64f>(kFirst + (std::uint64_t(2 * j + 1) << 47));
-      const Hux64f c = j == 9 ? 1 : Hux64f(Hux32f(1 / middle));
-      tables.reciprocals[j] = c;
-      tables.logarithms[j] = Hux64f(-logarithm(c));
-    }
-    return tables;
-  }();
-  LaneTable<Hux64f, 16> reciprocals{kTables.reciprocals}, logarithms{kTables.logarithms};
-
-  D operator()(D x) const {
-    using I = Lanes<Hux64s, lanes>;
-    const U bits = bitsAs<U>(x), offset = bits - kFirst, exponent = offset & ~std::uint64_t(0) << 52;
-    const D z = bitsAs<D>(bits - exponent), e = toDouble(I(exponent));
-    const U entry = offset >> std::uint64_t(48);
-    const D r = mulAdd(z, reciprocals(entry), splat<D>(-1));
-    const D base = mulAdd(e, splat<D>(0x1p-52 * std::numbers::ln2), logarithms(entry));
-    D p = splat<D>(1.0 / 7);
-    for (int k = 6; k >= 1; --k) p = mulAdd(p, r, splat<D>((k % 2 ? 1.0 : -1.0) / k));
-    return mulAdd(p, r, base);
-  }
-};
 
 // The warning of the first lane that is not above 0. (Not inlined: lanes that are taken one by one live in memory.)
 template <class V>
