@@ -604,6 +604,143 @@ HUX_API HuxStatus huxiMirror_8u_AC4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize r
 HUX_API HuxStatus huxiMirror_16u_AC4IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
 HUX_API HuxStatus huxiMirror_32s_AC4IR(Hux32s* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
 
+/* ImageRamp: each pixel takes c * slope + offset in single precision, c being its column (huxAxsHorizontal), its row
+ * (huxAxsVertical) or their product (huxAxsBoth), the same for all channels. Integers are rounded to nearest, halves
+ * away from zero, and saturated; NaN becomes the lowest value. Any other axis writes nothing. AC4: alpha stays. Steps
+ * are rounded down to whole elements.
+ * Checks: null pointer (huxStsNullPtr), step (huxStsBadStep), size (huxStsBadSize). */
+HUX_API HuxStatus huxiImageRamp_8u_C1R(Hux8u* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                       HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_8u_C3R(Hux8u* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                       HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_8u_C4R(Hux8u* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                       HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_8u_AC4R(Hux8u* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                        HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_8s_C1R(Hux8s* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                       HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_8s_C3R(Hux8s* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                       HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_8s_C4R(Hux8s* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                       HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_8s_AC4R(Hux8s* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                        HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_16u_C1R(Hux16u* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                        HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_16u_C3R(Hux16u* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                        HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_16u_C4R(Hux16u* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                        HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_16u_AC4R(Hux16u* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                         HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_16s_C1R(Hux16s* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                        HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_16s_C3R(Hux16s* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                        HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_16s_C4R(Hux16s* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                        HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_16s_AC4R(Hux16s* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                         HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_32s_C1R(Hux32s* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                        HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_32s_C3R(Hux32s* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                        HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_32s_C4R(Hux32s* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                        HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_32s_AC4R(Hux32s* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                         HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_32f_C1R(Hux32f* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                        HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_32f_C3R(Hux32f* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                        HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_32f_C4R(Hux32f* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                        HuxiAxis axis);
+HUX_API HuxStatus huxiImageRamp_32f_AC4R(Hux32f* pDst, int dstStep, HuxiSize roiSize, Hux32f offset, Hux32f slope,
+                                         HuxiAxis axis);
+
+/* ImageJaehne: a radial chirp s = sin(2 pi r^2 / (4 height)), r being the distance from the centre of the region, in an
+ * image of any width. Unsigned integers take s + 1 and signed ones s, over the whole range of the type; 32f takes s + 1
+ * from 0 to 1. The same for all channels; AC4: alpha stays. Checks as for ImageRamp. */
+HUX_API HuxStatus huxiImageJaehne_8u_C1R(Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_8u_C3R(Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_8u_C4R(Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_8u_AC4R(Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_8s_C1R(Hux8s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_8s_C3R(Hux8s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_8s_C4R(Hux8s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_8s_AC4R(Hux8s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_16u_C1R(Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_16u_C3R(Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_16u_C4R(Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_16u_AC4R(Hux16u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_16s_C1R(Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_16s_C3R(Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_16s_C4R(Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_16s_AC4R(Hux16s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_32s_C1R(Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_32s_C3R(Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_32s_C4R(Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_32s_AC4R(Hux32s* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_32f_C1R(Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_32f_C3R(Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_32f_C4R(Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiImageJaehne_32f_AC4R(Hux32f* pDst, int dstStep, HuxiSize roiSize);
+
+/* AddRandUniform_Direct, AddRandGauss_Direct: add noise to an image, uniform from low to high or normal with mean and
+ * stdDev, which take any value. On integers the noise is truncated and the sum saturated; on 32f the sum is formed in
+ * double precision. The generator starts from *pSeed, and what it would go on from is left there, so that further calls
+ * do not repeat the noise; the same seed gives the same noise everywhere. Elements are served in memory order, normal
+ * noise in pairs that end with a row; alpha of AC4 takes none and stays.
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), step (huxStsBadStep). */
+HUX_API HuxStatus huxiAddRandUniform_Direct_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux8u low,
+                                                    Hux8u high, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandUniform_Direct_8u_C3IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux8u low,
+                                                    Hux8u high, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandUniform_Direct_8u_C4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux8u low,
+                                                    Hux8u high, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandUniform_Direct_8u_AC4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux8u low,
+                                                     Hux8u high, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandUniform_Direct_16s_C1IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux16s low,
+                                                     Hux16s high, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandUniform_Direct_16s_C3IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux16s low,
+                                                     Hux16s high, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandUniform_Direct_16s_C4IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux16s low,
+                                                     Hux16s high, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandUniform_Direct_16s_AC4IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux16s low,
+                                                      Hux16s high, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandUniform_Direct_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux32f low,
+                                                     Hux32f high, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandUniform_Direct_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux32f low,
+                                                     Hux32f high, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandUniform_Direct_32f_C4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux32f low,
+                                                     Hux32f high, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandUniform_Direct_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux32f low,
+                                                      Hux32f high, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandGauss_Direct_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux8u mean,
+                                                  Hux8u stdDev, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandGauss_Direct_8u_C3IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux8u mean,
+                                                  Hux8u stdDev, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandGauss_Direct_8u_C4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux8u mean,
+                                                  Hux8u stdDev, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandGauss_Direct_8u_AC4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux8u mean,
+                                                   Hux8u stdDev, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandGauss_Direct_16s_C1IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux16s mean,
+                                                   Hux16s stdDev, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandGauss_Direct_16s_C3IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux16s mean,
+                                                   Hux16s stdDev, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandGauss_Direct_16s_C4IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux16s mean,
+                                                   Hux16s stdDev, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandGauss_Direct_16s_AC4IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux16s mean,
+                                                    Hux16s stdDev, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandGauss_Direct_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux32f mean,
+                                                   Hux32f stdDev, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandGauss_Direct_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux32f mean,
+                                                   Hux32f stdDev, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandGauss_Direct_32f_C4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux32f mean,
+                                                   Hux32f stdDev, Hux32u* pSeed);
+HUX_API HuxStatus huxiAddRandGauss_Direct_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, Hux32f mean,
+                                                    Hux32f stdDev, Hux32u* pSeed);
+
 HUX_END_C
 
 #endif
