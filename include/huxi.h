@@ -12,6 +12,7 @@
 #include "huxdefs.h"
 #include "huxi_arith.h"
 #include "huxi_pixel.h"
+#include "huxi_stats.h"
 
 HUX_BEGIN_C
 

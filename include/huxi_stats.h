@@ -1,0 +1,883 @@
+/* Statistics and proximity: what an image, or a pair of images, measures; histograms and look-up tables. Plain C99. */
+#ifndef HUXI_STATS_H
+#define HUXI_STATS_H
+
+#include "huxdefs.h"
+
+HUX_BEGIN_C
+
+/* Sum: the sum of each channel, 1 (C1), 3 (C3, AC4) or 4 (C4) values; alpha of AC4 is not read. Integer pixels are
+ * added up in 32 bits that wrap silently: 8u row by row, 16s and 16u in blocks of 65536 pixels of a row, each total
+ * taken as a signed number (on 16u too, where a block of more than 32768 bright pixels turns negative), and the
+ * totals in double precision. 32f is summed in double precision. hint is not read.
+ * Checks: null pointers (huxStsNullPtr), step (huxStsBadStep), size (huxStsBadSize). */
+HUX_API HuxStatus huxiSum_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pSum);
+HUX_API HuxStatus huxiSum_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[3]);
+HUX_API HuxStatus huxiSum_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[3]);
+HUX_API HuxStatus huxiSum_8u_C4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[4]);
+HUX_API HuxStatus huxiSum_16s_C1R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pSum);
+HUX_API HuxStatus huxiSum_16s_C3R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[3]);
+HUX_API HuxStatus huxiSum_16s_AC4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[3]);
+HUX_API HuxStatus huxiSum_16s_C4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[4]);
+HUX_API HuxStatus huxiSum_16u_C1R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pSum);
+HUX_API HuxStatus huxiSum_16u_C3R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[3]);
+HUX_API HuxStatus huxiSum_16u_AC4R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[3]);
+HUX_API HuxStatus huxiSum_16u_C4R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[4]);
+HUX_API HuxStatus huxiSum_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pSum,
+                                  HuxAccuracyHint hint);
+HUX_API HuxStatus huxiSum_32f_C3R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[3],
+                                  HuxAccuracyHint hint);
+HUX_API HuxStatus huxiSum_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[3],
+                                   HuxAccuracyHint hint);
+HUX_API HuxStatus huxiSum_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[4],
+                                  HuxAccuracyHint hint);
+
+/* Mean: the sum of each channel, as by Sum, over width * height, a product of 32 bits that wraps. C1 divides; the
+ * other layouts multiply by the reciprocal.
+ * Checks: pMean null (huxStsNullPtr), then those of Sum. A failed call leaves pMean unwritten. */
+HUX_API HuxStatus huxiMean_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pMean);
+HUX_API HuxStatus huxiMean_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[3]);
+HUX_API HuxStatus huxiMean_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[3]);
+HUX_API HuxStatus huxiMean_8u_C4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[4]);
+HUX_API HuxStatus huxiMean_16s_C1R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pMean);
+HUX_API HuxStatus huxiMean_16s_C3R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[3]);
+HUX_API HuxStatus huxiMean_16s_AC4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[3]);
+HUX_API HuxStatus huxiMean_16s_C4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[4]);
+HUX_API HuxStatus huxiMean_16u_C1R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pMean);
+HUX_API HuxStatus huxiMean_16u_C3R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[3]);
+HUX_API HuxStatus huxiMean_16u_AC4R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[3]);
+HUX_API HuxStatus huxiMean_16u_C4R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[4]);
+HUX_API HuxStatus huxiMean_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pMean,
+                                   HuxAccuracyHint hint);
+HUX_API HuxStatus huxiMean_32f_C3R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[3],
+                                   HuxAccuracyHint hint);
+HUX_API HuxStatus huxiMean_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[3],
+                                    HuxAccuracyHint hint);
+HUX_API HuxStatus huxiMean_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[4],
+                                   HuxAccuracyHint hint);
+
+/* Min, Max, MinMax: the smallest and the largest element of each channel, 1, 3 (C3, AC4) or 4 values. With a NaN
+ * among 32f pixels: in Min and Max it displaces the running value and is displaced by the next pixel; in MinMax it
+ * counts as a maximum until the next pixel that does not lower the minimum.
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), step (huxStsBadStep). */
+HUX_API HuxStatus huxiMin_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u* pMin);
+HUX_API HuxStatus huxiMin_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMin[3]);
+HUX_API HuxStatus huxiMin_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMin[3]);
+HUX_API HuxStatus huxiMin_8u_C4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMin[4]);
+HUX_API HuxStatus huxiMin_16s_C1R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s* pMin);
+HUX_API HuxStatus huxiMin_16s_C3R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMin[3]);
+HUX_API HuxStatus huxiMin_16s_AC4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMin[3]);
+HUX_API HuxStatus huxiMin_16s_C4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMin[4]);
+HUX_API HuxStatus huxiMin_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f* pMin);
+HUX_API HuxStatus huxiMin_32f_C3R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMin[3]);
+HUX_API HuxStatus huxiMin_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMin[3]);
+HUX_API HuxStatus huxiMin_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMin[4]);
+HUX_API HuxStatus huxiMax_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u* pMax);
+HUX_API HuxStatus huxiMax_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMax[3]);
+HUX_API HuxStatus huxiMax_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMax[3]);
+HUX_API HuxStatus huxiMax_8u_C4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMax[4]);
+HUX_API HuxStatus huxiMax_16s_C1R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s* pMax);
+HUX_API HuxStatus huxiMax_16s_C3R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMax[3]);
+HUX_API HuxStatus huxiMax_16s_AC4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMax[3]);
+HUX_API HuxStatus huxiMax_16s_C4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMax[4]);
+HUX_API HuxStatus huxiMax_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f* pMax);
+HUX_API HuxStatus huxiMax_32f_C3R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMax[3]);
+HUX_API HuxStatus huxiMax_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMax[3]);
+HUX_API HuxStatus huxiMax_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMax[4]);
+HUX_API HuxStatus huxiMinMax_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u* pMin, Hux8u* pMax);
+HUX_API HuxStatus huxiMinMax_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMin[3], Hux8u pMax[3]);
+HUX_API HuxStatus huxiMinMax_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMin[3], Hux8u pMax[3]);
+HUX_API HuxStatus huxiMinMax_8u_C4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMin[4], Hux8u pMax[4]);
+HUX_API HuxStatus huxiMinMax_16s_C1R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s* pMin, Hux16s* pMax);
+HUX_API HuxStatus huxiMinMax_16s_C3R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMin[3], Hux16s pMax[3]);
+HUX_API HuxStatus huxiMinMax_16s_AC4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMin[3],
+                                      Hux16s pMax[3]);
+HUX_API HuxStatus huxiMinMax_16s_C4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMin[4], Hux16s pMax[4]);
+HUX_API HuxStatus huxiMinMax_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f* pMin, Hux32f* pMax);
+HUX_API HuxStatus huxiMinMax_32f_C3R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMin[3], Hux32f pMax[3]);
+HUX_API HuxStatus huxiMinMax_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMin[3],
+                                      Hux32f pMax[3]);
+HUX_API HuxStatus huxiMinMax_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMin[4], Hux32f pMax[4]);
+
+/* MinIndx, MaxIndx: the smallest or largest element of each channel and the column and row of the first pixel, rows
+ * top to bottom, that holds it. On 32f a NaN in the first pixel stays, a later one is never taken. Checks as for Min.
+ */
+HUX_API HuxStatus huxiMinIndx_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u* pMin, int* pIndexX,
+                                     int* pIndexY);
+HUX_API HuxStatus huxiMinIndx_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMin[3], int pIndexX[3],
+                                     int pIndexY[3]);
+HUX_API HuxStatus huxiMinIndx_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMin[3], int pIndexX[3],
+                                      int pIndexY[3]);
+HUX_API HuxStatus huxiMinIndx_8u_C4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMin[4], int pIndexX[4],
+                                     int pIndexY[4]);
+HUX_API HuxStatus huxiMinIndx_16s_C1R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s* pMin, int* pIndexX,
+                                      int* pIndexY);
+HUX_API HuxStatus huxiMinIndx_16s_C3R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMin[3], int pIndexX[3],
+                                      int pIndexY[3]);
+HUX_API HuxStatus huxiMinIndx_16s_AC4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMin[3],
+                                       int pIndexX[3], int pIndexY[3]);
+HUX_API HuxStatus huxiMinIndx_16s_C4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMin[4], int pIndexX[4],
+                                      int pIndexY[4]);
+HUX_API HuxStatus huxiMinIndx_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f* pMin, int* pIndexX,
+                                      int* pIndexY);
+HUX_API HuxStatus huxiMinIndx_32f_C3R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMin[3], int pIndexX[3],
+                                      int pIndexY[3]);
+HUX_API HuxStatus huxiMinIndx_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMin[3],
+                                       int pIndexX[3], int pIndexY[3]);
+HUX_API HuxStatus huxiMinIndx_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMin[4], int pIndexX[4],
+                                      int pIndexY[4]);
+HUX_API HuxStatus huxiMaxIndx_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u* pMax, int* pIndexX,
+                                     int* pIndexY);
+HUX_API HuxStatus huxiMaxIndx_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMax[3], int pIndexX[3],
+                                     int pIndexY[3]);
+HUX_API HuxStatus huxiMaxIndx_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMax[3], int pIndexX[3],
+                                      int pIndexY[3]);
+HUX_API HuxStatus huxiMaxIndx_8u_C4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMax[4], int pIndexX[4],
+                                     int pIndexY[4]);
+HUX_API HuxStatus huxiMaxIndx_16s_C1R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s* pMax, int* pIndexX,
+                                      int* pIndexY);
+HUX_API HuxStatus huxiMaxIndx_16s_C3R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMax[3], int pIndexX[3],
+                                      int pIndexY[3]);
+HUX_API HuxStatus huxiMaxIndx_16s_AC4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMax[3],
+                                       int pIndexX[3], int pIndexY[3]);
+HUX_API HuxStatus huxiMaxIndx_16s_C4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux16s pMax[4], int pIndexX[4],
+                                      int pIndexY[4]);
+HUX_API HuxStatus huxiMaxIndx_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f* pMax, int* pIndexX,
+                                      int* pIndexY);
+HUX_API HuxStatus huxiMaxIndx_32f_C3R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMax[3], int pIndexX[3],
+                                      int pIndexY[3]);
+HUX_API HuxStatus huxiMaxIndx_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMax[3],
+                                       int pIndexX[3], int pIndexY[3]);
+HUX_API HuxStatus huxiMaxIndx_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMax[4], int pIndexX[4],
+                                      int pIndexY[4]);
+
+/* CountInRange: how many elements of each channel lie in lowerBound..upperBound, both included. A NaN never counts.
+ * Checks: null pointers (huxStsNullPtr), step (huxStsBadStep), size (huxStsBadSize), lowerBound above upperBound in
+ * any channel (huxStsBadRange). On 32f a step that is not a multiple of 4 is rounded down. */
+HUX_API HuxStatus huxiCountInRange_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, int* pCounts,
+                                          Hux8u lowerBound, Hux8u upperBound);
+HUX_API HuxStatus huxiCountInRange_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, int pCounts[3],
+                                          const Hux8u lowerBound[3], const Hux8u upperBound[3]);
+HUX_API HuxStatus huxiCountInRange_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, int pCounts[3],
+                                           const Hux8u lowerBound[3], const Hux8u upperBound[3]);
+HUX_API HuxStatus huxiCountInRange_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, int* pCounts,
+                                           Hux32f lowerBound, Hux32f upperBound);
+HUX_API HuxStatus huxiCountInRange_32f_C3R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, int pCounts[3],
+                                           const Hux32f lowerBound[3], const Hux32f upperBound[3]);
+HUX_API HuxStatus huxiCountInRange_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, int pCounts[3],
+                                            const Hux32f lowerBound[3], const Hux32f upperBound[3]);
+
+/* Norms of an image (Norm), of the difference pSrc1 - pSrc2 (NormDiff), and of the difference relative to pSrc2
+ * (NormRel), for each channel: 1, 3 (C3, AC4) or 4 values; alpha of AC4 is not read. Inf: the largest magnitude; L1:
+ * the sum of magnitudes; L2: the root of the sum of squares. Integer row totals of L1 are 32-bit numbers that wrap
+ * silently; L2 on 8u takes strips of 32768 columns, whose norms are squared and added up; L2 on 16s and 16u adds in 64
+ * bits; the rest is double precision. In Inf a NaN displaces the running value and is displaced by what follows; in L1
+ * and L2 it reaches the result. hint is not read.
+ * NormRel: where the norm of pSrc2 (in L2 of C1: its sum of squares) is not at least the smallest normal double (NaN
+ * included), the value is the plain NormDiff and the status huxStsDivByZeroWarn, with C3, AC4 and C4 for all channels
+ * if it is so in one.
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), steps (huxStsBadStep); 16u members test the steps
+ * before the size. */
+
+/* Norm: of one image. */
+HUX_API HuxStatus huxiNorm_Inf_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNorm_Inf_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_Inf_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_Inf_8u_C4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNorm_Inf_16s_C1R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNorm_Inf_16s_C3R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_Inf_16s_AC4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_Inf_16s_C4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNorm_Inf_16u_C1R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNorm_Inf_16u_C3R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_Inf_16u_AC4R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_Inf_16u_C4R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNorm_Inf_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNorm_Inf_32f_C3R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_Inf_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_Inf_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNorm_Inf_32s_C1R(const Hux32s* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNorm_L1_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNorm_L1_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_L1_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_L1_8u_C4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNorm_L1_16s_C1R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNorm_L1_16s_C3R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_L1_16s_AC4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_L1_16s_C4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNorm_L1_16u_C1R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNorm_L1_16u_C3R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_L1_16u_AC4R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_L1_16u_C4R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNorm_L1_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pValue,
+                                      HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNorm_L1_32f_C3R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3],
+                                      HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNorm_L1_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3],
+                                       HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNorm_L1_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[4],
+                                      HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNorm_L2_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNorm_L2_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_L2_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_L2_8u_C4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNorm_L2_16s_C1R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNorm_L2_16s_C3R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_L2_16s_AC4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_L2_16s_C4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNorm_L2_16u_C1R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNorm_L2_16u_C3R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_L2_16u_AC4R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNorm_L2_16u_C4R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNorm_L2_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pValue,
+                                      HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNorm_L2_32f_C3R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3],
+                                      HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNorm_L2_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3],
+                                       HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNorm_L2_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[4],
+                                      HuxAccuracyHint hint);
+
+/* NormDiff: of a difference. */
+HUX_API HuxStatus huxiNormDiff_Inf_8u_C1R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormDiff_Inf_8u_C3R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_Inf_8u_AC4R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_Inf_8u_C4R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormDiff_Inf_16s_C1R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormDiff_Inf_16s_C3R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_Inf_16s_AC4R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                            HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_Inf_16s_C4R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormDiff_Inf_16u_C1R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormDiff_Inf_16u_C3R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_Inf_16u_AC4R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                            HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_Inf_16u_C4R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormDiff_Inf_32f_C1R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormDiff_Inf_32f_C3R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_Inf_32f_AC4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                            HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_Inf_32f_C4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormDiff_L1_8u_C1R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormDiff_L1_8u_C3R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_L1_8u_AC4R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_L1_8u_C4R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormDiff_L1_16s_C1R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormDiff_L1_16s_C3R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_L1_16s_AC4R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_L1_16s_C4R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormDiff_L1_16u_C1R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormDiff_L1_16u_C3R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_L1_16u_AC4R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_L1_16u_C4R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormDiff_L1_32f_C1R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f* pValue, HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNormDiff_L1_32f_C3R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3], HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNormDiff_L1_32f_AC4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[3], HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNormDiff_L1_32f_C4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[4], HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNormDiff_L2_8u_C1R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormDiff_L2_8u_C3R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_L2_8u_AC4R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_L2_8u_C4R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormDiff_L2_16s_C1R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormDiff_L2_16s_C3R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_L2_16s_AC4R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_L2_16s_C4R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormDiff_L2_16u_C1R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormDiff_L2_16u_C3R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_L2_16u_AC4R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormDiff_L2_16u_C4R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormDiff_L2_32f_C1R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f* pValue, HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNormDiff_L2_32f_C3R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3], HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNormDiff_L2_32f_AC4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[3], HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNormDiff_L2_32f_C4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[4], HuxAccuracyHint hint);
+
+/* NormRel: of a difference, relative to pSrc2. */
+HUX_API HuxStatus huxiNormRel_Inf_8u_C1R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormRel_Inf_8u_C3R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_Inf_8u_AC4R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_Inf_8u_C4R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormRel_Inf_16s_C1R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormRel_Inf_16s_C3R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_Inf_16s_AC4R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_Inf_16s_C4R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormRel_Inf_16u_C1R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormRel_Inf_16u_C3R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_Inf_16u_AC4R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_Inf_16u_C4R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormRel_Inf_32f_C1R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormRel_Inf_32f_C3R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_Inf_32f_AC4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_Inf_32f_C4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormRel_L1_8u_C1R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                        HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormRel_L1_8u_C3R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                        HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_L1_8u_AC4R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_L1_8u_C4R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                        HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormRel_L1_16s_C1R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormRel_L1_16s_C3R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_L1_16s_AC4R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_L1_16s_C4R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormRel_L1_16u_C1R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormRel_L1_16u_C3R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_L1_16u_AC4R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_L1_16u_C4R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormRel_L1_32f_C1R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f* pValue, HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNormRel_L1_32f_C3R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[3], HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNormRel_L1_32f_AC4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3], HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNormRel_L1_32f_C4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[4], HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNormRel_L2_8u_C1R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                        HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormRel_L2_8u_C3R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                        HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_L2_8u_AC4R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_L2_8u_C4R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                        HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormRel_L2_16s_C1R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormRel_L2_16s_C3R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_L2_16s_AC4R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_L2_16s_C4R(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormRel_L2_16u_C1R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f* pValue);
+HUX_API HuxStatus huxiNormRel_L2_16u_C3R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_L2_16u_AC4R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3]);
+HUX_API HuxStatus huxiNormRel_L2_16u_C4R(const Hux16u* pSrc1, int src1Step, const Hux16u* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[4]);
+HUX_API HuxStatus huxiNormRel_L2_32f_C1R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f* pValue, HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNormRel_L2_32f_C3R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[3], HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNormRel_L2_32f_AC4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                          HuxiSize roiSize, Hux64f pValue[3], HuxAccuracyHint hint);
+HUX_API HuxStatus huxiNormRel_L2_32f_C4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                         HuxiSize roiSize, Hux64f pValue[4], HuxAccuracyHint hint);
+
+/* Moments up to the third order. A record is created (MomentInitAlloc, or MomentInit in MomentGetStateSize bytes of
+ * the caller's), filled from an image by Moments, read by any number of Get functions, filled again as often as
+ * wanted, and freed (MomentFree; never after MomentInit). A record that several threads only read may be shared.
+ * 64f records hold double precision numbers. 64s records hold 64-bit integers, in which the products of a pixel with
+ * the powers of its column wrap at 32 bits; their results are multiplied by 2^-scaleFactor and truncated towards
+ * zero. The factor 2^scaleFactor is a 32-bit shift with the count modulo 32, read as a signed number. */
+typedef struct HuxiMomentRecord_64f HuxiMomentRecord_64f;
+typedef struct HuxiMomentRecord_64s HuxiMomentRecord_64s;
+
+/* MomentInitAlloc: a new record in *ppState. MomentGetStateSize: the size of a record in bytes, in *pSize.
+ * MomentInit: makes a record of the memory at pState. MomentFree: frees a record of MomentInitAlloc. hint is stored
+ * and not read.
+ * Checks: null pointers (huxStsNullPtr); MomentFree: then a record of another kind (huxStsBadContext);
+ * MomentInitAlloc: huxStsNoMem. */
+HUX_API HuxStatus huxiMomentInitAlloc_64f(HuxiMomentRecord_64f** ppState, HuxAccuracyHint hint);
+HUX_API HuxStatus huxiMomentInitAlloc_64s(HuxiMomentRecord_64s** ppState, HuxAccuracyHint hint);
+HUX_API HuxStatus huxiMomentFree_64f(HuxiMomentRecord_64f* pState);
+HUX_API HuxStatus huxiMomentFree_64s(HuxiMomentRecord_64s* pState);
+HUX_API HuxStatus huxiMomentGetStateSize_64s(HuxAccuracyHint hint, int* pSize);
+HUX_API HuxStatus huxiMomentInit_64s(HuxiMomentRecord_64s* pState, HuxAccuracyHint hint);
+
+/* Moments: fills a record with the ten moments sum(p(x, y) * x^m * y^n), m + n <= 3, of each channel, x and y counted
+ * from 0 in the region. What the record held is gone.
+ * Checks: null pointers (huxStsNullPtr), a record of another kind (huxStsBadContext), step below 1 (huxStsBadStep),
+ * size (huxStsBadSize), step below the length of a row (huxStsStepBelowWidth). A failed call leaves the record as it
+ * was. */
+HUX_API HuxStatus huxiMoments64f_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, HuxiMomentRecord_64f* pState);
+HUX_API HuxStatus huxiMoments64f_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, HuxiMomentRecord_64f* pState);
+HUX_API HuxStatus huxiMoments64f_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize,
+                                         HuxiMomentRecord_64f* pState);
+HUX_API HuxStatus huxiMoments64f_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize,
+                                         HuxiMomentRecord_64f* pState);
+HUX_API HuxStatus huxiMoments64f_32f_C3R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize,
+                                         HuxiMomentRecord_64f* pState);
+HUX_API HuxStatus huxiMoments64f_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize,
+                                          HuxiMomentRecord_64f* pState);
+HUX_API HuxStatus huxiMoments64s_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, HuxiMomentRecord_64s* pState);
+HUX_API HuxStatus huxiMoments64s_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, HuxiMomentRecord_64s* pState);
+HUX_API HuxStatus huxiMoments64s_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize,
+                                         HuxiMomentRecord_64s* pState);
+
+/* GetSpatialMoment: sum(p * (x + offset.x)^m * (y + offset.y)^n), m being xOrder and n yOrder; the offset tells where
+ * the region lies in a larger frame. GetCentralMoment: the moment about the centre of mass. The Normalized forms
+ * multiply by M00^(-(m + n + 2) / 2), M00 being the sum of the pixels.
+ * Checks: null pointers (huxStsNullPtr), a record of another kind (huxStsBadContext), xOrder + yOrder above 3
+ * (huxStsBadSize), channel outside those filled (huxStsBadMomentIndex); central and normalised: M00 zero, on 64f of
+ * magnitude 2.220446049250313e-16 or less (huxStsMomentTooSmall). Orders of which one is negative are not refused:
+ * 64f then leaves *pValue as it is, 64s writes 0. Normalised spatial 64f moments that fail for M00 leave the plain
+ * moment in *pValue. */
+HUX_API HuxStatus huxiGetSpatialMoment_64f(const HuxiMomentRecord_64f* pState, int xOrder, int yOrder, int channel,
+                                           HuxiPoint offset, Hux64f* pValue);
+HUX_API HuxStatus huxiGetSpatialMoment_64s(const HuxiMomentRecord_64s* pState, int xOrder, int yOrder, int channel,
+                                           HuxiPoint offset, Hux64s* pValue, int scaleFactor);
+HUX_API HuxStatus huxiGetNormalizedSpatialMoment_64f(const HuxiMomentRecord_64f* pState, int xOrder, int yOrder,
+                                                     int channel, HuxiPoint offset, Hux64f* pValue);
+HUX_API HuxStatus huxiGetNormalizedSpatialMoment_64s(const HuxiMomentRecord_64s* pState, int xOrder, int yOrder,
+                                                     int channel, HuxiPoint offset, Hux64s* pValue, int scaleFactor);
+HUX_API HuxStatus huxiGetCentralMoment_64f(const HuxiMomentRecord_64f* pState, int xOrder, int yOrder, int channel,
+                                           Hux64f* pValue);
+HUX_API HuxStatus huxiGetCentralMoment_64s(const HuxiMomentRecord_64s* pState, int xOrder, int yOrder, int channel,
+                                           Hux64s* pValue, int scaleFactor);
+HUX_API HuxStatus huxiGetNormalizedCentralMoment_64f(const HuxiMomentRecord_64f* pState, int xOrder, int yOrder,
+                                                     int channel, Hux64f* pValue);
+HUX_API HuxStatus huxiGetNormalizedCentralMoment_64s(const HuxiMomentRecord_64s* pState, int xOrder, int yOrder,
+                                                     int channel, Hux64s* pValue, int scaleFactor);
+
+/* GetHuMoments: seven numbers made of the normalised central moments, meant not to change when the shape is moved,
+ * scaled or turned. The fifth is built from u12 + u03 where the textbooks have u30 + u12.
+ * Checks: null pointers (huxStsNullPtr), a record of another kind (huxStsBadContext), channel (huxStsBadMomentIndex),
+ * M00 as above (huxStsMomentTooSmall). */
+HUX_API HuxStatus huxiGetHuMoments_64f(const HuxiMomentRecord_64f* pState, int channel, Hux64f pHu[7]);
+HUX_API HuxStatus huxiGetHuMoments_64s(const HuxiMomentRecord_64s* pState, int channel, Hux64s pHu[7], int scaleFactor);
+
+/* HistogramRange: counts pixels into nLevels - 1 bins; bin k of a channel counts pLevels[k] <= p < pLevels[k + 1].
+ * Levels need not ascend: each bin stands for its own interval, one whose ends do not ascend stays 0. A NaN is not
+ * counted, but in every bin where the levels of any channel do not strictly ascend.
+ * HistogramEven: the same with nLevels levels from lowerLevel to upperLevel, which it writes to pLevels; where the
+ * range does not divide evenly, the first steps are wider by 1.
+ * C3, AC4, C4: pHist and pLevels are arrays of pointers, one per channel, the other arguments arrays; alpha of AC4 is
+ * not read.
+ * Checks, C1: null pointers (huxStsNullPtr), size (huxStsBadSize), step (huxStsBadStep), nLevels below 2
+ * (huxStsBadHistLevels). Other layouts: null pointers, then by channel pHist[c] or pLevels[c] null (huxStsNullPtr)
+ * and nLevels[c] (huxStsBadHistLevels), then size, step. 16s, 16u: then huxStsNoMem, with pHist zeroed (and pLevels
+ * of HistogramEven written). */
+
+HUX_API HuxStatus huxiHistogramRange_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* pHist,
+                                            const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiHistogramRange_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[3],
+                                            const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiHistogramRange_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[3],
+                                             const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiHistogramRange_8u_C4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[4],
+                                            const Hux32s* const pLevels[4], const int nLevels[4]);
+HUX_API HuxStatus huxiHistogramRange_16s_C1R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux32s* pHist,
+                                             const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiHistogramRange_16s_C3R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[3],
+                                             const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiHistogramRange_16s_AC4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[3],
+                                              const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiHistogramRange_16s_C4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[4],
+                                             const Hux32s* const pLevels[4], const int nLevels[4]);
+HUX_API HuxStatus huxiHistogramRange_16u_C1R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* pHist,
+                                             const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiHistogramRange_16u_C3R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[3],
+                                             const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiHistogramRange_16u_AC4R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[3],
+                                              const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiHistogramRange_16u_C4R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[4],
+                                             const Hux32s* const pLevels[4], const int nLevels[4]);
+HUX_API HuxStatus huxiHistogramRange_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32s* pHist,
+                                             const Hux32f* pLevels, int nLevels);
+HUX_API HuxStatus huxiHistogramRange_32f_C3R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[3],
+                                             const Hux32f* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiHistogramRange_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[3],
+                                              const Hux32f* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiHistogramRange_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[4],
+                                             const Hux32f* const pLevels[4], const int nLevels[4]);
+
+HUX_API HuxStatus huxiHistogramEven_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* pHist,
+                                           Hux32s* pLevels, int nLevels, Hux32s lowerLevel, Hux32s upperLevel);
+HUX_API HuxStatus huxiHistogramEven_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[3],
+                                           Hux32s* const pLevels[3], const int nLevels[3], const Hux32s lowerLevel[3],
+                                           const Hux32s upperLevel[3]);
+HUX_API HuxStatus huxiHistogramEven_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[3],
+                                            Hux32s* const pLevels[3], const int nLevels[3], const Hux32s lowerLevel[3],
+                                            const Hux32s upperLevel[3]);
+HUX_API HuxStatus huxiHistogramEven_8u_C4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[4],
+                                           Hux32s* const pLevels[4], const int nLevels[4], const Hux32s lowerLevel[4],
+                                           const Hux32s upperLevel[4]);
+HUX_API HuxStatus huxiHistogramEven_16s_C1R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux32s* pHist,
+                                            Hux32s* pLevels, int nLevels, Hux32s lowerLevel, Hux32s upperLevel);
+HUX_API HuxStatus huxiHistogramEven_16s_C3R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[3],
+                                            Hux32s* const pLevels[3], const int nLevels[3], const Hux32s lowerLevel[3],
+                                            const Hux32s upperLevel[3]);
+HUX_API HuxStatus huxiHistogramEven_16s_AC4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[3],
+                                             Hux32s* const pLevels[3], const int nLevels[3], const Hux32s lowerLevel[3],
+                                             const Hux32s upperLevel[3]);
+HUX_API HuxStatus huxiHistogramEven_16s_C4R(const Hux16s* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[4],
+                                            Hux32s* const pLevels[4], const int nLevels[4], const Hux32s lowerLevel[4],
+                                            const Hux32s upperLevel[4]);
+HUX_API HuxStatus huxiHistogramEven_16u_C1R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* pHist,
+                                            Hux32s* pLevels, int nLevels, Hux32s lowerLevel, Hux32s upperLevel);
+HUX_API HuxStatus huxiHistogramEven_16u_C3R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[3],
+                                            Hux32s* const pLevels[3], const int nLevels[3], const Hux32s lowerLevel[3],
+                                            const Hux32s upperLevel[3]);
+HUX_API HuxStatus huxiHistogramEven_16u_AC4R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[3],
+                                             Hux32s* const pLevels[3], const int nLevels[3], const Hux32s lowerLevel[3],
+                                             const Hux32s upperLevel[3]);
+HUX_API HuxStatus huxiHistogramEven_16u_C4R(const Hux16u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* const pHist[4],
+                                            Hux32s* const pLevels[4], const int nLevels[4], const Hux32s lowerLevel[4],
+                                            const Hux32s upperLevel[4]);
+
+/* Look-up tables of nLevels (level, value) pairs. A pixel with pLevels[k] <= p < pLevels[k + 1] takes pValues[k]
+ * (LUT), the straight line from (pLevels[k], pValues[k]) to the next pair (LUT_Linear), or the third-order polynomial
+ * through four neighbouring pairs (LUT_Cubic; with fewer than 4 levels in any channel the straight line in all). A
+ * pixel below the first level, or at or above the last, stays as it is. Results are saturated; on integers a line or
+ * polynomial is computed in double precision, 0.5 is added and the sum truncated towards zero. On 32f a NaN takes the
+ * first segment's result. Levels are meant to ascend.
+ * C3, AC4, C4: pValues and pLevels are arrays of pointers, one per channel, nLevels an array. AC4: alpha of the
+ * destination stays.
+ * Checks, C1: null pointers (huxStsNullPtr), size (huxStsBadSize), steps (huxStsBadStep), nLevels below 2
+ * (huxStsBadLutLevels). Other layouts: null pointers, then by channel pValues[c] or pLevels[c] null (huxStsNullPtr)
+ * and nLevels[c] (huxStsBadLutLevels), then size, steps. Then huxStsNoMem: 16s and 16u, and LUT_Linear and LUT_Cubic
+ * on 32f. */
+
+HUX_API HuxStatus huxiLUT_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                 const Hux32s* pValues, const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* pValues,
+                                  const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                 const Hux32s* const pValues[3], const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_8u_C3IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* const pValues[3],
+                                  const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                 const Hux32s* const pValues[4], const Hux32s* const pLevels[4], const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_8u_C4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* const pValues[4],
+                                  const Hux32s* const pLevels[4], const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                  const Hux32s* const pValues[3], const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_8u_AC4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* const pValues[3],
+                                   const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                  const Hux32s* pValues, const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_16s_C1IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* pValues,
+                                   const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                  const Hux32s* const pValues[3], const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_16s_C3IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* const pValues[3],
+                                   const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                  const Hux32s* const pValues[4], const Hux32s* const pLevels[4], const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_16s_C4IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* const pValues[4],
+                                   const Hux32s* const pLevels[4], const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                   const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_16s_AC4IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* const pValues[3],
+                                    const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_16u_C1R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                  const Hux32s* pValues, const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_16u_C1IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* pValues,
+                                   const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_16u_C3R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                  const Hux32s* const pValues[3], const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_16u_C3IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* const pValues[3],
+                                   const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_16u_C4R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                  const Hux32s* const pValues[4], const Hux32s* const pLevels[4], const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_16u_C4IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* const pValues[4],
+                                   const Hux32s* const pLevels[4], const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_16u_AC4R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                   const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_16u_AC4IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* const pValues[3],
+                                    const Hux32s* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                  const Hux32f* pValues, const Hux32f* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32f* pValues,
+                                   const Hux32f* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                  const Hux32f* const pValues[3], const Hux32f* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32f* const pValues[3],
+                                   const Hux32f* const pLevels[3], const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                  const Hux32f* const pValues[4], const Hux32f* const pLevels[4], const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_32f_C4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32f* const pValues[4],
+                                   const Hux32f* const pLevels[4], const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux32f* const pValues[3], const Hux32f* const pLevels[3],
+                                   const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32f* const pValues[3],
+                                    const Hux32f* const pLevels[3], const int nLevels[3]);
+
+HUX_API HuxStatus huxiLUT_Linear_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                        const Hux32s* pValues, const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Linear_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* pValues,
+                                         const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Linear_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                        const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                        const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_8u_C3IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                         const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                         const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                        const Hux32s* const pValues[4], const Hux32s* const pLevels[4],
+                                        const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Linear_8u_C4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                         const Hux32s* const pValues[4], const Hux32s* const pLevels[4],
+                                         const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Linear_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                         const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                         const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_8u_AC4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                          const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                          const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                         const Hux32s* pValues, const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Linear_16s_C1IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* pValues,
+                                          const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Linear_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                         const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                         const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_16s_C3IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                          const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                          const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                         const Hux32s* const pValues[4], const Hux32s* const pLevels[4],
+                                         const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Linear_16s_C4IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                          const Hux32s* const pValues[4], const Hux32s* const pLevels[4],
+                                          const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Linear_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                          const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                          const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_16s_AC4IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                           const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                           const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_16u_C1R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                         const Hux32s* pValues, const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Linear_16u_C1IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* pValues,
+                                          const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Linear_16u_C3R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                         const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                         const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_16u_C3IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                          const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                          const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_16u_C4R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                         const Hux32s* const pValues[4], const Hux32s* const pLevels[4],
+                                         const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Linear_16u_C4IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                          const Hux32s* const pValues[4], const Hux32s* const pLevels[4],
+                                          const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Linear_16u_AC4R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                          const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                          const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_16u_AC4IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                           const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                           const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                         const Hux32f* pValues, const Hux32f* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Linear_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32f* pValues,
+                                          const Hux32f* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Linear_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                         const Hux32f* const pValues[3], const Hux32f* const pLevels[3],
+                                         const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                          const Hux32f* const pValues[3], const Hux32f* const pLevels[3],
+                                          const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                         const Hux32f* const pValues[4], const Hux32f* const pLevels[4],
+                                         const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Linear_32f_C4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                          const Hux32f* const pValues[4], const Hux32f* const pLevels[4],
+                                          const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Linear_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                          const Hux32f* const pValues[3], const Hux32f* const pLevels[3],
+                                          const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Linear_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                           const Hux32f* const pValues[3], const Hux32f* const pLevels[3],
+                                           const int nLevels[3]);
+
+HUX_API HuxStatus huxiLUT_Cubic_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                       const Hux32s* pValues, const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Cubic_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* pValues,
+                                        const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Cubic_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                       const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                       const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_8u_C3IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                        const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                        const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                       const Hux32s* const pValues[4], const Hux32s* const pLevels[4],
+                                       const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Cubic_8u_C4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                        const Hux32s* const pValues[4], const Hux32s* const pLevels[4],
+                                        const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Cubic_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                        const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                        const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_8u_AC4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                         const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                         const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                        const Hux32s* pValues, const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Cubic_16s_C1IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* pValues,
+                                         const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Cubic_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                        const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                        const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_16s_C3IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                         const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                         const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                        const Hux32s* const pValues[4], const Hux32s* const pLevels[4],
+                                        const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Cubic_16s_C4IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                         const Hux32s* const pValues[4], const Hux32s* const pLevels[4],
+                                         const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Cubic_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                         const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                         const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_16s_AC4IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                          const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                          const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_16u_C1R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                        const Hux32s* pValues, const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Cubic_16u_C1IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32s* pValues,
+                                         const Hux32s* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Cubic_16u_C3R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                        const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                        const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_16u_C3IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                         const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                         const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_16u_C4R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                        const Hux32s* const pValues[4], const Hux32s* const pLevels[4],
+                                        const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Cubic_16u_C4IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                         const Hux32s* const pValues[4], const Hux32s* const pLevels[4],
+                                         const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Cubic_16u_AC4R(const Hux16u* pSrc, int srcStep, Hux16u* pDst, int dstStep, HuxiSize roiSize,
+                                         const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                         const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_16u_AC4IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                          const Hux32s* const pValues[3], const Hux32s* const pLevels[3],
+                                          const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                        const Hux32f* pValues, const Hux32f* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Cubic_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux32f* pValues,
+                                         const Hux32f* pLevels, int nLevels);
+HUX_API HuxStatus huxiLUT_Cubic_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                        const Hux32f* const pValues[3], const Hux32f* const pLevels[3],
+                                        const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                         const Hux32f* const pValues[3], const Hux32f* const pLevels[3],
+                                         const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                        const Hux32f* const pValues[4], const Hux32f* const pLevels[4],
+                                        const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Cubic_32f_C4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                         const Hux32f* const pValues[4], const Hux32f* const pLevels[4],
+                                         const int nLevels[4]);
+HUX_API HuxStatus huxiLUT_Cubic_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                         const Hux32f* const pValues[3], const Hux32f* const pLevels[3],
+                                         const int nLevels[3]);
+HUX_API HuxStatus huxiLUT_Cubic_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize,
+                                          const Hux32f* const pValues[3], const Hux32f* const pLevels[3],
+                                          const int nLevels[3]);
+
+/* LUTPalette: the destination takes entry p & (2^nBitSize - 1) of pTable, which holds 2^nBitSize entries. 8u24u and
+ * 16u24u: entries and destination pixels of three bytes.
+ * Checks: null pointers (huxStsNullPtr), steps (huxStsBadStep), size (huxStsBadSize), nBitSize below 1 or above the
+ * bits of a source pixel (huxStsBadBitSize). */
+HUX_API HuxStatus huxiLUTPalette_8u24u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                           const Hux8u* pTable, int nBitSize);
+HUX_API HuxStatus huxiLUTPalette_8u32u_C1R(const Hux8u* pSrc, int srcStep, Hux32u* pDst, int dstStep, HuxiSize roiSize,
+                                           const Hux32u* pTable, int nBitSize);
+HUX_API HuxStatus huxiLUTPalette_16u8u_C1R(const Hux16u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                           const Hux8u* pTable, int nBitSize);
+HUX_API HuxStatus huxiLUTPalette_16u24u_C1R(const Hux16u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                            const Hux8u* pTable, int nBitSize);
+HUX_API HuxStatus huxiLUTPalette_16u32u_C1R(const Hux16u* pSrc, int srcStep, Hux32u* pDst, int dstStep,
+                                            HuxiSize roiSize, const Hux32u* pTable, int nBitSize);
+
+/* QualityIndex: how alike two images are, for each channel: 4 * cov * mean1 * mean2 / ((var1 + var2) * (mean1^2 +
+ * mean2^2)), 1 for equal images that are not constant. The sums are single precision numbers whose last bits depend
+ * on the number of threads. A zero denominator gives an infinity or NaN. One value (C1) or three; alpha of AC4 is not
+ * read.
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), steps (huxStsBadStep), huxStsNoMem. */
+HUX_API HuxStatus huxiQualityIndex_8u32f_C1R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                             HuxiSize roiSize, Hux32f* pQualityIndex);
+HUX_API HuxStatus huxiQualityIndex_8u32f_C3R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                             HuxiSize roiSize, Hux32f pQualityIndex[3]);
+HUX_API HuxStatus huxiQualityIndex_8u32f_AC4R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
+                                              HuxiSize roiSize, Hux32f pQualityIndex[3]);
+HUX_API HuxStatus huxiQualityIndex_32f_C1R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux32f* pQualityIndex);
+HUX_API HuxStatus huxiQualityIndex_32f_C3R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                           HuxiSize roiSize, Hux32f pQualityIndex[3]);
+HUX_API HuxStatus huxiQualityIndex_32f_AC4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                            HuxiSize roiSize, Hux32f pQualityIndex[3]);
+
+HUX_END_C
+
+#endif
