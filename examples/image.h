@@ -28,6 +28,7 @@ TOUR_ALLOCATE(8u, 1)
 TOUR_ALLOCATE(8u, 3)
 TOUR_ALLOCATE(8u, 4)
 TOUR_ALLOCATE(32s, 1)
+TOUR_ALLOCATE(32f, 1)
 #undef TOUR_ALLOCATE
 
 template <class T, int Channels>

@@ -11,6 +11,7 @@
 #include <limits>
 #include <string>
 
+#include "huxs.h"
 #include "image.h"
 #include "png.h"
 #include "sheet.h"
@@ -260,6 +261,70 @@ Colour binarised(const Photos& in) {
   return out;
 }
 
+// How often each value occurs, channel by channel, drawn as bars four pixels wide: the colours add where they overlap.
+Colour histogram(const Photos& in) {
+  constexpr int bins = 256, width = kWhole.width / bins;
+  Hux32s levels[3][bins + 1], counts[3][bins];
+  Hux32s* const pLevels[3] = {levels[0], levels[1], levels[2]};
+  Hux32s* const pCounts[3] = {counts[0], counts[1], counts[2]};
+  const int nLevels[3] = {bins + 1, bins + 1, bins + 1}, lower[3] = {0, 0, 0}, upper[3] = {bins, bins, bins};
+  HUX_DO(huxiHistogramEven_8u_C3R(face(in), in.raccoon.step(), kFace, pCounts, pLevels, nLevels, lower, upper));
+  // The tallest bar, found as the largest pixel of an image of counts.
+  Image<Hux32f, 1> heights({bins, 3});
+  for (int c = 0; c < 3; ++c) HUX_DO(huxsConvert_32s32f(counts[c], heights.at(0, c), bins));
+  Hux32f tallest;
+  HUX_DO(huxiMax_32f_C1R(heights.at(0, 0), heights.step(), heights.size(), &tallest));
+  const Hux8u paper[3] = {24, 24, 28};
+  Colour out(kWhole);
+  HUX_DO(huxiSet_8u_C3R(paper, out.at(0, 0), out.step(), kWhole));
+  for (int c = 0; c < 3; ++c)
+    for (int i = 0; i < bins; ++i) {
+      const int height = std::max(1, int(*heights.at(i, c) * Hux32f(kWhole.height - 24) / tallest));
+      HUX_DO(huxiSet_8u_C3CR(235, out.at(i * width, kWhole.height - height) + c, out.step(), {width, height}));
+    }
+  return out;
+}
+
+// Curves through pairs of levels and values: as it is; an S through four points; one curve for each channel; stairs.
+Colour toneCurve(const Photos& in) {
+  const int step = in.raccoon.step();
+  const Hux32s levels[4] = {0, 64, 176, 256}, contrast[4] = {0, 28, 220, 255};
+  const Hux32s warm[4] = {0, 84, 205, 255}, plain[4] = {0, 64, 176, 255}, cool[4] = {24, 70, 150, 210};
+  const Hux32s stairLevels[6] = {0, 50, 90, 130, 180, 256}, stairs[6] = {20, 80, 125, 175, 235, 255};
+  const Hux32s* const abscissae[3] = {levels, levels, levels};
+  const Hux32s* const same[3] = {contrast, contrast, contrast};
+  const Hux32s* const each[3] = {warm, plain, cool};
+  const Hux32s* const stairAbscissae[3] = {stairLevels, stairLevels, stairLevels};
+  const Hux32s* const stairValues[3] = {stairs, stairs, stairs};
+  const int four[3] = {4, 4, 4}, six[3] = {6, 6, 6};
+  Colour out(kWhole);
+  HUX_DO(huxiCopy_8u_C3R(face(in), step, quarter(out, 0), out.step(), kFace));
+  HUX_DO(huxiLUT_Cubic_8u_C3R(face(in), step, quarter(out, 1), out.step(), kFace, same, abscissae, four));
+  HUX_DO(huxiLUT_Linear_8u_C3R(face(in), step, quarter(out, 2), out.step(), kFace, each, abscissae, four));
+  HUX_DO(huxiLUT_8u_C3R(face(in), step, quarter(out, 3), out.step(), kFace, stairValues, stairAbscissae, six));
+  return out;
+}
+
+// A chirp, made from nothing; with noise of two kinds; and a ramp.
+Colour chirp(const Photos&) {
+  Gray clean(kWhole), noisy(kFace);
+  Hux32u seed = 2006;
+  Colour out(kWhole);
+  const auto lay = [&](const Gray& picture, int i) {
+    HUX_DO(huxiDup_8u_C1C3R(picture.at(0, 0), picture.step(), quarter(out, i), out.step(), kFace));
+  };
+  HUX_DO(huxiImageJaehne_8u_C1R(clean.at(0, 0), clean.step(), kFace));
+  lay(clean, 0);
+  HUX_DO(huxiCopy_8u_C1R(clean.at(0, 0), clean.step(), noisy.at(0, 0), noisy.step(), kFace));
+  HUX_DO(huxiAddRandGauss_Direct_8u_C1IR(noisy.at(0, 0), noisy.step(), kFace, 0, 40, &seed));
+  lay(noisy, 1);
+  HUX_DO(huxiImageRamp_8u_C1R(noisy.at(0, 0), noisy.step(), kFace, 0, 0.0013f, huxAxsBoth));
+  lay(noisy, 2);
+  HUX_DO(huxiAddRandUniform_Direct_8u_C1IR(noisy.at(0, 0), noisy.step(), kFace, 0, 90, &seed));
+  lay(noisy, 3);
+  return out;
+}
+
 // The tour. A step takes the photographs, works with functions of the library only, and returns its picture. The name
 // is that of its file and, with spaces for hyphens, its title.
 struct Step {
@@ -284,6 +349,9 @@ constexpr Step kSteps[] = {
     {"overlay", "over, atop, xor, plus", overlay},
     {"halftone", "one bit for each pixel", halftone},
     {"binarised", "above 110; the photograph there", binarised},
+    {"histogram", "how often each value occurs", histogram},
+    {"tone-curve", "as it is; cubic, linear, stairs", toneCurve},
+    {"chirp", "chirp, with noise; ramp, with noise", chirp},
 };
 
 // The result of a step and the shortest of three runs, memory for the pictures included.
