@@ -861,10 +861,9 @@ HUX_API HuxStatus huxiLUTPalette_16u32u_C1R(const Hux16u* pSrc, int srcStep, Hux
                                             HuxiSize roiSize, const Hux32u* pTable, int nBitSize);
 
 /* QualityIndex: how alike two images are, for each channel: 4 * cov * mean1 * mean2 / ((var1 + var2) * (mean1^2 +
- * mean2^2)), 1 for equal images that are not constant. The sums are single precision numbers whose last bits depend
- * on the number of threads. A zero denominator gives an infinity or NaN. One value (C1) or three; alpha of AC4 is not
- * read.
- * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), steps (huxStsBadStep), huxStsNoMem. */
+ * mean2^2)), 1 for equal images that are not constant. Parallel: the sums are single precision numbers whose last bits
+ * depend on the number of threads. A zero denominator gives an infinity or NaN. One value (C1) or three; alpha of AC4
+ * is not read. Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), steps (huxStsBadStep), huxStsNoMem. */
 HUX_API HuxStatus huxiQualityIndex_8u32f_C1R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
                                              HuxiSize roiSize, Hux32f* pQualityIndex);
 HUX_API HuxStatus huxiQualityIndex_8u32f_C3R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
