@@ -52,10 +52,11 @@ void drawRow(Element<T>* dst, Index width, Rule rule) {
 template <class L, class T, class Original, class Draw>
 void drawRows(Rows<T> dst, HuxiSize roi, Original original, Draw draw) {
   const bool apart = dst.step >= roi.width * dst.pixelBytes;
+  const simd::Streaming streaming(area(roi) * dst.pixelBytes);
   for (int y = 0; y < roi.height; ++y) {
     using W = Element<Word<T>>;
     if (const int from = original(y); apart && from < y)
-      copyPixels<L>(reinterpret_cast<const W*>(dst.row(from)), reinterpret_cast<W*>(dst.row(y)), roi.width);
+      copyPixels<L>(reinterpret_cast<const W*>(dst.row(from)), reinterpret_cast<W*>(dst.row(y)), roi.width, streaming);
     else
       draw(dst.row(y), y);
   }
