@@ -106,8 +106,6 @@ inline Lanes<Hux64f, 8> mulAdd(Lanes<Hux64f, 8> a, Lanes<Hux64f, 8> b, Lanes<Hux
 inline Lanes<Hux32f, 16> mulAdd(Lanes<Hux32f, 16> a, Lanes<Hux32f, 16> b, Lanes<Hux32f, 16> c) {
   return _mm512_fmadd_ps(a, b, c);
 }
-inline bool any(Lanes<Hux32s, 16> mask) { return _mm512_movepi32_mask(__m512i(mask)) != 0; }
-inline bool any(Lanes<Hux32s, 8> mask) { return _mm256_movepi32_mask(__m256i(mask)) != 0; }
 inline bool anyClear(Lanes<std::uint64_t, 8> v, Lanes<std::uint64_t, 8> mask) {
   return _mm512_testn_epi64_mask(__m512i(v), __m512i(mask)) != 0;
 }
@@ -121,7 +119,6 @@ inline int storeWhere(void* p, Lanes<std::uint64_t, 8> v, Lanes<Hux64s, 8> mask)
   storeLanes(p, _mm512_maskz_compress_epi64(chosen, __m512i(v)));
   return __builtin_popcount(chosen);
 }
-inline bool any(Lanes<Hux16s, 16> mask) { return _mm256_movepi16_mask(__m256i(mask)) != 0; }
 
 template <>
 struct LaneTable<Hux64f, 16> {

@@ -218,21 +218,20 @@ HuxStatus mapIntegers(const ChannelPairs<L, T>& channels, const T* pSrc, int src
 
 // --- Floats: the segment of each pixel, and what the curve makes of it.
 
-// The slope, or the coefficients A, B and C, of a segment; of one without extent 0. Stairs have none.
+// The slope, or the coefficients A, B and C, of a segment, of one without extent 0; which pair the curve starts from;
+// and its value at a distance from there, on doubles or on lanes of them. Stairs have none of this.
 template <Curve curve>
 struct Terms {};
 template <>
 struct Terms<Curve::kLines> {
   Hux64f numbers[1];
   Terms(const Pairs<Hux32f>& pairs, int k) : numbers{Line<Hux32f>(pairs, k).slope} {}
-  Hux32f operator()(const Pairs<Hux32f>& pairs, int k, Hux32f p) const {
-    return Hux32f(Hux64f(p - pairs.levels[k]) * numbers[0] + pairs.values[k]);
+  static int origin(const Pairs<Hux32f>&, int k) { return k; }
+  template <class D>
+  static D at(D t, D value, const D (&n)[1]) {
+    return t * n[0] + value;
   }
 };
-int originOf(const Pairs<Hux32f>& pairs, int k) {
-  const int n = pairs.levels.count;
-  return k == 0 ? 1 : k == n - 2 ? n - 3 : k;
-}
 template <>
 struct Terms<Curve::kCubics> {
   Hux64f numbers[3] = {};
@@ -241,11 +240,13 @@ struct Terms<Curve::kCubics> {
     const Cubic<Hux32f> c(pairs, k);
     numbers[0] = c.A, numbers[1] = c.B, numbers[2] = c.C;
   }
-  Hux32f operator()(const Pairs<Hux32f>& pairs, int k, Hux32f p) const {
-    const auto [A, B, C] = numbers;
-    const int origin = originOf(pairs, k);
-    const Hux64f t = p - pairs.levels[origin];
-    return Hux32f(pairs.values[origin] + C * t + t * (t * t) * A + B * (t * t));
+  static int origin(const Pairs<Hux32f>& pairs, int k) {
+    const int n = pairs.levels.count;
+    return k == 0 ? 1 : k == n - 2 ? n - 3 : k;
+  }
+  template <class D>
+  static D at(D t, D value, const D (&n)[3]) {
+    return value + n[2] * t + t * (t * t) * n[0] + n[1] * (t * t);
   }
 };
 
@@ -274,7 +275,7 @@ struct FewSegments {
       using D = Lanes<Hux64f, lanes>;
       constexpr int count = sizeof(Terms<curve>) / sizeof(Hux64f);
       const D wide = convert<Hux64f>(v);
-      const auto origin = [&](int k) { return curve == Curve::kCubics ? originOf(pairs, k) : k; };
+      const auto origin = [&](int k) { return Terms<curve>::origin(pairs, k); };
       V level = splat<V>(pairs.levels[origin(0)]), value = splat<V>(pairs.values[origin(0)]);
       D term[count];
       for (int i = 0; i < count; ++i) term[i] = splat<D>(terms[0].numbers[i]);
@@ -285,11 +286,7 @@ struct FewSegments {
         value = from ? splat<V>(pairs.values[origin(k)]) : value;
         for (int i = 0; i < count; ++i) term[i] = fromWide ? splat<D>(terms[k].numbers[i]) : term[i];
       }
-      const D t = convert<Hux64f>(v - level);
-      if constexpr (curve == Curve::kLines)
-        return convert<Hux32f>(t * term[0] + convert<Hux64f>(value));
-      else
-        return convert<Hux32f>(convert<Hux64f>(value) + term[2] * t + t * (t * t) * term[0] + term[1] * (t * t));
+      return convert<Hux32f>(Terms<curve>::at(D(convert<Hux64f>(v - level)), D(convert<Hux64f>(value)), term));
     }
   }
 };
@@ -314,12 +311,15 @@ HuxStatus mapFloats(const ChannelPairs<L, Hux32f>& channels, const Hux32f* pSrc,
         for (Index i = 0; i < length; ++i) {
           const Hux32f p = from[i];
           const int k = found[i];
-          if (k == Segments::kNone)
+          if (k == Segments::kNone) {
             to[i] = p;
-          else if constexpr (curve == Curve::kStairs)
+          } else if constexpr (curve == Curve::kStairs) {
             to[i] = pairs.values[k];
-          else
-            to[i] = terms[c][k](pairs, k, p);
+          } else {
+            const int origin = Term::origin(pairs, k);
+            const Hux64f t = p - pairs.levels[origin], value = pairs.values[origin];
+            to[i] = Hux32f(Term::at(t, value, terms[c][k].numbers));
+          }
         }
       });
     });

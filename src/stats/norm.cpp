@@ -3,6 +3,7 @@
 #include "core/stamp.h"
 #include "huxi_stats.h"
 #include "stats/norms.h"
+#include "vector/frame.h"
 
 namespace hux {
 namespace {
@@ -30,7 +31,7 @@ void measure(HuxiSize roi, Hux64f* pValue, const Rows<const T>&... images) {
   } else {
     norms = totals<L, M, anyOrder>(roi, images...);
   }
-  std::ranges::transform(norms, reinterpret_cast<Element<Hux64f>*>(pValue), M::finished);
+  std::ranges::transform(norms, elements(pValue), M::finished);
 }
 
 template <class L, class M, class T>
@@ -54,7 +55,7 @@ bool divides(Hux64f denominator) { return denominator >= std::numeric_limits<Hux
 template <class L, class M, class T>
 HuxStatus normRel(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, HuxiSize roi, Hux64f* pValue) {
   if (HuxStatus s = check(pointers(pSrc1, pSrc2, pValue), region<T>(roi, src1Step, src2Step))) return s;
-  auto* values = reinterpret_cast<Element<Hux64f>*>(pValue);
+  auto* values = elements(pValue);
   const auto images = std::make_tuple(rows<L>(pSrc1, src1Step), rows<L>(pSrc2, src2Step));
   if constexpr (L::channels == 1) {
     const Hux64f numerator = totals<L, M, true>(roi, std::get<0>(images), std::get<1>(images))[0];

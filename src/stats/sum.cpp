@@ -4,6 +4,7 @@
 #include "huxi_stats.h"
 #include "stats/ordered_sum.h"
 #include "stats/reduce.h"
+#include "vector/frame.h"
 
 namespace hux {
 namespace {
@@ -32,7 +33,7 @@ HuxStatus sum(const T* pSrc, int srcStep, HuxiSize roi, Hux64f* pSum) {
     };
     reduce<L, SumFold<Itself<T>, L::channels != 1>>(roi, batches(roi, block, most), add, rows<L>(pSrc, srcStep));
   }
-  std::copy_n(sums.begin(), L::processed, reinterpret_cast<Element<Hux64f>*>(pSum));
+  std::copy_n(sums.begin(), L::processed, elements(pSum));
   return huxStsOk;
 }
 
@@ -41,7 +42,7 @@ HuxStatus mean(const T* pSrc, int srcStep, HuxiSize roi, Hux64f* pMean) {
   Hux64f sums[L::processed];
   if (HuxStatus s = check(pointers(pMean), [&] { return sum<L>(pSrc, srcStep, roi, sums); })) return s;
   const Hux64f pixels = Hux32s(Hux32u(roi.width) * Hux32u(roi.height));  // wraps
-  auto* means = reinterpret_cast<Element<Hux64f>*>(pMean);
+  auto* means = elements(pMean);
   for (int c = 0; c < L::processed; ++c) means[c] = L::channels == 1 ? sums[c] / pixels : sums[c] * (1.0 / pixels);
   return huxStsOk;
 }
