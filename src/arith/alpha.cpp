@@ -1,10 +1,10 @@
 // Alpha composition of two images, and colours multiplied by their alpha.
-#include "arith/delegate.h"
 #include "arith/fraction.h"
 #include "core/check.h"
 #include "core/stamp.h"
 #include "huxi_arith.h"
-#include "vector/fill.h"
+#include "workers/delegate.h"
+#include "workers/fill.h"
 
 namespace hux {
 namespace {

@@ -3,7 +3,7 @@
 
 #include "arith/exports.h"
 #include "core/check.h"
-#include "core/elementwise.h"
+#include "lanes/elementwise.h"
 
 namespace hux {
 

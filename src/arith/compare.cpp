@@ -3,9 +3,9 @@
 #include <utility>
 
 #include "core/check.h"
-#include "core/elementwise.h"
 #include "core/stamp.h"
 #include "huxi_arith.h"
+#include "lanes/elementwise.h"
 
 namespace hux {
 namespace {

@@ -1,10 +1,10 @@
 // Add, Sub, Mul, Div and their constant forms on complex images.
-#include "vector/complex.h"
+#include "workers/complex.h"
 
 #include "arith/scaled_images.h"
 #include "core/scratch.h"
 #include "huxi_arith.h"
-#include "vector/convert.h"
+#include "workers/convert.h"
 
 namespace hux {
 namespace {

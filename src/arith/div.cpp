@@ -2,8 +2,8 @@
 #include "arith/scaled_images.h"
 #include "core/scratch.h"
 #include "huxi_arith.h"
-#include "vector/divide.h"
-#include "vector/fill.h"
+#include "workers/divide.h"
+#include "workers/fill.h"
 
 namespace hux {
 namespace {

@@ -1,9 +1,9 @@
 // DivC: an image divided by a constant. Each element type has a way of its own, in checks and in rounding.
 #include "arith/scaled_images.h"
 #include "core/scratch.h"
-#include "core/table.h"
 #include "huxi_arith.h"
-#include "vector/divide.h"
+#include "workers/divide.h"
+#include "workers/table.h"
 
 namespace hux {
 namespace {

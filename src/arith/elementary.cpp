@@ -1,9 +1,9 @@
 // Abs, Sqr, Sqrt, Exp and Ln on images: the row workers of the vector functions, over the rows of a region.
-#include "vector/elementary.h"
-#include "core/elementwise.h"
+#include "workers/elementary.h"
 #include "core/scratch.h"
 #include "core/stamp.h"
 #include "huxi_arith.h"
+#include "lanes/elementwise.h"
 
 namespace hux {
 namespace {

@@ -2,7 +2,7 @@
 // (p + (p >> 8) + 1) >> 8, on 16u by the same with 16, which is p / M rounded down: M times b gives b.
 #pragma once
 
-#include "core/elementwise.h"
+#include "lanes/elementwise.h"
 
 namespace hux {
 

@@ -1,10 +1,10 @@
 // The image functions of Add, Sub and Mul on real pixels, by operation: checks, shortcuts, rows.
 #pragma once
 
-#include "arith/delegate.h"
 #include "arith/exports.h"
 #include "core/check.h"
-#include "vector/scaled.h"
+#include "workers/delegate.h"
+#include "workers/scaled.h"
 
 namespace hux {
 

@@ -1,10 +1,10 @@
 // LShiftC, RShiftC: shift by one count for all elements, or by a count per channel. Left shifts and right shifts of
 // unsigned elements are logical, right shifts of signed ones arithmetic.
-#include "arith/delegate.h"
 #include "core/check.h"
-#include "core/elementwise.h"
 #include "core/stamp.h"
 #include "huxi_arith.h"
+#include "lanes/elementwise.h"
+#include "workers/delegate.h"
 
 namespace hux {
 namespace {

@@ -2,9 +2,9 @@
 #include <bit>
 
 #include "core/check.h"
-#include "core/elementwise.h"
 #include "core/stamp.h"
 #include "huxi_arith.h"
+#include "lanes/elementwise.h"
 
 namespace hux {
 namespace {

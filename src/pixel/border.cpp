@@ -3,9 +3,9 @@
 // throughout: alpha is written neither in the frame nor in the copied source.
 #include "core/stamp.h"
 #include "huxi_pixel.h"
-#include "pixel/move.h"
-#include "pixel/pattern.h"
-#include "vector/fill.h"
+#include "workers/fill.h"
+#include "workers/move.h"
+#include "workers/pattern.h"
 
 namespace hux {
 namespace {

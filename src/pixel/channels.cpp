@@ -1,7 +1,7 @@
 // Dup and SwapChannels: channels repeated or permuted, values unchanged.
 #include "core/stamp.h"
 #include "huxi_pixel.h"
-#include "pixel/move.h"
+#include "workers/move.h"
 
 namespace hux {
 namespace {

@@ -1,9 +1,9 @@
 // Convert: an image in another type, its values kept, or limited to the range of the narrower type. The bit images are
 // in halftone.cpp.
-#include "vector/convert.h"
+#include "workers/convert.h"
 #include "core/stamp.h"
 #include "huxi_pixel.h"
-#include "pixel/map.h"
+#include "workers/map.h"
 
 namespace hux {
 namespace {

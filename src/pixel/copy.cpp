@@ -4,9 +4,9 @@
 // Only bits move: the types are handled by their width.
 #include "core/stamp.h"
 #include "huxi_pixel.h"
-#include "pixel/masked.h"
-#include "pixel/move.h"
-#include "vector/fill.h"
+#include "workers/fill.h"
+#include "workers/masked.h"
+#include "workers/move.h"
 
 namespace hux {
 namespace {

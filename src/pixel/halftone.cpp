@@ -2,9 +2,9 @@
 // diffusion.
 #include <algorithm>
 
-#include "core/elementwise.h"
 #include "core/scratch.h"
 #include "huxi_pixel.h"
+#include "lanes/elementwise.h"
 
 namespace hux {
 namespace {

@@ -1,7 +1,7 @@
 // Mirror: the order of rows, of the pixels in each row, or of both reversed.
 #include "core/stamp.h"
 #include "huxi_pixel.h"
-#include "pixel/move.h"
+#include "workers/move.h"
 
 namespace hux {
 namespace {

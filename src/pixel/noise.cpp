@@ -2,12 +2,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/elementwise.h"
-#include "core/lanes_math.h"
 #include "core/stamp.h"
 #include "huxi_pixel.h"
-#include "pixel/move.h"
-#include "vector/logarithm.h"
+#include "lanes/elementwise.h"
+#include "lanes/lanes_math.h"
+#include "workers/logarithm.h"
+#include "workers/move.h"
 
 namespace hux {
 namespace {

@@ -1,7 +1,7 @@
 // Scale: the full range of one type onto the full range of another.
 #include "huxi_pixel.h"
-#include "pixel/map.h"
-#include "vector/convert.h"
+#include "workers/convert.h"
+#include "workers/map.h"
 
 namespace hux {
 namespace {

@@ -2,8 +2,8 @@
 // its NaN payload and the sign of zero.
 #include "core/stamp.h"
 #include "huxi_pixel.h"
-#include "pixel/masked.h"
-#include "pixel/pattern.h"
+#include "workers/masked.h"
+#include "workers/pattern.h"
 
 namespace hux {
 namespace {

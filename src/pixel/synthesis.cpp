@@ -6,12 +6,12 @@
 #include <limits>
 #include <numbers>
 
-#include "core/elementwise.h"
-#include "core/lanes_math.h"
 #include "core/stamp.h"
 #include "huxi_pixel.h"
-#include "pixel/move.h"
-#include "pixel/pattern.h"
+#include "lanes/elementwise.h"
+#include "lanes/lanes_math.h"
+#include "workers/move.h"
+#include "workers/pattern.h"
 
 namespace hux {
 namespace {

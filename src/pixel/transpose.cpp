@@ -4,9 +4,9 @@
 #include <cstring>
 
 #include "core/rows.h"
-#include "core/simd.h"
 #include "core/stamp.h"
 #include "huxi_pixel.h"
+#include "lanes/simd.h"
 
 namespace hux {
 namespace {

@@ -1,10 +1,10 @@
 // CountInRange: how many elements of each channel lie within two bounds, both included.
 #include "core/check.h"
-#include "core/elementwise.h"
 #include "core/stamp.h"
 #include "huxi_stats.h"
-#include "stats/reduce.h"
+#include "lanes/elementwise.h"
 #include "vector/frame.h"
+#include "workers/reduce.h"
 
 namespace hux {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "core/rows.h"
 #include "huxi_stats.h"
-#include "stats/reduce.h"
+#include "workers/reduce.h"
 
 namespace hux {
 

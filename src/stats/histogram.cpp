@@ -8,14 +8,14 @@
 #include <limits>
 
 #include "core/check.h"
-#include "core/lanes_math.h"
 #include "core/rows.h"
 #include "core/scratch.h"
 #include "core/stamp.h"
 #include "huxi_stats.h"
-#include "stats/channels.h"
-#include "stats/segments.h"
+#include "lanes/lanes_math.h"
 #include "vector/frame.h"
+#include "workers/channels.h"
+#include "workers/segments.h"
 
 namespace hux {
 namespace {

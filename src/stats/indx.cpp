@@ -1,7 +1,7 @@
 // MinIndx, MaxIndx: the smallest or the largest element of each channel, and where it is met first.
 #include "core/check.h"
-#include "core/lanes_math.h"
 #include "core/stamp.h"
+#include "lanes/lanes_math.h"
 #include "stats/extrema.h"
 #include "vector/frame.h"
 

@@ -5,15 +5,15 @@
 #include <limits>
 
 #include "core/check.h"
-#include "core/elementwise.h"
 #include "core/rows.h"
 #include "core/scratch.h"
 #include "core/stamp.h"
-#include "core/table.h"
 #include "huxi_stats.h"
-#include "stats/channels.h"
-#include "stats/segments.h"
+#include "lanes/elementwise.h"
 #include "vector/frame.h"
+#include "workers/channels.h"
+#include "workers/segments.h"
+#include "workers/table.h"
 
 namespace hux {
 namespace {

@@ -5,14 +5,14 @@
 #include <optional>
 
 #include "core/check.h"
-#include "core/elementwise.h"
-#include "core/lanes_math.h"
-#include "core/lanes_sum.h"
 #include "core/stamp.h"
 #include "huxi_stats.h"
 #include "huxs.h"
-#include "stats/channels.h"
+#include "lanes/elementwise.h"
+#include "lanes/lanes_math.h"
+#include "lanes/lanes_sum.h"
 #include "vector/frame.h"
+#include "workers/channels.h"
 
 namespace hux {
 namespace {

@@ -6,8 +6,8 @@
 #include <cmath>
 
 #include "core/check.h"
-#include "stats/ordered_sum.h"
-#include "stats/reduce.h"
+#include "workers/ordered_sum.h"
+#include "workers/reduce.h"
 
 namespace hux {
 

@@ -7,8 +7,8 @@
 #include "core/team.h"
 #include "huxi_stats.h"
 #include "huxs.h"
-#include "stats/channels.h"
 #include "vector/frame.h"
+#include "workers/channels.h"
 
 namespace hux {
 namespace {

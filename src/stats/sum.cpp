@@ -2,9 +2,9 @@
 #include "core/check.h"
 #include "core/stamp.h"
 #include "huxi_stats.h"
-#include "stats/ordered_sum.h"
-#include "stats/reduce.h"
 #include "vector/frame.h"
+#include "workers/ordered_sum.h"
+#include "workers/reduce.h"
 
 namespace hux {
 namespace {

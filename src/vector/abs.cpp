@@ -1,7 +1,7 @@
 // Abs: the absolute value; -32768 becomes 32767, and a float loses its sign whatever it is.
-#include "core/elementwise.h"
 #include "huxs.h"
-#include "vector/elementary.h"
+#include "lanes/elementwise.h"
+#include "workers/elementary.h"
 
 namespace hux {
 namespace {

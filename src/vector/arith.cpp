@@ -1,8 +1,8 @@
 // Add, Sub, SubC and MulC on real vectors.
 #include "huxs.h"
-#include "vector/fill.h"
 #include "vector/frame.h"
-#include "vector/scaled.h"
+#include "workers/fill.h"
+#include "workers/scaled.h"
 
 namespace hux {
 namespace {

@@ -1,5 +1,5 @@
 // Add, Sub, Mul, Div and their constant forms on complex vectors.
-#include "vector/complex.h"
+#include "workers/complex.h"
 
 #include "core/stamp.h"
 #include "huxs.h"

@@ -1,5 +1,5 @@
 // Convert on vectors: between element types, from floats with a scale.
-#include "vector/convert.h"
+#include "workers/convert.h"
 
 #include "huxs.h"
 #include "vector/frame.h"

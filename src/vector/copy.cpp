@@ -4,8 +4,8 @@
 
 #include "core/stamp.h"
 #include "huxs.h"
-#include "vector/fill.h"
 #include "vector/frame.h"
+#include "workers/fill.h"
 
 namespace hux {
 namespace {

@@ -1,5 +1,5 @@
 // Div and DivC on real vectors.
-#include "vector/divide.h"
+#include "workers/divide.h"
 
 #include "huxs.h"
 #include "vector/frame.h"

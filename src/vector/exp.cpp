@@ -5,12 +5,12 @@
 #include <cmath>
 #include <numbers>
 
-#include "core/elementwise.h"
-#include "core/table.h"
 #include "huxcore.h"
 #include "huxs.h"
-#include "vector/elementary.h"
-#include "vector/nearest.h"
+#include "lanes/elementwise.h"
+#include "workers/elementary.h"
+#include "workers/nearest.h"
+#include "workers/table.h"
 
 namespace hux {
 namespace {

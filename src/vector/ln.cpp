@@ -5,14 +5,14 @@
 #include <cmath>
 #include <limits>
 
-#include "core/elementwise.h"
-#include "core/round.h"
-#include "core/table.h"
 #include "huxcore.h"
 #include "huxs.h"
-#include "vector/elementary.h"
-#include "vector/logarithm.h"
-#include "vector/nearest.h"
+#include "lanes/elementwise.h"
+#include "lanes/round.h"
+#include "workers/elementary.h"
+#include "workers/logarithm.h"
+#include "workers/nearest.h"
+#include "workers/table.h"
 
 namespace hux {
 namespace {

@@ -1,8 +1,8 @@
 // Mean, Norm_L2 and DotProd of float vectors.
 #include <cmath>
 
-#include "core/elementwise.h"
 #include "huxs.h"
+#include "lanes/elementwise.h"
 #include "vector/frame.h"
 
 namespace hux {

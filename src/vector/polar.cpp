@@ -2,12 +2,12 @@
 #include <cmath>
 #include <numbers>
 
-#include "core/lanes_math.h"
-#include "core/round.h"
 #include "core/stamp.h"
 #include "huxs.h"
-#include "vector/complex.h"
+#include "lanes/lanes_math.h"
+#include "lanes/round.h"
 #include "vector/frame.h"
+#include "workers/complex.h"
 
 namespace hux {
 namespace {

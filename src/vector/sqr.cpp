@@ -1,7 +1,7 @@
 // Sqr: the square, on integers as the product of two equal operands is scaled and saturated.
 #include "huxs.h"
-#include "vector/elementary.h"
-#include "vector/scaled.h"
+#include "workers/elementary.h"
+#include "workers/scaled.h"
 
 namespace hux {
 namespace {

@@ -2,13 +2,13 @@
 #include <algorithm>
 #include <array>
 
-#include "core/elementwise.h"
-#include "core/lanes_math.h"
-#include "core/round.h"
-#include "core/table.h"
 #include "huxcore.h"
 #include "huxs.h"
-#include "vector/elementary.h"
+#include "lanes/elementwise.h"
+#include "lanes/lanes_math.h"
+#include "lanes/round.h"
+#include "workers/elementary.h"
+#include "workers/table.h"
 
 namespace hux {
 namespace {

@@ -15,9 +15,9 @@
 
 #include <array>
 
-#include "core/lanes.h"
-#include "core/lanes_sum.h"
 #include "core/rows.h"
+#include "lanes/lanes.h"
+#include "lanes/lanes_sum.h"
 
 namespace hux {
 

@@ -4,7 +4,7 @@
 #include <bit>
 #include <numbers>
 
-#include "core/lanes_math.h"
+#include "lanes/lanes_math.h"
 
 namespace hux {
 

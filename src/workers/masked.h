@@ -1,8 +1,8 @@
 // Copy and Set under a mask image: pixels whose mask byte is 0 are not stored to, by construction.
 #pragma once
 
-#include "pixel/move.h"
-#include "pixel/pattern.h"
+#include "workers/move.h"
+#include "workers/pattern.h"
 
 namespace hux {
 namespace detail {

@@ -5,9 +5,9 @@
 #include <bit>
 #include <cmath>
 
-#include "core/lanes.h"
-#include "core/lanes_math.h"
 #include "core/rows.h"
+#include "lanes/lanes.h"
+#include "lanes/lanes_math.h"
 
 // State that is captured by a lambda stays in registers only where the lambda is inlined.
 #define HUX_INLINE __attribute__((always_inline))

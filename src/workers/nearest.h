@@ -3,7 +3,7 @@
 // thousands of times, is the function itself called; so their last bits, which differ between machines, never show.
 #pragma once
 
-#include "core/lanes_math.h"
+#include "lanes/lanes_math.h"
 
 namespace hux {
 

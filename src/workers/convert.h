@@ -1,8 +1,8 @@
 // Rules that take an element to another type.
 #pragma once
 
-#include "core/elementwise.h"
-#include "core/round.h"
+#include "lanes/elementwise.h"
+#include "lanes/round.h"
 
 namespace hux {
 

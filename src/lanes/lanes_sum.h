@@ -1,7 +1,7 @@
 // What sums of integer lanes are made of.
 #pragma once
 
-#include "core/lanes.h"
+#include "lanes/lanes.h"
 
 namespace hux {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "core/lanes.h"
+#include "lanes/lanes.h"
 
 namespace hux {
 

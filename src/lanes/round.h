@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "core/lanes.h"
+#include "lanes/lanes.h"
 
 namespace hux {
 

@@ -1,8 +1,8 @@
 // Bytes replaced through tables of 256, one for each channel.
 #pragma once
 
-#include "core/elementwise.h"
-#include "core/lanes_math.h"
+#include "lanes/elementwise.h"
+#include "lanes/lanes_math.h"
 
 namespace hux {
 

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "core/elementwise.h"
+#include "lanes/elementwise.h"
 
 namespace hux {
 

@@ -7,7 +7,7 @@
 #include <array>
 
 #include "huxcore.h"
-#include "vector/scaled.h"
+#include "workers/scaled.h"
 
 namespace hux {
 

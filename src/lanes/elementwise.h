@@ -7,8 +7,8 @@
 
 #include <algorithm>
 
-#include "core/lanes.h"
 #include "core/rows.h"
+#include "lanes/lanes.h"
 
 namespace hux {
 

@@ -1,8 +1,8 @@
-#include "vector/fill.h"
+#include "workers/fill.h"
 
 #include <cstring>
 
-#include "core/simd.h"
+#include "lanes/simd.h"
 
 namespace hux {
 namespace {

@@ -5,7 +5,7 @@
 #include <array>
 
 #include "core/rows.h"
-#include "core/simd.h"
+#include "lanes/simd.h"
 
 namespace hux {
 

@@ -4,8 +4,8 @@
 // is decided by the sign of the scale factor, once a call.
 #pragma once
 
-#include "core/elementwise.h"
-#include "core/round.h"
+#include "lanes/elementwise.h"
+#include "lanes/round.h"
 
 namespace hux {
 

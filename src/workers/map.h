@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/check.h"
-#include "core/elementwise.h"
+#include "lanes/elementwise.h"
 
 namespace hux {
 

@@ -6,10 +6,10 @@
 #include <algorithm>
 #include <bit>
 
-#include "core/elementwise.h"
-#include "core/lanes_math.h"
-#include "core/round.h"
 #include "huxcore.h"
+#include "lanes/elementwise.h"
+#include "lanes/lanes_math.h"
+#include "lanes/round.h"
 
 namespace hux {
 

@@ -7,8 +7,8 @@
 #include <array>
 
 #include "core/rows.h"
-#include "core/simd.h"
-#include "vector/fill.h"
+#include "lanes/simd.h"
+#include "workers/fill.h"
 
 namespace hux {
 
