@@ -30,6 +30,9 @@ constexpr HuxStatus planePointers(const T* const* planes) {
 
 constexpr HuxStatus size(HuxiSize roi) { return failUnless(roi.width >= 1 && roi.height >= 1, huxStsBadSize); }
 
+// The size of a vector; the vector functions test it behind their pointers.
+constexpr HuxStatus length(int len) { return failUnless(len >= 1, huxStsBadSize); }
+
 template <class... S>
 constexpr HuxStatus steps(S... step) {
   return failUnless(((step >= 1) && ...), huxStsBadStep);

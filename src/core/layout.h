@@ -35,6 +35,16 @@ struct __attribute__((packed, may_alias)) Element {
   }
 };
 
+// The elements at a caller's pointer, which may be any address.
+template <class T>
+const Element<T>* elements(const T* p) {
+  return reinterpret_cast<const Element<T>*>(p);
+}
+template <class T>
+Element<T>* elements(T* p) {
+  return reinterpret_cast<Element<T>*>(p);
+}
+
 // The element type of one width whose members only move bits: 32f and 32s share one body, 16u and 16s another.
 template <int Bytes>
 struct WordOf;

@@ -7,6 +7,8 @@
 
 namespace hux {
 
+inline constexpr int kAlignment = 32;
+
 // The body of huxsMalloc_* and huxsFree with the byte count in size_t: 32-byte aligned, null when memory runs out.
 void* allocate(std::size_t bytes);
 void release(void* block);

@@ -3,7 +3,6 @@
 #include "core/stamp.h"
 #include "huxi_stats.h"
 #include "lanes/elementwise.h"
-#include "vector/frame.h"
 #include "workers/reduce.h"
 
 namespace hux {

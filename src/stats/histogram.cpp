@@ -13,7 +13,6 @@
 #include "core/stamp.h"
 #include "huxi_stats.h"
 #include "lanes/lanes_math.h"
-#include "vector/frame.h"
 #include "workers/channels.h"
 #include "workers/segments.h"
 

@@ -3,7 +3,6 @@
 #include "core/stamp.h"
 #include "lanes/lanes_math.h"
 #include "stats/extrema.h"
-#include "vector/frame.h"
 
 namespace hux {
 namespace {

@@ -10,7 +10,6 @@
 #include "core/stamp.h"
 #include "huxi_stats.h"
 #include "lanes/elementwise.h"
-#include "vector/frame.h"
 #include "workers/channels.h"
 #include "workers/segments.h"
 #include "workers/table.h"

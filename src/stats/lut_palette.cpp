@@ -4,7 +4,6 @@
 #include "core/check.h"
 #include "core/rows.h"
 #include "huxi_stats.h"
-#include "vector/frame.h"
 
 namespace hux {
 namespace {

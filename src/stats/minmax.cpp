@@ -4,7 +4,6 @@
 #include "core/check.h"
 #include "core/stamp.h"
 #include "stats/extrema.h"
-#include "vector/frame.h"
 
 namespace hux {
 namespace {

@@ -11,7 +11,6 @@
 #include "lanes/elementwise.h"
 #include "lanes/lanes_math.h"
 #include "lanes/lanes_sum.h"
-#include "vector/frame.h"
 #include "workers/channels.h"
 
 namespace hux {

@@ -1,9 +1,9 @@
 // Norm, NormDiff and NormRel: the largest magnitude (Inf), the sum of magnitudes (L1) or the root of the sum of squares
 // (L2) of an image, of the difference of two, and of the difference relative to the second one.
+#include "core/check.h"
 #include "core/stamp.h"
 #include "huxi_stats.h"
 #include "stats/norms.h"
-#include "vector/frame.h"
 
 namespace hux {
 namespace {

@@ -7,7 +7,6 @@
 #include "core/team.h"
 #include "huxi_stats.h"
 #include "huxs.h"
-#include "vector/frame.h"
 #include "workers/channels.h"
 
 namespace hux {

@@ -2,7 +2,6 @@
 #include "core/check.h"
 #include "core/stamp.h"
 #include "huxi_stats.h"
-#include "vector/frame.h"
 #include "workers/ordered_sum.h"
 #include "workers/reduce.h"
 

@@ -1,6 +1,6 @@
 // Add, Sub, SubC and MulC on real vectors.
+#include "core/check.h"
 #include "huxs.h"
-#include "vector/frame.h"
 #include "workers/fill.h"
 #include "workers/scaled.h"
 

@@ -1,9 +1,9 @@
 // Add, Sub, Mul, Div and their constant forms on complex vectors.
 #include "workers/complex.h"
 
+#include "core/check.h"
 #include "core/stamp.h"
 #include "huxs.h"
-#include "vector/frame.h"
 
 namespace hux {
 namespace {

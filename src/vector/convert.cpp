@@ -1,8 +1,8 @@
 // Convert on vectors: between element types, from floats with a scale.
 #include "workers/convert.h"
 
+#include "core/check.h"
 #include "huxs.h"
-#include "vector/frame.h"
 
 namespace hux {
 namespace {

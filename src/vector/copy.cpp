@@ -2,9 +2,9 @@
 #include <bit>
 #include <cstring>
 
+#include "core/check.h"
 #include "core/stamp.h"
 #include "huxs.h"
-#include "vector/frame.h"
 #include "workers/fill.h"
 
 namespace hux {

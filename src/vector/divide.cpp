@@ -1,8 +1,8 @@
 // Div and DivC on real vectors.
 #include "workers/divide.h"
 
+#include "core/check.h"
 #include "huxs.h"
-#include "vector/frame.h"
 
 namespace hux {
 namespace {

@@ -1,9 +1,9 @@
 // Mean, Norm_L2 and DotProd of float vectors.
 #include <cmath>
 
+#include "core/check.h"
 #include "huxs.h"
 #include "lanes/elementwise.h"
-#include "vector/frame.h"
 
 namespace hux {
 namespace {

@@ -2,11 +2,11 @@
 #include <cmath>
 #include <numbers>
 
+#include "core/check.h"
 #include "core/stamp.h"
 #include "huxs.h"
 #include "lanes/lanes_math.h"
 #include "lanes/round.h"
-#include "vector/frame.h"
 #include "workers/complex.h"
 
 namespace hux {

@@ -5,8 +5,8 @@
 // operators are defined, for the types that a function exists on, with the vector functions of the same name.
 #pragma once
 
+#include "core/check.h"
 #include "core/layout.h"
-#include "vector/frame.h"
 
 namespace hux {
 
