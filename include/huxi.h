@@ -11,8 +11,11 @@
 
 #include "huxdefs.h"
 #include "huxi_arith.h"
+#include "huxi_filter.h"
+#include "huxi_geometry.h"
 #include "huxi_pixel.h"
 #include "huxi_stats.h"
+#include "huxi_transform.h"
 
 HUX_BEGIN_C
 

@@ -3,6 +3,7 @@
 #define HUXS_H
 
 #include "huxdefs.h"
+#include "huxs_transform.h"
 
 HUX_BEGIN_C
 

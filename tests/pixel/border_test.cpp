@@ -5,7 +5,7 @@
 #include <limits>
 #include <type_traits>
 
-#include "pixel/forms.h"
+#include "support/forms.h"
 
 namespace hux::test {
 namespace {

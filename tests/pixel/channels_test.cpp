@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "pixel/forms.h"
+#include "support/forms.h"
 
 namespace hux::test {
 namespace {

@@ -1,7 +1,7 @@
 // Copy in all its forms, against the definition: element by element, in order.
 #include "huxi_pixel.h"
 
-#include "pixel/forms.h"
+#include "support/forms.h"
 
 namespace hux::test {
 namespace {

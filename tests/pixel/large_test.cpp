@@ -2,7 +2,7 @@
 // band, which the other tests compare with the definitions.
 #include "huxi_pixel.h"
 
-#include "pixel/forms.h"
+#include "support/forms.h"
 
 namespace hux::test {
 namespace {

@@ -1,7 +1,7 @@
 // Mirror about each axis, out of place and in place.
 #include "huxi_pixel.h"
 
-#include "pixel/forms.h"
+#include "support/forms.h"
 
 namespace hux::test {
 namespace {

@@ -6,7 +6,7 @@
 #include <functional>
 #include <limits>
 
-#include "pixel/forms.h"
+#include "support/forms.h"
 
 namespace hux::test {
 namespace {

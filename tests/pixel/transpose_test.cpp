@@ -1,7 +1,7 @@
 // Transpose, out of place and in place.
 #include "huxi_pixel.h"
 
-#include "pixel/forms.h"
+#include "support/forms.h"
 
 namespace hux::test {
 namespace {

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <functional>
 
-#include "pixel/forms.h"
+#include "support/forms.h"
 
 namespace hux::test {
 

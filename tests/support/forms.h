@@ -1,4 +1,4 @@
-// What the tests of this room share: the members of a family as rows of a table, and the images that suit them.
+// The members of a family as rows of a table, and the images that suit them.
 #pragma once
 
 #include "core/stamp.h"
