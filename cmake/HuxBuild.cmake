@@ -9,9 +9,11 @@ if(HUX_SANITIZE)
 endif()
 
 # Results must not depend on optimisation: no contraction to fused operations and no member of -ffast-math that changes a
-# value. errno and floating-point traps are not part of any result, so loops need not preserve them. Vectors wider than
-# the machine's only pass between inlined functions, so how they would be passed otherwise does not matter.
-set(HUX_LIBRARY_FLAGS -ffp-contract=off -fno-math-errno -fno-trapping-math -Wno-psabi)
+# value. errno and floating-point traps are not part of any result, so loops need not preserve them. Rows go top to
+# bottom, also where they overlap, so no loop over rows may change places with the loop along them. Vectors wider than the
+# machine's only pass between inlined functions, so how they would be passed otherwise does not matter.
+set(HUX_LIBRARY_FLAGS -ffp-contract=off -fno-math-errno -fno-trapping-math -Wno-psabi
+                      $<$<CXX_COMPILER_ID:GNU>:-fno-loop-unroll-and-jam>)
 
 # The objects of both libraries at one architecture level. Sets <name>_core and <name>_images.
 function(hux_add_objects name arch)

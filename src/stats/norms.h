@@ -266,7 +266,8 @@ std::array<Hux64f, L::processed> integerTotals(HuxiSize roi, const Rows<const T>
 }
 
 // What a metric has of each channel of an image, or of a difference, before the root. Where AnyOrder is true, sums of
-// floats of one channel need not be formed in the order of the pixels.
+// floats of one channel need not be formed in the order of the pixels in rows of kAnyOrder pixels and more.
+inline constexpr int kAnyOrder = 9;
 template <class L, class M, bool AnyOrder, class... T>
 std::array<Hux64f, L::processed> totals(HuxiSize roi, const Rows<const T>&... images) {
   if constexpr (std::is_same_v<M, Inf>) {
@@ -274,6 +275,7 @@ std::array<Hux64f, L::processed> totals(HuxiSize roi, const Rows<const T>&... im
   } else if constexpr (!(std::is_floating_point_v<T> && ...)) {
     return integerTotals<L, M>(roi, images...);
   } else if constexpr (AnyOrder && L::channels == 1) {
+    if (roi.width < kAnyOrder) return orderedTotals<L, typename M::Term>(roi, images...);
     StridedSums<typename M::Term> sums;
     for (Index y = 0; y < roi.height; ++y) sums.row(roi.width, images.row(y)...);
     return {sums.total()};

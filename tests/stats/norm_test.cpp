@@ -53,6 +53,7 @@ double measure(const Member& m, HuxiSize roi, bool rooted, Values d) {
   const auto magnitude = [&](int x, int y) { return std::fabs(d(x, y)); };
   const auto square = [&](int x, int y) { return d(x, y) * d(x, y); };
   const bool floats = m.type == Type::k32f, relative = m.family == Family::kNormRel;
+  const bool anyOrder = m.single() && roi.width >= 9 && (relative || (d.b && m.metric == Metric::kL2));
   if (m.metric == Metric::kInf) {
     double running[2] = {};
     for (int y = 0; y < roi.height; ++y)
@@ -64,11 +65,11 @@ double measure(const Member& m, HuxiSize roi, bool rooted, Values d) {
   }
   if (m.metric == Metric::kL1) {
     if (!floats) return blockSum(roi, roi.width, magnitude);
-    return relative && m.single() ? stridedSum(roi, magnitude) : orderedSum(roi, m.single(), magnitude);
+    return anyOrder ? stridedSum(roi, magnitude) : orderedSum(roi, m.single(), magnitude);
   }
   double squares = 0;
   if (floats) {
-    squares = m.single() && (relative || d.b) ? stridedSum(roi, square) : orderedSum(roi, m.single(), square);
+    squares = anyOrder ? stridedSum(roi, square) : orderedSum(roi, m.single(), square);
   } else if (m.type == Type::k8u && rooted && roi.width > 32768) {
     for (int x = 0; x < roi.width; x += 32768) {
       const HuxiSize strip = {std::min(32768, roi.width - x), roi.height};
