@@ -28,7 +28,7 @@ HuxStatus zipImages(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, 
 template <class L, class Rule, class T>
 HuxStatus zipConstant(const T* pSrc, int srcStep, const T* pPixel, T* pDst, int dstStep, HuxiSize roi) {
   if (HuxStatus s = check(pointers(pSrc, pPixel, pDst), steps(srcStep, dstStep), size(roi))) return s;
-  const Repeat<L, T, Rule::lanes> constants(reinterpret_cast<const Element<T>*>(pPixel));
+  const Repeat<L, T, Rule::lanes> constants(elements(pPixel));
   forEachRow(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep),
              [&](auto* s, auto* d, Index n) { applyRule<L>(d, n, Rule{}, constants, Stream<T, Rule::lanes>{s}); });
   return huxStsOk;

@@ -64,7 +64,7 @@ template <class L>
 void joinMarks(const Hux8u* marks, Element<Hux8u>* dst, Index n) {
   if constexpr (L::channels == 4) {
     constexpr Hux8u ignored[4] = {0, 0, 0, L::processed == 4 ? 0 : 255};
-    mapRow<C1>(reinterpret_cast<const Element<Hux32u>*>(marks), dst, n, AllFour{std::bit_cast<Hux32u>(ignored)});
+    mapRow<C1>(elementsAs<Hux32u>(marks), dst, n, AllFour{std::bit_cast<Hux32u>(ignored)});
   } else {
     for (Index i = 0; i < n; ++i) dst[i] = marks[3 * i] & marks[3 * i + 1] & marks[3 * i + 2];
   }
@@ -81,7 +81,7 @@ void markRow(Element<Hux8u>* dst, Index n, Mark mark) {
     alignas(64) Hux8u marks[piece * L::channels];
     for (Index i = 0; i < n; i += piece) {
       const Index count = std::min(piece, n - i);
-      mark(reinterpret_cast<Element<Hux8u>*>(marks), i * L::channels, count * L::channels);
+      mark(elements(marks), i * L::channels, count * L::channels);
       joinMarks<L>(marks, dst + i, count);
     }
   }
@@ -101,7 +101,7 @@ void markPairs(Test test, const T* pSrc1, int src1Step, const T* pSrc2, int src2
 template <class L, class T, class Test>
 void markAgainst(Test test, const T* pSrc, int srcStep, const T* pPixel, Hux8u* pDst, int dstStep, HuxiSize roi) {
   using Rule = Marks<T, Test>;
-  const Repeat<L, T, Rule::lanes> constants(reinterpret_cast<const Element<T>*>(pPixel));
+  const Repeat<L, T, Rule::lanes> constants(elements(pPixel));
   forEachRow(roi, rows<L>(pSrc, srcStep), rows<C1>(pDst, dstStep), [=](auto* src, auto* dst, Index n) {
     markRow<L>(dst, n, [=](auto* to, Index first, Index count) {
       applyRule<C1>(to, count, Rule{test}, Stream<T, Rule::lanes>{src + first}, constants);

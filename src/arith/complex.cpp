@@ -49,11 +49,6 @@ void fillRow(const Scratch<T>& row, Index width, Make make) {
     row[i] = i % L::channels < L::processed ? make(int(i % L::channels)) : T{1, 0};
 }
 
-template <class T>
-auto parts(T* p) {
-  return reinterpret_cast<ElementOf<std::conditional_t<std::is_const_v<T>, const Hux32s, Hux32s>>*>(p);
-}
-
 // Copies whole elements, and of layouts with alpha the colours.
 constexpr OnWords<Hux32sc, Same<Hux32s>> kColours{};
 
@@ -68,10 +63,11 @@ class Results32 {
   void store(Element<std::uint64_t>* dst, Index width) const {
     const Index n = 2 * L::channels * width;
     if constexpr (L::channels == L::processed) {
-      mapRow<C1>(row(), parts(dst), n, rule_);
+      mapRow<C1>(row(), elementsAs<Hux32s>(dst), n, rule_);
     } else {
-      mapRow<C1>(row(), parts(row_.get()), n, rule_);  // the results are shorter than the row that they are made of
-      mapRow<L>(reinterpret_cast<const Element<std::uint64_t>*>(row_.get()), dst, width, kColours);
+      mapRow<C1>(row(), elementsAs<Hux32s>(row_.get()), n,
+                 rule_);  // the results are shorter than the row that they are made of
+      mapRow<L>(elementsAs<const std::uint64_t>(row_.get()), dst, width, kColours);
     }
   }
 
@@ -100,14 +96,14 @@ HuxStatus divide(const C* pSrc1, int src1Step, const C* pSrc2, int src2Step, C* 
     const Scratch<Hux32sc> opaque(alpha ? roi.width * Index(L::channels) : 1);
     if (!results || !opaque) return huxStsNoMem;
     if constexpr (alpha) fillRow<L>(opaque, roi.width, [](int) { return Hux32sc{}; });
-    return forEachRow(roi, divisors, src, dst, complexRows<L>(opaque.get(), 0),
-                      [&](auto* a, auto* b, auto* d, auto* copy, Index n) {
-                        if constexpr (alpha) mapRow<L>(a, copy, n, kColours);
-                        const Stream<Hux32s, lanes> x{parts(alpha ? copy : a), 1}, y{parts(b)};
-                        const HuxStatus status = applyRule<C1>(results.row(), 2 * L::channels * n, rule, x, y).status();
-                        results.store(d, n);
-                        return status;
-                      });
+    return forEachRow(
+        roi, divisors, src, dst, complexRows<L>(opaque.get(), 0), [&](auto* a, auto* b, auto* d, auto* copy, Index n) {
+          if constexpr (alpha) mapRow<L>(a, copy, n, kColours);
+          const Stream<Hux32s, lanes> x{elementsAs<const Hux32s>(alpha ? copy : a), 1}, y{elementsAs<const Hux32s>(b)};
+          const HuxStatus status = applyRule<C1>(results.row(), 2 * L::channels * n, rule, x, y).status();
+          results.store(d, n);
+          return status;
+        });
   }
 }
 
@@ -116,7 +112,7 @@ HuxStatus divide(const C* pSrc1, int src1Step, const C* pSrc2, int src2Step, C* 
 template <class L, class C>
 HuxStatus divideC(const C* pSrc, int srcStep, const C* pPixel, C* pDst, int dstStep, HuxiSize roi,
                   int scaleFactor = 0) {
-  const auto constant = [pPixel](int c) { return C(reinterpret_cast<const Element<C>*>(pPixel)[c]); };
+  const auto constant = [pPixel](int c) { return C(elements(pPixel)[c]); };
   const auto nonZero = [&] {
     bool all = true;
     for (int c = 0; c < L::processed; ++c) all &= squaredNorm(constant(c)) > 0;
@@ -134,7 +130,7 @@ HuxStatus divideC(const C* pSrc, int srcStep, const C* pPixel, C* pDst, int dstS
     fillRow<L>(factors, roi.width, [&](int c) { return reciprocal(constant(c)); });
     forEachRow(roi, src, dst, rows<L>(factors.get(), 0), [&](auto* b, auto* d, auto*, Index n) {
       applyRule<C1>(results.row(), 2 * L::channels * n, rule, Stream<Hux64f, lanes>{words(factors.get())},
-                    Stream<Hux32s, lanes>{parts(b)});
+                    Stream<Hux32s, lanes>{elementsAs<const Hux32s>(b)});
       results.store(d, n);
     });
   } else if constexpr (L::channels == 1) {

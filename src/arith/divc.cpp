@@ -13,7 +13,7 @@ template <class T>
 struct Divisor {
   const T* p;
 
-  T operator[](int c) const { return reinterpret_cast<const Element<T>*>(p)[c]; }
+  T operator[](int c) const { return elements(p)[c]; }
   // A NaN is no better than a zero.
   template <class L>
   HuxStatus nonZero() const {
@@ -110,7 +110,7 @@ HuxStatus divC(const Hux16u* pSrc, int srcStep, const Hux16u* pPixel, Hux16u* pD
   if (HuxStatus s = check(pointers(pSrc, pDst), size(roi), [&] { return divisor.nonZero<L>(); })) return s;
   withQuotient<Hux16u>(scaleFactor, [&](auto rule) {
     using Rule = decltype(rule);
-    const Repeat<L, Hux16u, Rule::lanes> constants(reinterpret_cast<const Element<Hux16u>*>(pPixel));
+    const Repeat<L, Hux16u, Rule::lanes> constants(elements(pPixel));
     forEachRow(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep),
                [&](auto* s, auto* d, Index n) { applyRule<L>(d, n, rule, constants, Stream<Hux16u, Rule::lanes>{s}); });
   });

@@ -63,7 +63,7 @@ HuxStatus combineC(const T* pSrc, int srcStep, const T* pPixel, T* pDst, int dst
   constexpr bool early = std::is_same_v<T, Hux16u>, single = L::channels == 1;
   const auto run = [&](auto rule) {
     using Rule = decltype(rule);
-    const Repeat<L, T, Rule::lanes> constants(reinterpret_cast<const Element<T>*>(pPixel));
+    const Repeat<L, T, Rule::lanes> constants(elements(pPixel));
     forEachRow(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep),
                [&](auto* s, auto* d, Index n) { applyRule<L>(d, n, rule, constants, Stream<T, Rule::lanes>{s}); });
   };
@@ -74,9 +74,9 @@ HuxStatus combineC(const T* pSrc, int srcStep, const T* pPixel, T* pDst, int dst
   } else {
     if constexpr (early) {
       if (HuxStatus s = pointers(pPixel)) return s;
-      const T value = *reinterpret_cast<const Element<T>*>(pPixel);
+      const T value = *elements(pPixel);
       if constexpr (L::channels == 3) {
-        const auto* v = reinterpret_cast<const Element<T>*>(pPixel);
+        const auto* v = elements(pPixel);
         if (v[1] == value && v[2] == value && roi.width >= 1 && roi.width <= std::numeric_limits<int>::max() / 3)
           return combineC<C1, Op>(pSrc, srcStep, &value, pDst, dstStep, HuxiSize{roi.width * 3, roi.height},
                                   scaleFactor);
@@ -85,7 +85,7 @@ HuxStatus combineC(const T* pSrc, int srcStep, const T* pPixel, T* pDst, int dst
         return copyAll<L>(pSrc, srcStep, pDst, dstStep, roi);
     }
     if (HuxStatus s = check(pointers(pSrc, pPixel, pDst), size(roi))) return s;
-    const T value = *reinterpret_cast<const Element<T>*>(pPixel);
+    const T value = *elements(pPixel);
     if (scaleFactor > Op::template allZeroAbove<T> || (single && Case::zeroIsZero && value == 0))
       return setAll<L>(T(0), pDst, dstStep, roi);
     if (single && Case::saturates && value != 0 && scaleFactor < (sizeof(T) == 1 ? -7 : -15))

@@ -94,7 +94,7 @@ struct ShiftEach {
 template <class L, class Op, class T>
 HuxStatus shift(const T* pSrc, int srcStep, const Hux32u* pPixel, T* pDst, int dstStep, HuxiSize roi) {
   if (HuxStatus s = check(pointers(pSrc, pPixel, pDst), steps(srcStep, dstStep), size(roi))) return s;
-  const auto* pixel = reinterpret_cast<const Element<Hux32u>*>(pPixel);
+  const auto* pixel = elements(pPixel);
   T counts[4] = {};
   bool equal = true;
   for (int c = 0; c < L::processed; ++c) {
@@ -103,7 +103,7 @@ HuxStatus shift(const T* pSrc, int srcStep, const Hux32u* pPixel, T* pDst, int d
   }
   if (!equal) {
     using Rule = ShiftEach<Op, T>;
-    const Repeat<L, T, Rule::lanes> each(reinterpret_cast<const Element<T>*>(counts));
+    const Repeat<L, T, Rule::lanes> each(elements(counts));
     forEachRow(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep),
                [&](auto* s, auto* d, Index n) { applyRule<L>(d, n, Rule{}, each, Stream<T, Rule::lanes>{s}); });
     return huxStsOk;

@@ -60,25 +60,17 @@ struct ReplaceOutside {
   }
 };
 
-// Applies a rule of elements and constants per channel to the region. Row pointers move in whole elements.
-template <class L, class T, class Rule, class... Pixels>
+// Applies a rule of elements and constants per channel, compared as E, to the region. Row pointers move in whole
+// elements.
+template <class L, class E, class T, class Rule, class... Pixels>
 HuxStatus replace(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi, Rule rule, Pixels... pPixel) {
   constexpr int lanes = Rule::lanes;
-  using Constants = Repeat<L, T, lanes>;
-  forEachRow(roi, rows<L>(pSrc, wholeElements<T>(srcStep)), rows<L>(pDst, wholeElements<T>(dstStep)),
+  using Constants = Repeat<L, E, lanes>;
+  forEachRow(roi, rowsAs<L, E>(pSrc, wholeElements<T>(srcStep)), rowsAs<L, E>(pDst, wholeElements<T>(dstStep)),
              [=, ... constants = Constants(pPixel)](auto* src, auto* dst, Index n) {
-               applyRule<L>(dst, n, rule, Stream<T, lanes>{src}, constants...);
+               applyRule<L>(dst, n, rule, Stream<E, lanes>{src}, constants...);
              });
   return huxStsOk;
-}
-
-template <class E, class T>
-auto as(T* p) {
-  return reinterpret_cast<std::conditional_t<std::is_const_v<T>, const E, E>*>(p);
-}
-template <class E, class T>
-const Element<E>* pixelAs(const T* p) {
-  return reinterpret_cast<const Element<E>*>(p);
 }
 
 template <class L, class T>
@@ -88,9 +80,9 @@ HuxStatus replaceBeyond(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSi
                           pointers(pSrc, pDst), size(roi), steps(srcStep, dstStep), pointers(pThreshold, pValue)))
     return s;
   using E = Compared<L, T>;
-  const auto* threshold = pixelAs<E>(pThreshold);
+  const auto* threshold = elementsAs<E>(pThreshold);
   const auto run = [&](auto rule) {
-    return replace<L>(as<E>(pSrc), srcStep, as<E>(pDst), dstStep, roi, rule, threshold, pixelAs<E>(pValue));
+    return replace<L, E>(pSrc, srcStep, pDst, dstStep, roi, rule, threshold, elementsAs<E>(pValue));
   };
   const Order<E> order(*threshold);
   return cmpOp == huxCmpGreater ? run(ReplaceAbove<E>{order}) : run(ReplaceBelow<E>{order});
@@ -98,7 +90,7 @@ HuxStatus replaceBeyond(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSi
 
 template <class L, class T>
 HuxStatus thresholdsInOrder(const T* pLower, const T* pUpper) {
-  const auto *lower = pixelAs<T>(pLower), *upper = pixelAs<T>(pUpper);
+  const auto *lower = elements(pLower), *upper = elements(pUpper);
   for (int c = 0; c < L::processed; ++c)
     if (!(upper[c] >= lower[c])) return huxStsBadThreshold;
   return huxStsOk;
@@ -113,10 +105,9 @@ HuxStatus replaceOutside(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiS
                           [&] { return thresholdsInOrder<L>(pThresholdLT, pThresholdGT); }))
     return s;
   using E = Compared<L, T>;
-  const auto *lower = pixelAs<E>(pThresholdLT), *upper = pixelAs<E>(pThresholdGT);
-  return replace<L>(as<E>(pSrc), srcStep, as<E>(pDst), dstStep, roi,
-                    ReplaceOutside<E>{Order<E>(*lower), Order<E>(*upper)}, lower, pixelAs<E>(pValueLT), upper,
-                    pixelAs<E>(pValueGT));
+  const auto *lower = elementsAs<E>(pThresholdLT), *upper = elementsAs<E>(pThresholdGT);
+  return replace<L, E>(pSrc, srcStep, pDst, dstStep, roi, ReplaceOutside<E>{Order<E>(*lower), Order<E>(*upper)}, lower,
+                       elementsAs<E>(pValueLT), upper, elementsAs<E>(pValueGT));
 }
 
 }  // namespace

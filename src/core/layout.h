@@ -12,6 +12,14 @@ namespace hux {
 // Counts and byte distances are formed in 64 bits; the public 32-bit sizes are widened at the door.
 using Index = std::ptrdiff_t;
 
+constexpr Index area(HuxiSize size) { return Index(size.width) * size.height; }
+
+// The step of a family that moves its row pointers in whole elements: what is left over is dropped.
+template <class T>
+constexpr int wholeElements(int step) {
+  return step - step % int(sizeof(T));
+}
+
 // Elements per pixel, and how many of them an operation touches.
 template <int Channels, int Processed>
 struct Layout {
@@ -35,14 +43,26 @@ struct __attribute__((packed, may_alias)) Element {
   }
 };
 
-// The elements at a caller's pointer, which may be any address.
 template <class T>
-const Element<T>* elements(const T* p) {
-  return reinterpret_cast<const Element<T>*>(p);
+using ElementOf = std::conditional_t<std::is_const_v<T>, const Element<std::remove_const_t<T>>, Element<T>>;
+
+// The elements at a caller's pointer, which may be any address; `elementsAs` sees them as those of another type.
+template <class T>
+ElementOf<T>* elements(T* p) {
+  return reinterpret_cast<ElementOf<T>*>(p);
 }
+template <class E, class T>
+auto elementsAs(T* p) {
+  return reinterpret_cast<ElementOf<std::conditional_t<std::is_const_v<T>, const E, E>>*>(p);
+}
+// The way back: elements as a public function takes them.
 template <class T>
-Element<T>* elements(T* p) {
-  return reinterpret_cast<Element<T>*>(p);
+auto untyped(T* p) {
+  return static_cast<std::conditional_t<std::is_const_v<T>, const void, void>*>(p);
+}
+template <class W, class T>
+auto argument(T* p) {
+  return static_cast<std::conditional_t<std::is_const_v<T>, const W, W>*>(untyped(p));
 }
 
 // The element type of one width whose members only move bits: 32f and 32s share one body, 16u and 16s another.
@@ -62,8 +82,6 @@ struct WordOf<4> {
 };
 template <class T>
 using Word = typename WordOf<sizeof(T)>::Type;
-template <class T>
-using WordLike = std::conditional_t<std::is_const_v<T>, const Word<T>, Word<T>>;
 
 // A constant argument as the public functions take it: by value in one-channel forms, else a pointer to one per
 // channel.

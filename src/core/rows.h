@@ -17,9 +17,6 @@ T* advance(T* p, Index bytes) {
   return reinterpret_cast<T*>(reinterpret_cast<Byte*>(p) + bytes);
 }
 
-template <class T>
-using ElementOf = std::conditional_t<std::is_const_v<T>, const Element<std::remove_const_t<T>>, Element<T>>;
-
 // One interleaved image operand.
 template <class T>
 struct Rows {
@@ -33,13 +30,18 @@ struct Rows {
 
 template <class L, class T>
 Rows<T> rows(T* p, int step) {
-  return {reinterpret_cast<ElementOf<T>*>(p), step, Index(sizeof(T)) * L::channels};
+  return {elements(p), step, Index(sizeof(T)) * L::channels};
 }
 
-// The same for operations that only move bits: the elements are plain words of their width.
+// The same of elements seen as those of a type E of their width; for operations that only move bits, as plain words.
+template <class L, class E, class T>
+auto rowsAs(T* p, int step) {
+  using As = std::conditional_t<std::is_const_v<T>, const E, E>;
+  return Rows<As>{elementsAs<E>(p), step, Index(sizeof(E)) * L::channels};
+}
 template <class L, class T>
-Rows<WordLike<T>> wordRows(T* p, int step) {
-  return rows<L>(reinterpret_cast<WordLike<T>*>(p), step);
+auto wordRows(T* p, int step) {
+  return rowsAs<L, Word<T>>(p, step);
 }
 
 // One planar image operand: N planes that share a step. Its rows are arrays of N row pointers.
@@ -47,6 +49,7 @@ template <int N, class T>
 struct PlanarRows {
   std::array<ElementOf<T>*, N> first;
   Index step;
+  static constexpr Index pixelBytes = N * Index(sizeof(T));
 
   std::array<ElementOf<T>*, N> row(Index y) const {
     auto planes = first;
@@ -57,9 +60,10 @@ struct PlanarRows {
 };
 
 template <int N, class T>
-PlanarRows<N, WordLike<T>> wordPlanes(T* const* planes, int step) {
-  PlanarRows<N, WordLike<T>> r{{}, step};
-  for (int c = 0; c < N; ++c) r.first[c] = reinterpret_cast<ElementOf<WordLike<T>>*>(planes[c]);
+auto wordPlanes(T* const* planes, int step) {
+  using W = std::conditional_t<std::is_const_v<T>, const Word<T>, Word<T>>;
+  PlanarRows<N, W> r{{}, step};
+  for (int c = 0; c < N; ++c) r.first[c] = elementsAs<Word<T>>(planes[c]);
   return r;
 }
 

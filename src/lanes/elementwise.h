@@ -12,12 +12,6 @@
 
 namespace hux {
 
-// The step of a family that moves its row pointers in whole elements: what is left over is dropped.
-template <class T>
-constexpr int wholeElements(int step) {
-  return step - step % int(sizeof(T));
-}
-
 template <class T, int N>
 struct Stream {
   static constexpr int period = 1;

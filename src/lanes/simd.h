@@ -6,7 +6,7 @@
 #include <cstring>
 #include <utility>
 
-#include "core/layout.h"
+#include "core/rows.h"
 
 #if defined(__SSE2__)
 #include <immintrin.h>
@@ -98,10 +98,18 @@ inline void stream(void* aligned, Vec v) { store(aligned, v); }
 inline void endStreams() {}
 #endif
 
+// The bytes that a walk over a region moves in or out by one operand.
+template <class Operand>
+Index traffic(HuxiSize roi, const Operand& operand) {
+  return area(roi) * operand.pixelBytes;
+}
+
 class Streaming {
  public:
   static constexpr Index kLeast = 40 << 20;  // a little above the last-level cache of a large processor
 
+  template <class... Operands>
+  explicit Streaming(HuxiSize roi, const Operands&... operands) : Streaming((traffic(roi, operands) + ...)) {}
   explicit Streaming(Index bytes) : on_(kStreams && bytes >= kLeast) {}
   Streaming(const Streaming&) = delete;
   ~Streaming() {

@@ -48,12 +48,6 @@ void repeatPixel(const Element<W>* pixel, Element<W>* dst, Index n) {
   }
 }
 
-// Bytes read and written.
-template <class L, class W>
-Index traffic(HuxiSize src, HuxiSize dst) {
-  return (area(src) + area(dst)) * L::channels * Index(sizeof(W));
-}
-
 template <class L, class T>
 HuxStatus constBorder(const T* pSrc, int srcStep, HuxiSize srcRoi, T* pDst, int dstStep, HuxiSize dstRoi, int top,
                       int left, const T* pPixel) {
@@ -64,11 +58,11 @@ HuxStatus constBorder(const T* pSrc, int srcStep, HuxiSize srcRoi, T* pDst, int 
   const Frame f = frame(srcRoi, dstRoi, top, left);
   const auto src = wordRows<L>(pSrc, srcStep);
   const auto dst = wordRows<L>(pDst, dstStep);
-  const Pattern<L, W> pattern(reinterpret_cast<const Element<W>*>(pPixel));
+  const Pattern<L, W> pattern(elementsAs<W>(pPixel));
   const auto fill = [&](Element<W>* at, Index n) {
     if (n > 0) pattern.fill(at, n);
   };
-  const simd::Streaming streaming(traffic<L, W>(srcRoi, dstRoi));
+  const simd::Streaming streaming(simd::traffic(srcRoi, src) + simd::traffic(dstRoi, dst));
   for (Index y = 0; y < f.top; ++y) fill(dst.row(y), f.fullWidth);
   for (Index y = 0; y < f.height; ++y) {
     Element<W>* row = dst.row(f.top + y);
@@ -95,7 +89,7 @@ HuxStatus replicateBorder(const T* pSrc, int srcStep, HuxiSize srcRoi, T* pDst, 
   const Frame f = frame(srcRoi, dstRoi, top, left);
   const auto src = wordRows<L>(pSrc, srcStep);
   const auto dst = wordRows<L>(pDst, dstStep);
-  const simd::Streaming streaming(traffic<L, W>(srcRoi, dstRoi));
+  const simd::Streaming streaming(simd::traffic(srcRoi, src) + simd::traffic(dstRoi, dst));
   for (Index y = 0; y < f.height; ++y) {
     Element<W>* row = dst.row(f.top + y);
     copyPixels<L, W>(src.row(y), row + f.left * L::channels, f.width, streaming);
@@ -164,8 +158,10 @@ void wrapBorder(const Rows<const T>& src, const Rows<T>& dst, const Frame& f, bo
 HuxStatus wrapBorder(const Hux32s* pSrc, int srcStep, HuxiSize srcRoi, Hux32s* pDst, int dstStep, HuxiSize dstRoi,
                      int top, int left) {
   if (HuxStatus s = check(pointers(pSrc, pDst), steps(srcStep, dstStep), fits(srcRoi, dstRoi, top, left))) return s;
-  const simd::Streaming streaming(traffic<C1, Hux32s>(srcRoi, dstRoi));
-  wrapBorder(wordRows<C1>(pSrc, srcStep), wordRows<C1>(pDst, dstStep), frame(srcRoi, dstRoi, top, left), streaming);
+  const auto src = wordRows<C1>(pSrc, srcStep);
+  const auto dst = wordRows<C1>(pDst, dstStep);
+  const simd::Streaming streaming(simd::traffic(srcRoi, src) + simd::traffic(dstRoi, dst));
+  wrapBorder(src, dst, frame(srcRoi, dstRoi, top, left), streaming);
   return huxStsOk;
 }
 

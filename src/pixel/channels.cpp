@@ -8,10 +8,11 @@ namespace {
 
 HuxStatus dup(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roi) {
   if (HuxStatus s = check(pointers(pSrc, pDst), size(roi))) return s;
-  const simd::Streaming streaming(area(roi) * (1 + 3));
-  forEachRow(roi, rows<C1>(pSrc, srcStep), rows<C3>(pDst, dstStep), [&](auto* src, auto* dst, Index n) {
-    moveRow<Hux8u, Repeated, Interleaved<3>, 3>(src, dst, n, streaming);
-  });
+  const auto src = rows<C1>(pSrc, srcStep);
+  const auto dst = rows<C3>(pDst, dstStep);
+  const simd::Streaming streaming(roi, src, dst);
+  forEachRow(roi, src, dst,
+             [&](auto* s, auto* d, Index n) { moveRow<Hux8u, Repeated, Interleaved<3>, 3>(s, d, n, streaming); });
   return huxStsOk;
 }
 
@@ -125,10 +126,12 @@ HuxStatus swapChannels(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSiz
     return s;
   const ChannelOrder order = {{dstOrder[0], dstOrder[1], dstOrder[2]}};
   const Shuffles<L, Word<T>> shuffles(order);
+  const auto src = wordRows<L>(pSrc, srcStep);
+  const auto dst = wordRows<L>(pDst, dstStep);
   // In place every line has been read: nothing is gained by going past the cache.
-  const simd::Streaming streaming(pSrc == pDst ? 0 : area(roi) * 2 * L::channels * Index(sizeof(T)));
-  forEachRow(roi, wordRows<L>(pSrc, srcStep), wordRows<L>(pDst, dstStep),
-             [&](auto* src, auto* dst, Index n) { swapRow<L, Word<T>>(src, dst, n, shuffles, order, streaming); });
+  const simd::Streaming streaming(pSrc == pDst ? HuxiSize{0, 0} : roi, src, dst);
+  forEachRow(roi, src, dst,
+             [&](auto* s, auto* d, Index n) { swapRow<L, Word<T>>(s, d, n, shuffles, order, streaming); });
   return huxStsOk;
 }
 

@@ -15,9 +15,10 @@ namespace {
 template <class L, class T>
 HuxStatus copyAll(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi) {
   if (HuxStatus s = check(pointers(pSrc, pDst), size(roi))) return s;
-  const simd::Streaming streaming(area(roi) * 2 * L::channels * Index(sizeof(T)));
-  forEachRow(roi, wordRows<L>(pSrc, srcStep), wordRows<L>(pDst, dstStep),
-             [&](auto* src, auto* dst, Index n) { copyPixels<L, Word<T>>(src, dst, n, streaming); });
+  const auto src = wordRows<L>(pSrc, srcStep);
+  const auto dst = wordRows<L>(pDst, dstStep);
+  const simd::Streaming streaming(roi, src, dst);
+  forEachRow(roi, src, dst, [&](auto* s, auto* d, Index n) { copyPixels<L, Word<T>>(s, d, n, streaming); });
   return huxStsOk;
 }
 
@@ -25,33 +26,36 @@ HuxStatus copyAll(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi
 template <int SrcStride, int DstStride, int Taken, class T>
 HuxStatus copyChannels(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi) {
   if (HuxStatus s = check(pointers(pSrc, pDst), size(roi))) return s;
-  const simd::Streaming streaming(area(roi) * (SrcStride + DstStride) * Index(sizeof(T)));
-  forEachRow(roi, wordRows<Layout<SrcStride, Taken>>(pSrc, srcStep), wordRows<Layout<DstStride, Taken>>(pDst, dstStep),
-             [&](auto* src, auto* dst, Index n) {
-               moveRow<Word<T>, Interleaved<SrcStride>, Interleaved<DstStride>, Taken>(src, dst, n, streaming);
-             });
+  const auto src = wordRows<Layout<SrcStride, Taken>>(pSrc, srcStep);
+  const auto dst = wordRows<Layout<DstStride, Taken>>(pDst, dstStep);
+  const simd::Streaming streaming(roi, src, dst);
+  forEachRow(roi, src, dst, [&](auto* s, auto* d, Index n) {
+    moveRow<Word<T>, Interleaved<SrcStride>, Interleaved<DstStride>, Taken>(s, d, n, streaming);
+  });
   return huxStsOk;
 }
 
 template <int N, class T>
 HuxStatus copyToPlanes(const T* pSrc, int srcStep, T* const* pDst, int dstStep, HuxiSize roi) {
   if (HuxStatus s = check(pointers(pSrc), planePointers<N>(pDst), size(roi))) return s;
-  const simd::Streaming streaming(area(roi) * 2 * N * Index(sizeof(T)));
-  forEachRow(roi, wordRows<Layout<N, N>>(pSrc, srcStep), wordPlanes<N>(pDst, dstStep),
-             [&](auto* src, const auto& dst, Index n) {
-               moveRow<Word<T>, Interleaved<N>, Planar<N>, N>(src, dst, n, streaming);
-             });
+  const auto src = wordRows<Layout<N, N>>(pSrc, srcStep);
+  const auto dst = wordPlanes<N>(pDst, dstStep);
+  const simd::Streaming streaming(roi, src, dst);
+  forEachRow(roi, src, dst, [&](auto* s, const auto& d, Index n) {
+    moveRow<Word<T>, Interleaved<N>, Planar<N>, N>(s, d, n, streaming);
+  });
   return huxStsOk;
 }
 
 template <int N, class T>
 HuxStatus copyFromPlanes(const T* const* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi) {
   if (HuxStatus s = check(planePointers<N>(pSrc), pointers(pDst), size(roi))) return s;
-  const simd::Streaming streaming(area(roi) * 2 * N * Index(sizeof(T)));
-  forEachRow(roi, wordPlanes<N>(pSrc, srcStep), wordRows<Layout<N, N>>(pDst, dstStep),
-             [&](const auto& src, auto* dst, Index n) {
-               moveRow<Word<T>, Planar<N>, Interleaved<N>, N>(src, dst, n, streaming);
-             });
+  const auto src = wordPlanes<N>(pSrc, srcStep);
+  const auto dst = wordRows<Layout<N, N>>(pDst, dstStep);
+  const simd::Streaming streaming(roi, src, dst);
+  forEachRow(roi, src, dst, [&](const auto& s, auto* d, Index n) {
+    moveRow<Word<T>, Planar<N>, Interleaved<N>, N>(s, d, n, streaming);
+  });
   return huxStsOk;
 }
 

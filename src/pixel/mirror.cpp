@@ -149,7 +149,7 @@ HuxStatus mirror(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi,
   using W = Word<T>;
   const auto src = wordRows<L>(pSrc, srcStep);
   const auto dst = wordRows<L>(pDst, dstStep);
-  const simd::Streaming streaming(area(roi) * 2 * L::channels * Index(sizeof(T)));
+  const simd::Streaming streaming(roi, src, dst);
   for (Index y = 0; y < roi.height; ++y) {
     Element<W>* to = dst.row(flip == huxAxsVertical ? y : roi.height - 1 - y);
     if (flip == huxAxsHorizontal)

@@ -95,7 +95,7 @@ class UniformNoise {
     while (n > 0) {
       if (used_ == Generator::kSteps) generator_.refill(), used_ = 0;
       const Index count = std::min<Index>(n, Generator::kSteps - used_);
-      const auto* r = reinterpret_cast<const Element<Hux32s>*>(generator_.outputs() + used_);
+      const auto* r = elementsAs<Hux32s>(generator_.outputs() + used_);
       zipRow<C1>(row, r, row, count, rule_);
       row += count, n -= count, used_ += int(count);
     }
@@ -246,7 +246,7 @@ class GaussNoise {
 template <class L, class Noise, class T>
 HuxStatus addNoise(T* pSrcDst, int step, HuxiSize roi, T first, T second, Hux32u* pSeed) {
   if (HuxStatus s = check(pointers(pSrcDst, pSeed), size(roi), steps(step))) return s;
-  auto& seed = *reinterpret_cast<Element<Hux32u>*>(pSeed);
+  auto& seed = *elements(pSeed);
   Noise noise(seed, first, second);
   const auto image = rows<L>(pSrcDst, step);
   for (Index y = 0; y < roi.height; ++y) {

@@ -13,9 +13,10 @@ template <class L, class T>
 HuxStatus set(const T* pPixel, T* pDst, int dstStep, HuxiSize roi) {
   if (HuxStatus s = check(pointers(pPixel, pDst), size(roi), steps(dstStep))) return s;
   using W = Word<T>;
-  const Pattern<L, W> pattern(reinterpret_cast<const Element<W>*>(pPixel));
-  const simd::Streaming streaming(Index(roi.width) * roi.height * L::channels * Index(sizeof(T)));
-  forEachRow(roi, wordRows<L>(pDst, dstStep), [&](auto* dst, Index n) { pattern.fill(dst, n, streaming); });
+  const Pattern<L, W> pattern(elementsAs<W>(pPixel));
+  const auto dst = wordRows<L>(pDst, dstStep);
+  const simd::Streaming streaming(roi, dst);
+  forEachRow(roi, dst, [&](auto* dst, Index n) { pattern.fill(dst, n, streaming); });
   return huxStsOk;
 }
 
@@ -23,7 +24,7 @@ template <class L, class T>
 HuxStatus setMasked(const T* pPixel, T* pDst, int dstStep, HuxiSize roi, const Hux8u* pMask, int maskStep) {
   if (HuxStatus s = check(pointers(pPixel, pDst, pMask), size(roi), steps(dstStep, maskStep))) return s;
   using W = Word<T>;
-  const Pattern<L, W> pattern(reinterpret_cast<const Element<W>*>(pPixel));
+  const Pattern<L, W> pattern(elementsAs<W>(pPixel));
   forEachRow(roi, wordRows<L>(pDst, dstStep), rows<C1>(pMask, maskStep),
              [&](auto* dst, auto* mask, Index n) { setRowMasked(pattern, dst, mask, n); });
   return huxStsOk;

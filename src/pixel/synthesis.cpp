@@ -37,12 +37,11 @@ void drawRow(Element<T>* dst, Index width, Rule rule) {
   } else {
     constexpr Index block = 256;
     Element<T> values[block];
-    using W = Element<Word<T>>;
     for (Index x = 0; x < width; x += block) {
       const Index n = std::min(block, width - x);
       applyRule<C1>(values, n, rule, Columns<Rule::lanes>{x});
-      moveRow<Word<T>, Repeated, Interleaved<L::channels>, L::processed>(
-          reinterpret_cast<const W*>(values), reinterpret_cast<W*>(dst + x * L::channels), n);
+      moveRow<Word<T>, Repeated, Interleaved<L::channels>, L::processed>(elementsAs<const Word<T>>(values),
+                                                                         elementsAs<Word<T>>(dst + x * L::channels), n);
     }
   }
 }
@@ -52,11 +51,11 @@ void drawRow(Element<T>* dst, Index width, Rule rule) {
 template <class L, class T, class Original, class Draw>
 void drawRows(Rows<T> dst, HuxiSize roi, Original original, Draw draw) {
   const bool apart = dst.step >= roi.width * dst.pixelBytes;
-  const simd::Streaming streaming(area(roi) * dst.pixelBytes);
+  const simd::Streaming streaming(roi, dst);
   for (int y = 0; y < roi.height; ++y) {
-    using W = Element<Word<T>>;
     if (const int from = original(y); apart && from < y)
-      copyPixels<L>(reinterpret_cast<const W*>(dst.row(from)), reinterpret_cast<W*>(dst.row(y)), roi.width, streaming);
+      copyPixels<L, Word<T>>(elementsAs<const Word<T>>(dst.row(from)), elementsAs<Word<T>>(dst.row(y)), roi.width,
+                             streaming);
     else
       draw(dst.row(y), y);
   }
@@ -97,7 +96,7 @@ void drawRamp(Rows<T> dst, HuxiSize roi, Hux32f offset, Hux32f slope, HuxiAxis a
     if (axis == huxAxsVertical) {
       Element<Word<T>> pixel[4];
       std::fill_n(pixel, 4, std::bit_cast<Word<T>>(rule(splat<Lanes<Hux32s, rule.lanes>>(1))[0]));
-      Pattern<L, Word<T>>(pixel).fill(reinterpret_cast<Element<Word<T>>*>(row), roi.width);
+      Pattern<L, Word<T>>(pixel).fill(elementsAs<Word<T>>(row), roi.width);
     } else {
       drawRow<L>(row, roi.width, rule);
     }

@@ -177,7 +177,7 @@ auto plane(const T* p, int step) {
 template <class L, class T>
 HuxStatus transpose(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi) {
   if (HuxStatus s = check(pointers(pSrc, pDst), size(roi))) return s;
-  const simd::Streaming streaming(Index(roi.width) * roi.height * 2 * L::channels * Index(sizeof(T)));
+  const simd::Streaming streaming(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep));
   transposeImage(plane<L>(pSrc, srcStep), plane<L>(pDst, dstStep), roi.width, roi.height, streaming);
   return huxStsOk;
 }

@@ -302,7 +302,7 @@ template <class T>
 void countEven(const Element<T>* elements, Index n, Histogram<T> histogram) {
   const auto levels = histogram.levels;
   Hux32s bins[kChannelBlock];  // negative where there is none
-  mapRow<C1>(elements, reinterpret_cast<Element<Hux32s>*>(bins), n,
+  mapRow<C1>(elements, hux::elements(bins), n,
              Quotients<T>{levels[0], levels.last(), 1.0f / Hux32f(levels[1] - levels[0])});
   for (Index i = 0; i < n; ++i)
     if (bins[i] >= 0) histogram.add(bins[i]);
@@ -313,8 +313,7 @@ void countEven(const Element<T>* elements, Index n, Histogram<T> histogram) {
 template <class L, class T, class Level>
 Histograms<L, T> histogramsOf(Hux32s* const* pHist, const Level* const* pLevels, const int* nLevels) {
   Histograms<L, T> histograms;
-  for (int c = 0; c < L::processed; ++c)
-    histograms[c] = {{elements<Level>(pLevels[c]), nLevels[c]}, elements(pHist[c])};
+  for (int c = 0; c < L::processed; ++c) histograms[c] = {{elements(pLevels[c]), nLevels[c]}, elements(pHist[c])};
   return histograms;
 }
 

@@ -26,21 +26,15 @@ HUX_CHANNEL_COPY(3, 32f)
 HUX_CHANNEL_COPY(4, 32f)
 #undef HUX_CHANNEL_COPY
 
-// A row as the public functions take it.
-template <class T>
-auto plain(T* row) {
-  return static_cast<std::conditional_t<std::is_const_v<T>, const void*, void*>>(row);
-}
-
 // Channel c of n pixels: copied to `room` where there are several channels, else the pixels themselves.
 template <class L, class T>
 const T* channelOf(const Element<T>* pixels, int c, T* room, int n) {
   if constexpr (L::channels == 1) {
-    return static_cast<const T*>(plain(pixels));
+    return argument<T>(pixels);
   } else {
     using Members = ChannelCopy<L::channels, sizeof(T)>;
     using W = typename Members::T;
-    Members::out(static_cast<const W*>(plain(pixels + c)), 1, static_cast<W*>(plain(room)), 1, {n, 1});
+    Members::out(argument<W>(pixels + c), 1, argument<W>(room), 1, {n, 1});
     return room;
   }
 }
@@ -56,7 +50,7 @@ void forChannels(const Element<T>* row, Index n, Body body) {
     for (int c = 0; c < L::processed; ++c) {
       T room[kChannelBlock];
       const T* elements = channelOf<L>(row + i * L::channels, c, room, int(count));
-      body(c, reinterpret_cast<const Element<T>*>(elements), count);
+      body(c, hux::elements(elements), count);
     }
   }
 }
@@ -72,7 +66,7 @@ void mapChannels(const Element<T>* src, Element<T>* dst, Index n, Body body) {
       using W = typename Members::T;
       Element<T> results[kChannelBlock];
       body(c, elements, results, count);
-      Members::in(static_cast<const W*>(plain(results)), 1, static_cast<W*>(plain(dst + c)), 1, {int(count), 1});
+      Members::in(argument<W>(results), 1, argument<W>(dst + c), 1, {int(count), 1});
       if (c + 1 == L::processed) dst += count * L::channels;
     });
   }

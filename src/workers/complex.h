@@ -20,12 +20,8 @@ template <class C>
 inline constexpr Index kWords = sizeof(C) / sizeof(WordOfComplex<C>);
 
 template <class C>
-const Element<WordOfComplex<C>>* words(const C* p) {
-  return reinterpret_cast<const Element<WordOfComplex<C>>*>(p);
-}
-template <class C>
-Element<WordOfComplex<C>>* words(C* p) {
-  return reinterpret_cast<Element<WordOfComplex<C>>*>(p);
+auto words(C* p) {
+  return elementsAs<WordOfComplex<C>>(p);
 }
 
 // A rule on parts as a rule on words. Layouts with alpha need whole pixels, so it takes no less than four elements.

@@ -34,16 +34,16 @@ HuxStatus setAll(T value, T* pDst, int dstStep, HuxiSize roi) {
   using D = Delegate<T>;
   const D pixel[4] = {D(value), D(value), D(value), D(value)};
   if constexpr (L::channels == 1)
-    return SetMember<L, D>::call(pixel[0], reinterpret_cast<D*>(pDst), dstStep, roi);
+    return SetMember<L, D>::call(pixel[0], argument<D>(pDst), dstStep, roi);
   else
-    return SetMember<L, D>::call(pixel, reinterpret_cast<D*>(pDst), dstStep, roi);
+    return SetMember<L, D>::call(pixel, argument<D>(pDst), dstStep, roi);
 }
 
 // The exported Copy of the layout.
 template <class L, class T>
 HuxStatus copyAll(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi) {
   using D = Delegate<T>;
-  return CopyMember<L, D>::call(reinterpret_cast<const D*>(pSrc), srcStep, reinterpret_cast<D*>(pDst), dstStep, roi);
+  return CopyMember<L, D>::call(argument<D>(pSrc), srcStep, argument<D>(pDst), dstStep, roi);
 }
 
 }  // namespace hux

@@ -12,8 +12,6 @@
 
 namespace hux {
 
-constexpr Index area(HuxiSize size) { return Index(size.width) * size.height; }
-
 // A side whose pixels lie `Stride` elements apart in one row.
 template <int Stride>
 struct Interleaved {

@@ -88,7 +88,7 @@ class Segments {
 
   // The segments of so many elements.
   void find(const Element<Hux32f>* elements, Index n, Hux32s* segments) const {
-    auto* to = reinterpret_cast<Element<Hux32s>*>(segments);
+    auto* to = hux::elements(segments);
     if (!regular_) {
       for (Index i = 0; i < n; ++i) segments[i] = firstOf(elements[i]);
     } else if (areFew()) {

@@ -53,7 +53,7 @@ template <class Rule, class... Constants>
 void tabulate(Hux8u* table, Rule rule, Constants... constants) {
   Element<Hux8u> bytes[256];
   for (int i = 0; i < 256; ++i) bytes[i] = Hux8u(i);
-  applyRule<C1>(reinterpret_cast<Element<Hux8u>*>(table), 256, rule, constants..., Stream<Hux8u, Rule::lanes>{bytes});
+  applyRule<C1>(elements(table), 256, rule, constants..., Stream<Hux8u, Rule::lanes>{bytes});
 }
 
 }  // namespace hux
