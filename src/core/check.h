@@ -38,6 +38,24 @@ constexpr HuxStatus steps(S... step) {
   return failUnless(((step >= 1) && ...), huxStsBadStep);
 }
 
+// Each row must lie within its step; a row is of `elements` elements of T.
+template <class T, class... S>
+constexpr HuxStatus stepsHold(Index elements, S... step) {
+  return failUnless(((step >= elements * Index(sizeof(T))) && ...), huxStsBadStep);
+}
+
+// The mask of a neighbourhood filter, and the cell of it that lies over the pixel; of one row or column, plain numbers.
+constexpr HuxStatus maskSize(HuxiSize mask) {
+  return failUnless(mask.width >= 1 && mask.height >= 1, huxStsBadMaskSize);
+}
+constexpr HuxStatus maskSize(int mask) { return failUnless(mask >= 1, huxStsBadMaskSize); }
+constexpr HuxStatus anchorInside(int anchor, int mask) {
+  return failUnless(anchor >= 0 && anchor < mask, huxStsBadAnchor);
+}
+constexpr HuxStatus anchorInside(HuxiPoint anchor, HuxiSize mask) {
+  return failUnless(!anchorInside(anchor.x, mask.width) && !anchorInside(anchor.y, mask.height), huxStsBadAnchor);
+}
+
 // An item of a check line is a status, or a callable giving one where the test may only run once those before it
 // passed.
 constexpr HuxStatus evaluate(HuxStatus status) { return status; }

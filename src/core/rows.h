@@ -25,6 +25,7 @@ struct Rows {
   Index pixelBytes;
 
   ElementOf<T>* row(Index y) const { return advance(first, y * step); }
+  Rows from(Index y) const { return {row(y), step, pixelBytes}; }  // the rows from y on, as a thread's share begins
   bool contiguous(Index width) const { return step == width * pixelBytes; }
 };
 
