@@ -3,6 +3,8 @@
 #include <omp.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <memory>
 
 #include "core/check.h"
 #include "core/scratch.h"
@@ -17,7 +19,10 @@ std::size_t padded(std::size_t bytes) { return (bytes + kLine - 1) / kLine * kLi
 
 // Runtimes abort the process when they cannot create the threads asked for, so an absurd count is cut to a plain large
 // one.
-int requestedTeam() { return int(std::clamp<Hux32u>(threads_omp_of_n_hux, 1, 1024)); }
+constexpr int kMostThreads = 1024;
+int requestedTeam(int most = kMostThreads) {
+  return int(std::clamp<Hux32u>(threads_omp_of_n_hux, 1, Hux32u(std::clamp(most, 1, kMostThreads))));
+}
 
 RowRange evenShare(Index height, int n, int t) {
   const Index rows = height / n, rest = height % n;
@@ -30,18 +35,24 @@ RowRange staticShare(Index height, int n, int t) {
   return {t * rows + std::min<Index>(t, more), rows + (t < more)};
 }
 
-// Memory that the master allocates once the team's size is known and that lives until the region has ended.
+// Memory that the master allocates once the team's size is known and that lives until the region has ended. It starts
+// on a cache line.
 class RegionBlock {
  public:
   RegionBlock() = default;
   ~RegionBlock() { release(block_); }
   RegionBlock(const RegionBlock&) = delete;
   RegionBlock& operator=(const RegionBlock&) = delete;
-  std::byte* allocate(std::size_t bytes) { return block_ = static_cast<std::byte*>(hux::allocate(bytes)); }
-  std::byte* get() const { return block_; }
+  std::byte* allocate(std::size_t bytes) {
+    block_ = hux::allocate(bytes + kLine - kAlignment);
+    return get();
+  }
+  std::byte* get() const {
+    return reinterpret_cast<std::byte*>(padded(reinterpret_cast<std::uintptr_t>(block_)));  // null stays null
+  }
 
  private:
-  std::byte* block_ = nullptr;
+  void* block_ = nullptr;
 };
 
 }  // namespace
@@ -49,14 +60,20 @@ class RegionBlock {
 int maxTeam() { return omp_get_max_threads(); }
 
 void splitRows(Index height, Callable<void(RowRange)> body) {
+  splitRows(height, kMostThreads, nullptr, 0, [&](RowRange share, std::byte*) { body(share); });
+}
+
+void splitRows(Index height, int mostThreads, std::byte* slices, std::size_t sliceBytes,
+               Callable<void(RowRange, std::byte*)> body) {
   int n = 1;
-#pragma omp parallel num_threads(requestedTeam()) shared(n)
+#pragma omp parallel num_threads(requestedTeam(mostThreads)) shared(n)
   {
 #pragma omp master
     n = omp_get_num_threads();
 #pragma omp barrier
-    const RowRange share = evenShare(height, n, omp_get_thread_num());
-    if (share.count > 0) body(share);
+    const int t = omp_get_thread_num();
+    const RowRange share = evenShare(height, n, t);
+    if (share.count > 0) body(share, slices + sliceBytes * std::size_t(t));
   }
 }
 
@@ -64,7 +81,7 @@ HuxStatus loopRows(Index height, bool fork, std::size_t sliceBytes, Callable<voi
   RegionBlock block;
   const std::size_t stride = padded(sliceBytes);
   if (!fork) {
-    if (!block.allocate(stride)) return huxStsNoMem;
+    if (stride && !block.allocate(stride)) return huxStsNoMem;
     body({0, height}, block.get());
     return huxStsOk;
   }
@@ -75,7 +92,7 @@ HuxStatus loopRows(Index height, bool fork, std::size_t sliceBytes, Callable<voi
 #pragma omp master
     {
       n = omp_get_num_threads();
-      failed = !block.allocate(stride * std::size_t(n));
+      failed = stride && !block.allocate(stride * std::size_t(n));
     }
 #pragma omp barrier
     const int t = omp_get_thread_num();
@@ -87,24 +104,26 @@ HuxStatus loopRows(Index height, bool fork, std::size_t sliceBytes, Callable<voi
 
 HuxStatus runTiles(TilePool pool, Callable<HuxStatus(std::byte*, Index&)> prepare,
                    Callable<HuxStatus(Index, std::byte*, std::byte*)> body) {
-  // One block: the shared part, a status word for each thread, a slice for each thread.
+  // One block: the shared part, a status for each thread, a slice for each thread, all on cache lines of their own.
+  struct alignas(kLine) Slot {
+    HuxStatus status = huxStsOk;
+  };
   RegionBlock block;
   const std::size_t shared = padded(pool.sharedBytes), stride = padded(pool.sliceBytes);
   int n = 1;
   Index tiles = 0;
   HuxStatus status = huxStsOk;
-  HuxStatus* slots = nullptr;
+  Slot* slots = nullptr;
   std::byte* slices = nullptr;
 #pragma omp parallel num_threads(requestedTeam()) shared(block, n, tiles, status, slots, slices)
   {
 #pragma omp master
     {
       n = omp_get_num_threads();
-      const std::size_t words = padded(std::size_t(n) * sizeof(HuxStatus));
-      if (std::byte* memory = block.allocate(shared + words + stride * std::size_t(n))) {
-        slots = reinterpret_cast<HuxStatus*>(memory + shared);
-        slices = memory + shared + words;
-        std::fill_n(slots, n, HuxStatus(huxStsOk));
+      if (std::byte* memory = block.allocate(shared + (sizeof(Slot) + stride) * std::size_t(n))) {
+        slots = reinterpret_cast<Slot*>(memory + shared);
+        slices = memory + shared + sizeof(Slot) * std::size_t(n);
+        std::uninitialized_default_construct_n(slots, n);
         status = prepare(memory, tiles);
       } else {
         status = huxStsNoMem;
@@ -114,32 +133,47 @@ HuxStatus runTiles(TilePool pool, Callable<HuxStatus(std::byte*, Index&)> prepar
     if (status == huxStsOk) {
       const int t = omp_get_thread_num();
       for (Index tile = t; tile < tiles; tile += n)
-        slots[t] = std::min(slots[t], body(tile, block.get(), slices + stride * std::size_t(t)));
+        slots[t].status = std::min(slots[t].status, body(tile, block.get(), slices + stride * std::size_t(t)));
     }
   }
   if (status != huxStsOk) return status;
-  return *std::min_element(slots, slots + n);
+  for (int t = 0; t < n; ++t) status = std::min(status, slots[t].status);
+  return status;
 }
 
-HuxStatus sumRows(Index height, std::size_t partialBytes, std::byte* buffer, Callable<void(RowRange, std::byte*)> body,
+HuxStatus sumRows(Index height, std::size_t partialBytes, Callable<void(RowRange, std::byte*)> body,
                   Callable<void(const std::byte*)> add) {
   RegionBlock block;
-  std::byte* partials = buffer;
+  const std::size_t stride = padded(partialBytes);
   int n = 1;
-#pragma omp parallel num_threads(requestedTeam()) shared(block, partials, n)
+#pragma omp parallel num_threads(requestedTeam()) shared(block, n)
   {
 #pragma omp master
     {
       n = omp_get_num_threads();
-      if (!partials) partials = block.allocate(partialBytes * std::size_t(n));
+      block.allocate(stride * std::size_t(n));
     }
 #pragma omp barrier
     const int t = omp_get_thread_num();
-    if (partials) body(evenShare(height, n, t), partials + partialBytes * std::size_t(t));
+    if (block.get()) body(evenShare(height, n, t), block.get() + stride * std::size_t(t));
   }
-  if (!partials) return huxStsNoMem;
-  for (int t = 0; t < n; ++t) add(partials + partialBytes * std::size_t(t));
+  if (!block.get()) return huxStsNoMem;
+  for (int t = 0; t < n; ++t) add(block.get() + stride * std::size_t(t));
   return huxStsOk;
+}
+
+void sumRows(Index height, int mostThreads, std::byte* partials, std::size_t partialBytes,
+             Callable<void(RowRange, std::byte*)> body, Callable<void(const std::byte*)> add) {
+  int n = 1;
+#pragma omp parallel num_threads(requestedTeam(mostThreads)) shared(n)
+  {
+#pragma omp master
+    n = omp_get_num_threads();
+#pragma omp barrier
+    const int t = omp_get_thread_num();
+    body(evenShare(height, n, t), partials + partialBytes * std::size_t(t));
+  }
+  for (int t = 0; t < n; ++t) add(partials + partialBytes * std::size_t(t));
 }
 
 }  // namespace hux

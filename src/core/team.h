@@ -37,12 +37,17 @@ struct RowRange {
   Index first, count;
 };
 
-// 1. Rows split evenly: each thread has height / n rows, the last takes the rest as well. No memory.
+// 1. Rows split evenly: each thread has height / n rows, the last takes the rest as well. No memory; or, for families
+// whose caller brings the memory, a slice of `sliceBytes` for each thread out of `slices`, which has room for
+// `mostThreads` of them: the team is no larger.
 void splitRows(Index height, Callable<void(RowRange)> body);
+void splitRows(Index height, int mostThreads, std::byte* slices, std::size_t sliceBytes,
+               Callable<void(RowRange, std::byte* slice)> body);
 
 // 2. A static loop over rows, with `sliceBytes` of scratch for each thread. A thread has one contiguous range, for
 // which the body is called once: it starts its running sums at the first row. With `fork` false the caller is a team of
-// one and the runtime is not asked. huxStsNoMem when there is no memory for the slices; then no body has run.
+// one and the runtime is not asked. huxStsNoMem when there is no memory for the slices; then no body has run. Without
+// scratch (`sliceBytes` 0, the slice null) nothing is allocated, and nothing can fail.
 HuxStatus loopRows(Index height, bool fork, std::size_t sliceBytes, Callable<void(RowRange, std::byte* slice)> body);
 
 // 3. A pool of tiles. The master's `prepare` fills the shared memory and returns a status; thread t then takes the
@@ -55,11 +60,14 @@ struct TilePool {
 HuxStatus runTiles(TilePool pool, Callable<HuxStatus(std::byte* shared, Index& tiles)> prepare,
                    Callable<HuxStatus(Index tile, std::byte* shared, std::byte* slice)> body);
 
-// 4. Rows with partial sums: as splitRows, each thread with its own `partialBytes`, taken from `buffer`, or allocated
-// where `buffer` is null (huxStsNoMem when that fails). After the region the caller's thread adds the partials in
-// thread order; that order, and so the last bits of a float sum, depends on the team's size.
-HuxStatus sumRows(Index height, std::size_t partialBytes, std::byte* buffer,
-                  Callable<void(RowRange, std::byte* partial)> body, Callable<void(const std::byte* partial)> add);
+// 4. Rows with partial sums: as splitRows, each thread with its own `partialBytes`, which are allocated (huxStsNoMem
+// when that fails) or the caller's, with room for `mostThreads`. Every thread runs its body, also one that has no rows.
+// After the region the caller's thread adds the partials in thread order; that order, and so the last bits of a float
+// sum, depends on the team's size.
+HuxStatus sumRows(Index height, std::size_t partialBytes, Callable<void(RowRange, std::byte* partial)> body,
+                  Callable<void(const std::byte* partial)> add);
+void sumRows(Index height, int mostThreads, std::byte* partials, std::size_t partialBytes,
+             Callable<void(RowRange, std::byte* partial)> body, Callable<void(const std::byte* partial)> add);
 
 // The most threads that a region may have, for functions that report the size of a caller's buffer.
 int maxTeam();

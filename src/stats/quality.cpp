@@ -91,7 +91,7 @@ HuxStatus qualityIndex(const T* pSrc1, int src1Step, const T* pSrc2, int src2Ste
       all[c].cov += sums.cov, all[c].varP += sums.varP, all[c].varQ += sums.varQ;
     }
   };
-  if (HuxStatus s = sumRows(roi.height, Share<T>::bytes(width), nullptr, addShare, gather)) return s;
+  if (HuxStatus s = sumRows(roi.height, Share<T>::bytes(width), addShare, gather)) return s;
   for (int c = 0; c < L::processed; ++c) elements(pQualityIndex)[c] = indexOf(all[c], mean1[c], mean2[c]);
   return huxStsOk;
 }

@@ -104,6 +104,52 @@ TEST(Team, LoopRowsGivesEachThreadOneRangeAndItsOwnSlice) {
   });
 }
 
+TEST(Team, RowsWithoutScratchNeedNoMemory) {
+  forTeams([](int) {
+    for (bool fork : {false, true}) {
+      Visits visits(9);
+      failAllocation(0);
+      EXPECT_EQ(loopRows(9, fork, 0,
+                         [&](RowRange r, std::byte* slice) {
+                           visits.visit(r);
+                           EXPECT_EQ(slice, nullptr);
+                         }),
+                huxStsOk);
+      EXPECT_FALSE(allocationFailed());
+      stopFailing();
+      EXPECT_TRUE(visits.eachOnce());
+    }
+  });
+}
+
+// A caller's buffer bounds the team, whatever the number of threads asked for.
+TEST(Team, SlicesOfTheCallersBufferBoundTheTeam) {
+  forTeams([](int most) {
+    for (int room : {1, 2, 5}) {
+      Visits split(23), summed(23);
+      std::vector<std::byte> buffer(std::size_t(room) * 24 + 1);
+      const auto fill = [&](Visits& visits) {
+        return [&](RowRange r, std::byte* slice) {
+          EXPECT_EQ((slice - buffer.data()) % 24, 0);
+          ASSERT_LT(slice - buffer.data(), 24 * room);
+          std::memset(slice, 1 + int(r.first), 24);
+          visits.visit(r);
+        };
+      };
+      splitRows(23, room, buffer.data(), 24, fill(split));
+      EXPECT_TRUE(split.eachOnce());
+      int added = 0, last = 0;
+      sumRows(23, room, buffer.data(), 24, fill(summed), [&](const std::byte* partial) {
+        EXPECT_GT(int(*partial), last);
+        last = int(*partial), ++added;
+      });
+      EXPECT_TRUE(summed.eachOnce());
+      EXPECT_LE(added, std::min(most, room));
+      EXPECT_EQ(buffer.back(), std::byte(0));
+    }
+  });
+}
+
 TEST(Team, TilesAreTakenOnceAndTheLowestStatusWins) {
   forTeams([](int) {
     for (Index tiles : {0, 1, 6, 50}) {
@@ -152,27 +198,26 @@ TEST(Team, TilesDoNotRunWhenThePreparationFails) {
 
 TEST(Team, PartialSumsAreAddedInThreadOrder) {
   forTeams([](int most) {
-    for (Index height : {1, 3, 40})
-      for (bool ownBuffer : {false, true}) {
-        Visits visits(height);
-        std::vector<std::byte> buffer(ownBuffer ? std::size_t(most) * sizeof(Index) : 1);
-        Index last = -1, sum = 0;
-        EXPECT_EQ(sumRows(
-                      height, sizeof(Index), ownBuffer ? buffer.data() : nullptr,
-                      [&](RowRange r, std::byte* partial) {
-                        visits.visit(r);
-                        std::memcpy(partial, &r.count, sizeof r.count);
-                      },
-                      [&](const std::byte* partial) {
-                        Index count;
-                        std::memcpy(&count, partial, sizeof count);
-                        EXPECT_GE(count, last);  // equal shares, and the last takes the rest
-                        last = count, sum += count;
-                      }),
-                  huxStsOk);
-        EXPECT_TRUE(visits.eachOnce());
-        EXPECT_EQ(sum, height);
-      }
+    for (Index height : {1, 3, 40}) {
+      Visits visits(height);
+      Index last = -1, sum = 0, partials = 0;
+      EXPECT_EQ(sumRows(
+                    height, sizeof(Index),
+                    [&](RowRange r, std::byte* partial) {
+                      visits.visit(r);
+                      std::memcpy(partial, &r.count, sizeof r.count);
+                    },
+                    [&](const std::byte* partial) {
+                      Index count;
+                      std::memcpy(&count, partial, sizeof count);
+                      EXPECT_GE(count, last);  // equal shares, and the last takes the rest
+                      last = count, sum += count, ++partials;
+                    }),
+                huxStsOk);
+      EXPECT_TRUE(visits.eachOnce());
+      EXPECT_EQ(sum, height);
+      EXPECT_LE(partials, most);
+    }
   });
 }
 
@@ -204,7 +249,7 @@ TEST(Team, NoMemoryIsAStatusAndNothingRuns) {
     walkAllocationFailures(
         [&] {
           return sumRows(
-              4, 8, nullptr, [](RowRange, std::byte*) {}, [](const std::byte*) {});
+              4, 8, [](RowRange, std::byte*) {}, [](const std::byte*) {});
         },
         noMem);
     EXPECT_EQ(failures, 4);
