@@ -4,10 +4,9 @@
 #include <cmath>
 #include <optional>
 
-#include "core/check.h"
+#include "core/context.h"
 #include "core/stamp.h"
 #include "huxi_stats.h"
-#include "huxs.h"
 #include "lanes/elementwise.h"
 #include "lanes/lanes_math.h"
 #include "lanes/lanes_sum.h"
@@ -68,22 +67,18 @@ HuxStatus init(R* pState, HuxAccuracyHint hint) {
 template <class R>
 HuxStatus initAlloc(R** ppState, HuxAccuracyHint hint) {
   if (HuxStatus s = pointers(ppState)) return s;
-  R* record = reinterpret_cast<R*>(huxsMalloc_8u(sizeof(R)));
-  if (!record) return huxStsNoMem;
-  *ppState = record;
-  return init(record, hint);
+  return create(ppState, sizeof(R), [=](R* record) { return init(record, hint); });
 }
 
-// The test of the kind, behind that for null.
 template <class R>
 auto kind(const R* pState) {
-  return [=] { return failUnless(pState->tag == R::kTag, huxStsBadContext); };
+  return recordOf(pState, R::kTag);
 }
 
 template <class R>
 HuxStatus freeRecord(R* pState) {
   if (HuxStatus s = check(pointers(pState), kind(pState))) return s;
-  huxsFree(pState);
+  retire(pState, true);
   return huxStsOk;
 }
 
