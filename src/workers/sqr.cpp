@@ -1,5 +1,4 @@
 // Sqr: the square, on integers as the product of two equal operands is scaled and saturated.
-#include "huxs.h"
 #include "workers/elementary.h"
 #include "workers/scaled.h"
 
@@ -34,8 +33,3 @@ template struct Sqr<Hux16s>;
 template struct Sqr<Hux32f>;
 
 }  // namespace hux
-
-HUX_EXPORT_VECTOR_SFS(Sqr, 8u)
-HUX_EXPORT_VECTOR_SFS(Sqr, 16u)
-HUX_EXPORT_VECTOR_SFS(Sqr, 16s)
-HUX_EXPORT_VECTOR(Sqr, 32f)

@@ -3,7 +3,6 @@
 #include <array>
 
 #include "huxcore.h"
-#include "huxs.h"
 #include "lanes/elementwise.h"
 #include "lanes/lanes_math.h"
 #include "lanes/round.h"
@@ -127,8 +126,3 @@ template struct Sqrt<Hux16s>;
 template struct Sqrt<Hux32f>;
 
 }  // namespace hux
-
-HUX_EXPORT_VECTOR_SFS(Sqrt, 8u)
-HUX_EXPORT_VECTOR_SFS(Sqrt, 16u)
-HUX_EXPORT_VECTOR_SFS(Sqrt, 16s)
-HUX_EXPORT_VECTOR(Sqrt, 32f)

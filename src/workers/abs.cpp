@@ -1,5 +1,4 @@
 // Abs: the absolute value; -32768 becomes 32767, and a float loses its sign whatever it is.
-#include "huxs.h"
 #include "lanes/elementwise.h"
 #include "workers/elementary.h"
 
@@ -31,6 +30,3 @@ template struct Abs<Hux16s>;
 template struct Abs<Hux32f>;
 
 }  // namespace hux
-
-HUX_EXPORT_VECTOR(Abs, 16s)
-HUX_EXPORT_VECTOR(Abs, 32f)

@@ -6,7 +6,6 @@
 #include <numbers>
 
 #include "huxcore.h"
-#include "huxs.h"
 #include "lanes/elementwise.h"
 #include "workers/elementary.h"
 #include "workers/nearest.h"
@@ -123,6 +122,3 @@ HuxStatus Exp<Hux32f>::operator()(const Element<Hux32f>* src, Element<Hux32f>* d
 }
 
 }  // namespace hux
-
-HUX_EXPORT_VECTOR_SFS(Exp, 16s)
-HUX_EXPORT_VECTOR(Exp, 32f)

@@ -6,7 +6,6 @@
 #include <limits>
 
 #include "huxcore.h"
-#include "huxs.h"
 #include "lanes/elementwise.h"
 #include "lanes/round.h"
 #include "workers/elementary.h"
@@ -110,5 +109,3 @@ template struct Ln<Hux16s>;
 template struct Ln<Hux32f>;
 
 }  // namespace hux
-
-HUX_EXPORT_VECTOR_SFS(Ln, 16s)
