@@ -1357,7 +1357,10 @@ HUX_API HuxStatus huxiComplement_32s_C1IR(Hux32s* pSrcDst, int srcDstStep, HuxiS
  * integers (x + (x >> 8) + 1) >> 8, on 16u with 16, premultiplied colours become
  *   Over  A + D((M - a) B)        In   D(b A)                      Out   D((M - b) A)
  *   ATop  D(b A) + D((M - a) B)   Xor  D((M - b) A) + D((M - a) B)   Plus  A + B
- * limited to M. Plain colours become the same of D(A a) and D(B b), and alpha the same of a and b, but b by ATop.
+ * limited to M. Plain colours become the same of D(A a) and D(B b), and alpha the same of a and b, but b by ATop. So
+ * plain colours come in plain and come out multiplied by the composed alpha; to compose the result further, take a
+ * premultiplied type (6..11) for it. Every result depends on its own pixel alone: pDst may be pSrc1 or pSrc2.
+ *   huxiAlphaComp_8u_AC4R(title, titleStep, frame, frameStep, frame, frameStep, size, huxAlphaOver);
  * Checks: null pointers, each plane's too (huxStsNullPtr), size (huxStsBadSize), alphaType outside 0..11
  * (huxStsBadAlphaType). Steps are not checked. */
 HUX_API HuxStatus huxiAlphaComp_8u_AC4R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step, Hux8u* pDst,

@@ -507,13 +507,17 @@ HUX_API HuxStatus huxiGetNormalizedCentralMoment_64s(const HuxiMomentRecord_64s*
 HUX_API HuxStatus huxiGetHuMoments_64f(const HuxiMomentRecord_64f* pState, int channel, Hux64f pHu[7]);
 HUX_API HuxStatus huxiGetHuMoments_64s(const HuxiMomentRecord_64s* pState, int channel, Hux64s pHu[7], int scaleFactor);
 
-/* HistogramRange: counts pixels into nLevels - 1 bins; bin k of a channel counts pLevels[k] <= p < pLevels[k + 1].
- * Levels need not ascend: each bin stands for its own interval, one whose ends do not ascend stays 0. A NaN is not
- * counted, but in every bin where the levels of any channel do not strictly ascend.
- * HistogramEven: the same with nLevels levels from lowerLevel to upperLevel, which it writes to pLevels; where the
- * range does not divide evenly, the first steps are wider by 1.
- * C3, AC4, C4: pHist and pLevels are arrays of pointers, one per channel, the other arguments arrays; alpha of AC4 is
- * not read.
+/* HistogramRange: counts pixels into nLevels - 1 bins; bin k of a channel counts pLevels[k] <= p < pLevels[k + 1]. The
+ * counters are set, not added to. The last level closes the last bin and is not in it: all 256 values of a byte take
+ * 257 levels, 0 to 256. Levels need not ascend: each bin stands for its own interval, and one whose ends do not ascend
+ * stays 0. A NaN is counted nowhere, except where the levels of some channel do not strictly ascend: there it is
+ * counted in every bin of every channel that it stands in.
+ * HistogramEven: the same with nLevels levels from lowerLevel to upperLevel, which it computes and writes to pLevels;
+ * where the range does not divide evenly, the first steps are wider by 1.
+ * C3, AC4, C4: pHist and pLevels are arrays of pointers, one per channel, the other arguments arrays; channels may
+ * share a list of levels (in HistogramEven only with equal bounds) but no counters. Alpha of AC4 is not read.
+ *   Hux32s counts[256], levels[257];
+ *   huxiHistogramEven_8u_C1R(image, step, size, counts, levels, 257, 0, 256);
  * Checks, C1: null pointers (huxStsNullPtr), size (huxStsBadSize), step (huxStsBadStep), nLevels below 2
  * (huxStsBadHistLevels). Other layouts: null pointers, then by channel pHist[c] or pLevels[c] null (huxStsNullPtr)
  * and nLevels[c] (huxStsBadHistLevels), then size, step. 16s, 16u: then huxStsNoMem, with pHist zeroed (and pLevels
@@ -587,17 +591,22 @@ HUX_API HuxStatus huxiHistogramEven_16u_C4R(const Hux16u* pSrc, int srcStep, Hux
                                             const Hux32s upperLevel[4]);
 
 /* Look-up tables of nLevels (level, value) pairs. A pixel with pLevels[k] <= p < pLevels[k + 1] takes pValues[k]
- * (LUT), the straight line from (pLevels[k], pValues[k]) to the next pair (LUT_Linear), or the third-order polynomial
- * through four neighbouring pairs (LUT_Cubic; with fewer than 4 levels in any channel the straight line in all). A
- * pixel below the first level, or at or above the last, stays as it is. Results are saturated; on integers a line or
- * polynomial is computed in double precision, 0.5 is added and the sum truncated towards zero. On 32f a NaN takes the
- * first segment's result. Levels are meant to ascend.
- * C3, AC4, C4: pValues and pLevels are arrays of pointers, one per channel, nLevels an array. AC4: alpha of the
- * destination stays.
+ * (LUT, which never reads the last value), the straight line from (pLevels[k], pValues[k]) to the next pair
+ * (LUT_Linear), or the third-order polynomial through four neighbouring pairs (LUT_Cubic; with fewer than 4 levels in
+ * any channel the straight line in all). A pixel below the first level, or at or above the last, stays as it is: for a
+ * table that covers all bytes the last level is 256, not 255. Results are saturated; on integers a line or polynomial
+ * is computed in double precision, 0.5 is added and the sum truncated towards zero. On 32f a NaN takes the first
+ * segment's result.
+ * On integers the first and the last level lie within the range of the type (the last may be one above it), and levels
+ * ascend; what levels that fall make of a pixel is not promised, though nothing outside the images is touched.
+ * C3, AC4, C4: pValues and pLevels are arrays of pointers, one per channel, nLevels an array; channels may share lists.
+ * AC4: alpha of the destination stays.
+ *   const Hux32s levels[] = {0, 64, 192, 256}, values[] = {0, 32, 224, 256};
+ *   huxiLUT_Linear_8u_C1R(image, step, curved, curvedStep, size, values, levels, 4);
  * Checks, C1: null pointers (huxStsNullPtr), size (huxStsBadSize), steps (huxStsBadStep), nLevels below 2
  * (huxStsBadLutLevels). Other layouts: null pointers, then by channel pValues[c] or pLevels[c] null (huxStsNullPtr)
- * and nLevels[c] (huxStsBadLutLevels), then size, steps. Then huxStsNoMem: 16s and 16u, and LUT_Linear and LUT_Cubic
- * on 32f. */
+ * and nLevels[c] (huxStsBadLutLevels), then size, steps. Then huxStsNoMem, with
+ * the destination untouched: 16s and 16u, and LUT_Linear and LUT_Cubic on 32f. */
 
 HUX_API HuxStatus huxiLUT_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
                                  const Hux32s* pValues, const Hux32s* pLevels, int nLevels);

@@ -20,7 +20,7 @@ struct ChannelOrder {
   int from[3];
 };
 
-HuxStatus channelNumbers(const int* dstOrder) {
+HuxStatus channelNumbers(const Element<int>* dstOrder) {
   for (int c = 0; c < 3; ++c)
     if (dstOrder[c] < 0 || dstOrder[c] > 2) return huxStsBadChannelOrder;
   return huxStsOk;
@@ -122,9 +122,10 @@ void swapRow(const Element<W>* src, Element<W>* dst, Index n, const Shuffles<L, 
 template <class L, class T>
 HuxStatus swapChannels(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi, const int* dstOrder) {
   if (HuxStatus s = check(pointers(pSrc, pDst, dstOrder), size(roi), steps(srcStep, dstStep),
-                          [&] { return channelNumbers(dstOrder); }))
+                          [&] { return channelNumbers(elements(dstOrder)); }))
     return s;
-  const ChannelOrder order = {{dstOrder[0], dstOrder[1], dstOrder[2]}};
+  const auto* from = elements(dstOrder);
+  const ChannelOrder order = {{from[0], from[1], from[2]}};
   const Shuffles<L, Word<T>> shuffles(order);
   const auto src = wordRows<L>(pSrc, srcStep);
   const auto dst = wordRows<L>(pDst, dstStep);

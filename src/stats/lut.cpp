@@ -128,7 +128,7 @@ void ownvi_LUT_FullMap(T* table, const Pairs<Hux32s>& pairs) {
     if constexpr (curve == Curve::kStairs) {
       for (Hux32s v = clamped(a, end); v < to; ++v) table[v - low] = saturated<T>(value);
     } else {
-      // The highest value is the first of a segment that lies above all values: deliberately so.
+      // The start is limited to the highest element, so a segment that lies above all elements still sets that one.
       const Hux32s from = clamped(a, end - 1);
       if (to - from == 1) {
         table[from - low] = saturated<T>(value);
@@ -165,7 +165,7 @@ void ownvi_LUT(const T* tables, const T* pSrc, int srcStep, T* pDst, int dstStep
 }
 
 // Stairs by search, where a table would cost more. Of levels that do not ascend it makes something else than the table
-// does: deliberately so.
+// does; the header promises a result for ascending levels only.
 template <class L, class T>
 void ownvi_LUT_BS(const ChannelPairs<L, T>& channels, const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi) {
   bool regular[L::processed];
@@ -345,7 +345,7 @@ HuxStatus mapFloats(const ChannelPairs<L, Hux32f>& channels, const Hux32f* pSrc,
 template <class L, class N>
 HuxStatus channelsSound(const N* const* pValues, const N* const* pLevels, const int* nLevels) {
   for (int c = 0; c < L::processed; ++c)
-    if (HuxStatus s = check(pointers(pValues[c], pLevels[c]), failUnless(nLevels[c] >= 2, huxStsBadLutLevels)))
+    if (HuxStatus s = check(pointers(pValues[c], pLevels[c]), failUnless(elements(nLevels)[c] >= 2, huxStsBadLutLevels)))
       return s;
   return huxStsOk;
 }
@@ -367,8 +367,8 @@ HuxStatus lut(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi, co
   ChannelPairs<L, T> channels;
   bool fewLevels = false;
   for (int c = 0; c < L::processed; ++c) {
-    channels[c] = {{elements(pLevels[c]), nLevels[c]}, elements(pValues[c])};
-    fewLevels |= nLevels[c] < 4;
+    channels[c] = {{elements(pLevels[c]), elements(nLevels)[c]}, elements(pValues[c])};
+    fewLevels |= elements(nLevels)[c] < 4;
   }
   const auto map = [&]<Curve drawn>(std::integral_constant<Curve, drawn>) {
     if constexpr (std::is_floating_point_v<T>)
@@ -385,7 +385,7 @@ HuxStatus lut(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi, co
 }  // namespace
 }  // namespace hux
 
-// The parameters that a function of one channel has, and as whose arguments they serve.
+// A function of one channel passes the addresses of its parameters where the others pass arrays.
 #define EXPORT_FORMS(name, curve, t, l, P, A)                                                                          \
   HuxStatus huxi##name##_##t##_##l##R(const Hux##t* pSrc, int srcStep, Hux##t* pDst, int dstStep, HuxiSize roiSize,    \
                                       HUX_LIST P) {                                                                    \

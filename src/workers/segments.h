@@ -31,8 +31,8 @@ struct Levels {
     return true;
   }
 
-  // The search by halves: the last level not above the element, if levels ascend, of an element that has one. Which
-  // half it is no branch could foretell.
+  // The search by halves: the last level not above the element, if levels ascend, of an element that has one. It
+  // selects and does not branch, since which half comes next cannot be predicted.
   template <class T>
   int byHalves(T element) const {
     const Element<Level>* base = at;

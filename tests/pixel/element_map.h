@@ -31,7 +31,7 @@ ElementMap elementMap(std::string name, int channels, int processed, Call call, 
             const D result = rule(value);
             std::memcpy(dst, &result, sizeof result);
           },
-          // Bit patterns; for floats, half of them values that are no bit pattern's luck.
+          // Any bit pattern; for floats, half of them ordinary values, which random patterns hardly ever are.
           [](Rng& rng, Image& image) {
             if constexpr (std::is_floating_point_v<S>)
               image.fill<S>(

@@ -1,4 +1,4 @@
-// What the tests of histograms and look-up tables share: images with an own list of levels for each channel.
+// What the tests of histograms and look-up tables share: images with a list of levels for each channel.
 #pragma once
 
 #include <array>
