@@ -144,11 +144,7 @@ HuxStatus alphaComp(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, 
 
 // Planar rows are gone through in pieces that stay in the cache, since the alphas serve all planes. The alpha plane
 // goes last: the destination may be one of the sources.
-template <class Body>
-void forPieces(Index n, Body body) {
-  constexpr Index piece = 4096;
-  for (Index x = 0; x < n; x += piece) body(x, std::min(piece, n - x));
-}
+constexpr Index kPiece = 4096;
 
 template <class, class T>
 HuxStatus alphaComp(const T* const* pSrc1, int src1Step, const T* const* pSrc2, int src2Step, T* const* pDst,
@@ -161,7 +157,7 @@ HuxStatus alphaComp(const T* const* pSrc1, int src1Step, const T* const* pSrc2, 
     using Operand = Stream<T, Fraction<T>::lanes>;
     forEachRow(roi, wordPlanes<4>(pSrc1, src1Step), wordPlanes<4>(pSrc2, src2Step), wordPlanes<4>(pDst, dstStep),
                [](auto A, auto B, auto dst, Index width) {
-                 forPieces(width, [&](Index x, Index n) {
+                 forPieces(width, kPiece, [&](Index x, Index n) {
                    const Operand a{A[3] + x}, b{B[3] + x};
                    for (int c = 0; c < 3; ++c)
                      applyRule<C1>(dst[c] + x, n, ComposeColours<C, T>{}, Operand{A[c] + x}, Operand{B[c] + x}, a, b);
@@ -230,7 +226,7 @@ template <class, bool InPlace, class T>
 HuxStatus alphaPremul(const T* const* pSrc, int srcStep, T* const* pDst, int dstStep, HuxiSize roi) {
   if (HuxStatus s = check(planePointers<4>(pSrc), planePointers<4>(pDst), size(roi))) return s;
   forEachRow(roi, wordPlanes<4>(pSrc, srcStep), wordPlanes<4>(pDst, dstStep), [](auto src, auto dst, Index width) {
-    forPieces(width, [&](Index x, Index n) {
+    forPieces(width, kPiece, [&](Index x, Index n) {
       for (int c = 0; c < 3; ++c) zipRow<C1>(src[c] + x, src[3] + x, dst[c] + x, n, PremulColours<T>{});
     });
   });

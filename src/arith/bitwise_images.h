@@ -7,17 +7,10 @@
 
 namespace hux {
 
-// Forms of three and four equal channels that stand for the one-channel form over a wider row ask for a size before
-// they do.
-template <class L>
-constexpr HuxStatus delegatedSize(HuxiSize roi) {
-  return L::channels == 1 || L::channels != L::processed ? HuxStatus(huxStsOk) : size(roi);
-}
-
 template <class L, class Rule, class T>
 HuxStatus zipImages(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep, HuxiSize roi) {
   if (HuxStatus s =
-          check(delegatedSize<L>(roi), pointers(pSrc1, pSrc2, pDst), steps(src1Step, src2Step, dstStep), size(roi)))
+          check(delegated<L>(size(roi)), pointers(pSrc1, pSrc2, pDst), steps(src1Step, src2Step, dstStep), size(roi)))
     return s;
   forEachRow(roi, rows<L>(pSrc1, src1Step), rows<L>(pSrc2, src2Step), rows<L>(pDst, dstStep),
              [](auto* a, auto* b, auto* d, Index n) { zipRow<L>(a, b, d, n, Rule{}); });

@@ -79,11 +79,10 @@ void markRow(Element<Hux8u>* dst, Index n, Mark mark) {
   } else {
     constexpr Index piece = 256;
     alignas(64) Hux8u marks[piece * L::channels];
-    for (Index i = 0; i < n; i += piece) {
-      const Index count = std::min(piece, n - i);
+    forPieces(n, piece, [&](Index i, Index count) {
       mark(elements(marks), i * L::channels, count * L::channels);
       joinMarks<L>(marks, dst + i, count);
-    }
+    });
   }
 }
 

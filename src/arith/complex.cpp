@@ -19,7 +19,7 @@ template <class L, class Op, class C>
 HuxStatus zipComplex(const C* pSrc1, int src1Step, const C* pSrc2, int src2Step, C* pDst, int dstStep, HuxiSize roi,
                      int scaleFactor = 0) {
   if (HuxStatus s =
-          check(delegatedWidth<L>(roi), pointers(pSrc1, pSrc2, pDst), size(roi), steps(src1Step, src2Step, dstStep)))
+          check(delegated<L>(width(roi)), pointers(pSrc1, pSrc2, pDst), size(roi), steps(src1Step, src2Step, dstStep)))
     return s;
   withComplexRule<Op, C>(scaleFactor, [&](auto rule) {
     forEachRow(roi, complexRows<L>(pSrc1, src1Step), complexRows<L>(pSrc2, src2Step), complexRows<L>(pDst, dstStep),
@@ -80,7 +80,7 @@ template <class L, class C>
 HuxStatus divide(const C* pSrc1, int src1Step, const C* pSrc2, int src2Step, C* pDst, int dstStep, HuxiSize roi,
                  int scaleFactor = 0) {
   if (HuxStatus s =
-          check(delegatedWidth<L>(roi), pointers(pSrc1, pSrc2, pDst), size(roi), steps(src1Step, src2Step, dstStep)))
+          check(delegated<L>(width(roi)), pointers(pSrc1, pSrc2, pDst), size(roi), steps(src1Step, src2Step, dstStep)))
     return s;
   const auto divisors = complexRows<L>(pSrc1, src1Step), src = complexRows<L>(pSrc2, src2Step);
   const auto dst = complexRows<L>(pDst, dstStep);

@@ -13,7 +13,7 @@ HuxStatus div(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDs
               int scaleFactor = 0) {
   constexpr bool fixedPoint = std::is_same_v<T, Hux16u>;
   if constexpr (fixedPoint) {
-    if (HuxStatus s = check(delegatedWidth<L>(roi), pointers(pSrc1, pSrc2, pDst), size(roi))) return s;
+    if (HuxStatus s = check(delegated<L>(width(roi)), pointers(pSrc1, pSrc2, pDst), size(roi))) return s;
   } else {
     if (HuxStatus s = check(pointers(pSrc1, pSrc2, pDst), size(roi), steps(src1Step, src2Step, dstStep))) return s;
   }

@@ -92,22 +92,29 @@ template <class L>
 HuxStatus divC(const Hux16u* pSrc, int srcStep, const Hux16u* pPixel, Hux16u* pDst, int dstStep, HuxiSize roi,
                int scaleFactor) {
   const Divisor<Hux16u> divisor{pPixel};
-  if constexpr (L::channels > 1)
-    if (HuxStatus s = check(pointers(pPixel), [&] { return divisor.nonZero<L>(); })) return s;
-  const Hux16u value = divisor[0];
-  if constexpr (L::channels == 1) {
-    if (scaleFactor == 0 && value == 1) return copyAll<L>(pSrc, srcStep, pDst, dstStep, roi);
-  } else if constexpr (L::channels == L::processed) {
-    bool equal = roi.width >= 1 && roi.width <= std::numeric_limits<int>::max() / L::channels;
-    for (int c = 1; c < L::channels; ++c) equal &= divisor[c] == value;
-    if (equal)
-      return divC<C1>(pSrc, srcStep, &value, pDst, dstStep, {roi.width * L::channels, roi.height}, scaleFactor);
-  }
-  if (scaleFactor > 16 && value != 0) {
-    if (HuxStatus s = pointers(pSrc)) return s;
-    return setAll<L>(Hux16u(0), pDst, dstStep, roi);
-  }
-  if (HuxStatus s = check(pointers(pSrc, pDst), size(roi), [&] { return divisor.nonZero<L>(); })) return s;
+  constexpr bool single = L::channels == 1;
+  const auto nonZero = [=] { return divisor.nonZero<L>(); };
+  const auto identity = [=] { return single && scaleFactor == 0 && divisor[0] == 1; };
+  const auto copy = [=] { return copyAll<L>(pSrc, srcStep, pDst, dstStep, roi); };
+  const auto equal = [=] {
+    bool all = !single && L::channels == L::processed && roi.width >= 1 &&
+               roi.width <= std::numeric_limits<int>::max() / L::channels;
+    for (int c = 1; c < L::channels && all; ++c) all = divisor[c] == divisor[0];
+    return all;
+  };
+  const auto asOneChannel = [=] {
+    const Hux16u one = divisor[0];
+    return divC<C1>(pSrc, srcStep, &one, pDst, dstStep, {roi.width * L::channels, roi.height}, scaleFactor);
+  };
+  const auto zero = [=] { return scaleFactor > 16 && divisor[0] != 0; };
+  const auto zeros = [=] {
+    return HuxStatus(check(pointers(pSrc), [=] { return setAll<L>(Hux16u(0), pDst, dstStep, roi); }));
+  };
+  if (const auto s = check(
+          single ? huxStsOk : pointers(pPixel), [=] { return single ? HuxStatus(huxStsOk) : nonZero(); },
+          answer(identity, copy), answer(equal, asOneChannel), answer(zero, zeros), pointers(pSrc, pDst), size(roi),
+          nonZero))
+    return s;
   withQuotient<Hux16u>(scaleFactor, [&](auto rule) {
     using Rule = decltype(rule);
     const Repeat<L, Hux16u, Rule::lanes> constants(elements(pPixel));

@@ -32,10 +32,10 @@ HuxStatus onImage(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi
     if (!row) return huxStsNoMem;
     return forEachRow(roi, src, dst, [&](auto* s, auto* d, Index n) {
       HuxStatus status = huxStsOk;
-      for (; n > 0; n -= width, s += width * L::channels, d += width * L::channels) {
-        status = firstOf(status, worker(s, row.get(), width * L::channels));
-        mapRow<L>(row.get(), d, width, Same<T>{});
-      }
+      forPieces(n, width, [&](Index x, Index count) {
+        status = firstOf(status, worker(s + x * L::channels, row.get(), count * L::channels));
+        mapRow<L>(row.get(), d + x * L::channels, count, Same<T>{});
+      });
       return status;
     });
   }

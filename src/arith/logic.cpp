@@ -26,9 +26,10 @@ struct Xor {
   V operator()(V a, V b) const { return a ^ b; }
 };
 
-template <class L>
-HuxStatus invert(HuxStatus ahead, const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roi) {
-  if (ahead) return ahead;
+// Only the form out of place tests the size first.
+template <class L, bool OutOfPlace>
+HuxStatus invert(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roi) {
+  if (HuxStatus s = OutOfPlace ? delegated<L>(size(roi)) : HuxStatus(huxStsOk)) return s;
   constexpr Hux8u ones[] = {255, 255, 255, 255};
   return zipConstant<L, Xor<Hux8u, laneCount<Hux8u>>>(pSrc, srcStep, ones, pDst, dstStep, roi);
 }
@@ -61,13 +62,12 @@ HuxStatus complement(Hux32s* pSrcDst, int srcDstStep, HuxiSize roi) {
 HUX_STAMP(EXPORT, (8u, 16u, 32s), (C1, C3, C4, AC4))
 #undef EXPORT
 
-// Only the form out of place tests the size first.
 #define EXPORT(t, l)                                                                                             \
   HuxStatus huxiNot_##t##_##l##R(const Hux##t* pSrc, int srcStep, Hux##t* pDst, int dstStep, HuxiSize roiSize) { \
-    return hux::invert<hux::l>(hux::delegatedSize<hux::l>(roiSize), pSrc, srcStep, pDst, dstStep, roiSize);      \
+    return hux::invert<hux::l, true>(pSrc, srcStep, pDst, dstStep, roiSize);                                     \
   }                                                                                                              \
   HuxStatus huxiNot_##t##_##l##IR(Hux##t* pSrcDst, int srcDstStep, HuxiSize roiSize) {                           \
-    return hux::invert<hux::l>(huxStsOk, pSrcDst, srcDstStep, pSrcDst, srcDstStep, roiSize);                     \
+    return hux::invert<hux::l, false>(pSrcDst, srcDstStep, pSrcDst, srcDstStep, roiSize);                        \
   }
 HUX_STAMP(EXPORT, (8u), (C1, C3, C4, AC4))
 

@@ -11,13 +11,6 @@ namespace hux {
 template <class T>
 inline constexpr bool kInteger = std::is_integral_v<T>;
 
-// Two-image forms of three and four equal channels stand for the one-channel form over a wider row, and ask for a width
-// before anything else.
-template <class L>
-HuxStatus delegatedWidth(HuxiSize roi) {
-  return failUnless(L::channels == 1 || L::channels != L::processed || roi.width >= 1, huxStsBadSize);
-}
-
 template <class L, class Op, class T>
 HuxStatus combine(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T* pDst, int dstStep, HuxiSize roi,
                   int scaleFactor = 0) {
@@ -26,17 +19,16 @@ HuxStatus combine(const T* pSrc1, int src1Step, const T* pSrc2, int src2Step, T*
                [&](auto* a, auto* b, auto* d, Index n) { zipRow<L>(a, b, d, n, rule); });
   };
   if constexpr (!kInteger<T>) {
-    if (HuxStatus s = check(delegatedWidth<L>(roi), pointers(pSrc1, pSrc2, pDst), size(roi))) return s;
+    if (HuxStatus s = check(delegated<L>(width(roi)), pointers(pSrc1, pSrc2, pDst), size(roi))) return s;
     zip(Float<Op, T>{});
   } else {
     const bool allZero = scaleFactor > Op::template allZeroAbove<T>;
+    const auto zeros = [=] { return setAll<L>(T(0), pDst, dstStep, roi); };
     // 16u takes the all-zero shortcut ahead of its checks: Set judges the destination, the size and the step.
-    if (std::is_same_v<T, Hux16u> && allZero) {
-      if (HuxStatus s = pointers(pSrc1, pSrc2)) return s;
-      return setAll<L>(T(0), pDst, dstStep, roi);
-    }
-    if (HuxStatus s = check(delegatedWidth<L>(roi), pointers(pSrc1, pSrc2, pDst), size(roi))) return s;
-    if (allZero) return setAll<L>(T(0), pDst, dstStep, roi);
+    if (const auto s = check(answer(std::is_same_v<T, Hux16u> && allZero,
+                                    [=] { return HuxStatus(check(pointers(pSrc1, pSrc2), zeros)); }),
+                             delegated<L>(width(roi)), pointers(pSrc1, pSrc2, pDst), size(roi), answer(allZero, zeros)))
+      return s;
     withRule<Op, T>(scaleFactor, zip);
   }
   return huxStsOk;
@@ -72,24 +64,36 @@ HuxStatus combineC(const T* pSrc, int srcStep, const T* pPixel, T* pDst, int dst
     run(Float<Op, T>{});
     return huxStsOk;
   } else {
+    const auto* value = elements(pPixel);
+    const auto equal = [=] {
+      return L::channels == 3 && value[1] == value[0] && value[2] == value[0] && roi.width >= 1 &&
+             roi.width <= std::numeric_limits<int>::max() / 3;
+    };
+    const auto asOneChannel = [=] {
+      const T one = *value;
+      return combineC<C1, Op>(pSrc, srcStep, &one, pDst, dstStep, {roi.width * 3, roi.height}, scaleFactor);
+    };
+    const auto identity = [=] {
+      return single && scaleFactor == 0 &&
+             ((Case::zeroIsIdentity && *value == 0) || (Case::oneIsIdentity && *value == 1));
+    };
+    const auto copy = [=] { return copyAll<L>(pSrc, srcStep, pDst, dstStep, roi); };
+    const auto zero = [=] {
+      return scaleFactor > Op::template allZeroAbove<T> || (single && Case::zeroIsZero && *value == 0);
+    };
+    const auto full = [=] {
+      return single && Case::saturates && *value != 0 && scaleFactor < (sizeof(T) == 1 ? -7 : -15);
+    };
+    const auto fill = [=](T with) { return [=] { return setAll<L>(with, pDst, dstStep, roi); }; };
+    const auto checks = [=](auto... ahead) {
+      return check(ahead..., pointers(pSrc, pPixel, pDst), size(roi), answer(zero, fill(T(0))),
+                   answer(full, fill(std::numeric_limits<T>::max())));
+    };
     if constexpr (early) {
-      if (HuxStatus s = pointers(pPixel)) return s;
-      const T value = *elements(pPixel);
-      if constexpr (L::channels == 3) {
-        const auto* v = elements(pPixel);
-        if (v[1] == value && v[2] == value && roi.width >= 1 && roi.width <= std::numeric_limits<int>::max() / 3)
-          return combineC<C1, Op>(pSrc, srcStep, &value, pDst, dstStep, HuxiSize{roi.width * 3, roi.height},
-                                  scaleFactor);
-      }
-      if (single && scaleFactor == 0 && ((Case::zeroIsIdentity && value == 0) || (Case::oneIsIdentity && value == 1)))
-        return copyAll<L>(pSrc, srcStep, pDst, dstStep, roi);
+      if (const auto s = checks(pointers(pPixel), answer(equal, asOneChannel), answer(identity, copy))) return s;
+    } else {
+      if (const auto s = checks()) return s;
     }
-    if (HuxStatus s = check(pointers(pSrc, pPixel, pDst), size(roi))) return s;
-    const T value = *elements(pPixel);
-    if (scaleFactor > Op::template allZeroAbove<T> || (single && Case::zeroIsZero && value == 0))
-      return setAll<L>(T(0), pDst, dstStep, roi);
-    if (single && Case::saturates && value != 0 && scaleFactor < (sizeof(T) == 1 ? -7 : -15))
-      return setAll<L>(std::numeric_limits<T>::max(), pDst, dstStep, roi);
     withRule<Op, T>(scaleFactor, run);
     return huxStsOk;
   }

@@ -8,6 +8,8 @@
 // each followed by the tests of the family's own arguments.
 #pragma once
 
+#include <type_traits>
+
 #include "core/layout.h"
 
 namespace hux {
@@ -32,6 +34,14 @@ constexpr HuxStatus size(HuxiSize roi) { return failUnless(roi.width >= 1 && roi
 
 // The size of a vector; the vector functions test it behind their pointers.
 constexpr HuxStatus length(int len) { return failUnless(len >= 1, huxStsBadSize); }
+
+// Forms of three and four equal channels that stand for the one-channel form over a wider row ask for their width, or
+// their size, ahead of everything else.
+constexpr HuxStatus width(HuxiSize roi) { return failUnless(roi.width >= 1, huxStsBadSize); }
+template <class L>
+constexpr HuxStatus delegated(HuxStatus test) {
+  return L::channels == 1 || L::channels != L::processed ? HuxStatus(huxStsOk) : test;
+}
 
 template <class... S>
 constexpr HuxStatus steps(S... step) {
@@ -64,11 +74,58 @@ constexpr auto evaluate(Test test) -> decltype(HuxStatus(test())) {
   return test();
 }
 
-template <class... Items>
-constexpr HuxStatus check(Items... items) {
+// An item that ends the call where it stands on the line: where `when` holds, what `then` returns is the result of the
+// call, success too. Both are asked only once the items before have passed; `when` may be a plain condition.
+template <class When, class Then>
+struct Early {
+  When when;
+  Then then;
+};
+template <class When, class Then>
+constexpr Early<When, Then> answer(When when, Then then) {
+  return {when, then};
+}
+
+// What a line with answers comes to: whether the call has ended, and with what.
+struct Verdict {
+  bool ended = false;
   HuxStatus status = huxStsOk;
-  static_cast<void>(((status = evaluate(items)) || ...));
-  return status;
+  explicit constexpr operator bool() const { return ended; }
+  constexpr operator HuxStatus() const { return status; }
+};
+
+namespace detail {
+
+template <class Item>
+constexpr bool isEarly = false;
+template <class When, class Then>
+constexpr bool isEarly<Early<When, Then>> = true;
+
+template <class Item>
+constexpr Verdict judge(Item item) {
+  if constexpr (isEarly<Item>) {
+    bool holds;
+    if constexpr (std::is_same_v<decltype(item.when), bool>)
+      holds = item.when;
+    else
+      holds = item.when();
+    return holds ? Verdict{true, item.then()} : Verdict{};
+  } else {
+    const HuxStatus status = evaluate(item);
+    return {status != huxStsOk, status};
+  }
+}
+
+}  // namespace detail
+
+template <class... Items>
+constexpr auto check(Items... items) {
+  Verdict verdict;
+  static_cast<void>(((verdict = detail::judge(items)).ended || ...));
+  if constexpr ((detail::isEarly<Items> || ...))
+    return verdict;
+  else
+    return verdict.status;
 }
 
 // The status of a sequence of row results: the first that is not success stands.

@@ -1,6 +1,7 @@
 // Images as rows: how a region is walked.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <tuple>
 #include <type_traits>
@@ -98,6 +99,12 @@ auto forEachRow(HuxiSize roi, Args&&... args) {
     return detail::walk(roi, std::get<last>(all), std::get<I>(all)...);
   }
   (std::make_index_sequence<last>{});
+}
+
+// Calls body(first, count) for each piece of n pixels, of `most` pixels but for the last: pieces that fit a buffer.
+template <class Body>
+void forPieces(Index n, Index most, Body body) {
+  for (Index first = 0; first < n; first += most) body(first, std::min(most, n - first));
 }
 
 }  // namespace hux

@@ -257,16 +257,15 @@ HuxStatus addNoise(T* pSrcDst, int step, HuxiSize roi, T first, T second, Hux32u
       // The colours are moved together, in blocks of even length, behind which a row goes on as if there were none.
       constexpr Index block = 256;
       Element<T> colours[block * L::processed];
-      using W = Element<Word<T>>;
-      W *const packed = reinterpret_cast<W*>(colours), *pixels = reinterpret_cast<W*>(row);
+      auto *const packed = elementsAs<Word<T>>(colours), *const image = elementsAs<Word<T>>(row);
       using Packed = Interleaved<L::processed>;
       using Pixels = Interleaved<L::channels>;
-      for (Index x = 0; x < roi.width; x += block, pixels += block * L::channels) {
-        const Index n = std::min(block, roi.width - x);
+      forPieces(roi.width, block, [&](Index x, Index n) {
+        auto* pixels = image + x * L::channels;
         moveRow<Word<T>, Pixels, Packed, L::processed>(pixels, packed, n);
         noise.add(colours, n * L::processed);
         moveRow<Word<T>, Packed, Pixels, L::processed>(packed, pixels, n);
-      }
+      });
     }
   }
   seed = noise.seed();

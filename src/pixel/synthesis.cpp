@@ -37,12 +37,11 @@ void drawRow(Element<T>* dst, Index width, Rule rule) {
   } else {
     constexpr Index block = 256;
     Element<T> values[block];
-    for (Index x = 0; x < width; x += block) {
-      const Index n = std::min(block, width - x);
+    forPieces(width, block, [&](Index x, Index n) {
       applyRule<C1>(values, n, rule, Columns<Rule::lanes>{x});
       moveRow<Word<T>, Repeated, Interleaved<L::channels>, L::processed>(elementsAs<const Word<T>>(values),
                                                                          elementsAs<Word<T>>(dst + x * L::channels), n);
-    }
+    });
   }
 }
 

@@ -31,7 +31,8 @@ Hux32s ownvi_HistogramEven(Element<Hux32s>* levels, int n, Hux32s lower, Hux32s 
 template <class L, class T, class Level>
 Histograms<L, T> histogramsOf(Hux32s* const* pHist, const Level* const* pLevels, const int* nLevels) {
   Histograms<L, T> histograms;
-  for (int c = 0; c < L::processed; ++c) histograms[c] = {{elements(pLevels[c]), elements(nLevels)[c]}, elements(pHist[c])};
+  for (int c = 0; c < L::processed; ++c)
+    histograms[c] = {{elements(pLevels[c]), elements(nLevels)[c]}, elements(pHist[c])};
   return histograms;
 }
 
@@ -39,7 +40,8 @@ Histograms<L, T> histogramsOf(Hux32s* const* pHist, const Level* const* pLevels,
 template <class L, class Level>
 HuxStatus channelsSound(Hux32s* const* pHist, const Level* const* pLevels, const int* nLevels) {
   for (int c = 0; c < L::processed; ++c)
-    if (HuxStatus s = check(pointers(pHist[c], pLevels[c]), failUnless(elements(nLevels)[c] >= 2, huxStsBadHistLevels))) return s;
+    if (HuxStatus s = check(pointers(pHist[c], pLevels[c]), failUnless(elements(nLevels)[c] >= 2, huxStsBadHistLevels)))
+      return s;
   return huxStsOk;
 }
 
@@ -69,7 +71,8 @@ HuxStatus even(const T* pSrc, int srcStep, HuxiSize roi, Hux32s* const* pHist, H
   if (HuxStatus s = checkArguments<L>(pSrc, srcStep, roi, pHist, pLevels, nLevels, lower, upper)) return s;
   bool divides = true;
   for (int c = 0; c < L::processed; ++c)
-    divides &= ownvi_HistogramEven(elements(pLevels[c]), elements(nLevels)[c], elements(lower)[c], elements(upper)[c]) == 0;
+    divides &=
+        ownvi_HistogramEven(elements(pLevels[c]), elements(nLevels)[c], elements(lower)[c], elements(upper)[c]) == 0;
   const auto src = rows<L>(pSrc, srcStep);
   const auto histograms = histogramsOf<L, T, Hux32s>(pHist, pLevels, nLevels);
   if (sizeof(T) == 1 || !divides) return count<L, T>(src, roi, histograms);

@@ -345,7 +345,8 @@ HuxStatus mapFloats(const ChannelPairs<L, Hux32f>& channels, const Hux32f* pSrc,
 template <class L, class N>
 HuxStatus channelsSound(const N* const* pValues, const N* const* pLevels, const int* nLevels) {
   for (int c = 0; c < L::processed; ++c)
-    if (HuxStatus s = check(pointers(pValues[c], pLevels[c]), failUnless(elements(nLevels)[c] >= 2, huxStsBadLutLevels)))
+    if (HuxStatus s =
+            check(pointers(pValues[c], pLevels[c]), failUnless(elements(nLevels)[c] >= 2, huxStsBadLutLevels)))
       return s;
   return huxStsOk;
 }

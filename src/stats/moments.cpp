@@ -213,15 +213,14 @@ void ownMoments_8u(const Hux8u* row, int x, int n, std::uint64_t (&sums)[4]) {
 template <class L, class T>
 void scan(Rows<const T> src, HuxiSize roi, Moments<Hux64s>* moments) {
   constexpr int kRoom = 4096;
-  const int most = L::channels == 1 ? roi.width : kRoom;
+  const Index most = L::channels == 1 ? roi.width : kRoom;
   for (int y = 0; y < roi.height; ++y)
     for (int c = 0; c < L::processed; ++c) {
       std::uint64_t sums[4] = {};
-      for (int x = 0, n; x < roi.width; x += n) {
+      forPieces(roi.width, most, [&](Index x, Index n) {
         T room[kRoom];
-        n = std::min(most, roi.width - x);
-        ownMoments_8u(channelOf<L>(src.row(y) + Index(x) * L::channels, c, room, n), x, n, sums);
-      }
+        ownMoments_8u(channelOf<L>(src.row(y) + x * L::channels, c, room, int(n)), int(x), int(n), sums);
+      });
       moments[c].add(sums, std::uint64_t(y));
     }
 }

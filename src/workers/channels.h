@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "core/layout.h"
+#include "core/rows.h"
 #include "huxi_pixel.h"
 
 namespace hux {
@@ -45,21 +45,20 @@ inline constexpr Index kChannelBlock = 1024;
 // Calls body(c, elements, count) for every processed channel of every piece of n pixels.
 template <class L, class T, class Body>
 void forChannels(const Element<T>* row, Index n, Body body) {
-  for (Index i = 0; i < n; i += kChannelBlock) {
-    const Index count = std::min(kChannelBlock, n - i);
+  forPieces(n, kChannelBlock, [&](Index i, Index count) {
     for (int c = 0; c < L::processed; ++c) {
       T room[kChannelBlock];
       const T* elements = channelOf<L>(row + i * L::channels, c, room, int(count));
       body(c, hux::elements(elements), count);
     }
-  }
+  });
 }
 
 // The same for rows that are written: body(c, elements, results, count). Source and destination may be one row.
 template <class L, class T, class Body>
 void mapChannels(const Element<T>* src, Element<T>* dst, Index n, Body body) {
   if constexpr (L::channels == 1) {
-    for (Index i = 0; i < n; i += kChannelBlock) body(0, src + i, dst + i, std::min(kChannelBlock, n - i));
+    forPieces(n, kChannelBlock, [&](Index i, Index count) { body(0, src + i, dst + i, count); });
   } else {
     forChannels<L>(src, n, [&](int c, const Element<T>* elements, Index count) {
       using Members = ChannelCopy<L::channels, sizeof(T)>;

@@ -1,11 +1,13 @@
 // The allocators: alignment, steps, refusals, and that nothing is lost when memory runs out.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstring>
 #include <limits>
 
 #include "core/scratch.h"
 #include "core/stamp.h"
+#include "huxcore.h"
 #include "huxi.h"
 #include "huxs.h"
 #include "support/failing_malloc.h"
@@ -114,6 +116,11 @@ TEST(Scratch, IsFreedAndTellsWhenThereIsNone) {
     EXPECT_FALSE(Scratch<Hux32f>(std::numeric_limits<Index>::max() / 2));
   }
   EXPECT_EQ(liveBlocks(), before);
+}
+
+TEST(Constants, AreInfinityAndQuietNaN) {
+  EXPECT_EQ(huxConstantOfINF_32f, std::numeric_limits<Hux32f>::infinity());
+  EXPECT_TRUE(std::isnan(huxConstantOfNAN_32f) && std::isnan(huxConstantOfNAN_64f));
 }
 
 TEST(Version, IsAConstantRecord) {
