@@ -6,6 +6,7 @@
 #include "lanes/elementwise.h"
 #include "lanes/lanes_math.h"
 #include "lanes/lanes_sum.h"
+#include "lanes/unrolled.h"
 #include "stats/moment_record.h"
 #include "workers/channels.h"
 
@@ -49,12 +50,6 @@ constexpr auto kShift = [] {
     }
   return shift;
 }();
-
-template <int N, class Body>
-void unrolled(Body body) {
-  [&]<int... I>(std::integer_sequence<int, I...>) { (body(std::integral_constant<int, I>{}), ...); }
-  (std::make_integer_sequence<int, N>{});
-}
 
 // The row sums of up to kExactColumns bytes. The totals T are kept in 32-bit lanes, each of the pixel pairs that lie
 // `lanes` pairs apart: going through the blocks from last to first, T(k, d) takes T(k, d - 1) before the new block is

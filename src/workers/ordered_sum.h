@@ -8,9 +8,7 @@
 #include "core/rows.h"
 #include "lanes/lanes.h"
 #include "lanes/lanes_math.h"
-
-// State that is captured by a lambda stays in registers only where the lambda is inlined.
-#define HUX_INLINE __attribute__((always_inline))
+#include "lanes/unrolled.h"
 
 namespace hux {
 
@@ -136,7 +134,7 @@ class OrderedSums {
   Index addLanes(Index elements, Bits (&magnitudes)[kPhases], const E*... operands) {
     Doubles sums[kVectors][2];
     Bits inexact[kPhases], least[kPhases], most[kPhases], limits[kPhases];
-    eachVector([&](auto k) HUX_INLINE { sums[k][0] = lanes_[k][0], sums[k][1] = lanes_[k][1]; });
+    unrolled<kVectors>([&](auto k) HUX_INLINE { sums[k][0] = lanes_[k][0], sums[k][1] = lanes_[k][1]; });
     std::copy_n(multiples_, kPhases, limits);
     const auto take = [&](auto k, auto load) HUX_INLINE {
       constexpr int phase = k % kPhases;
@@ -164,11 +162,11 @@ class OrderedSums {
       for (int p = 0; p < kPhases; ++p) inexact[p] = most[p] = Bits{}, least[p] = ~Bits{};
       Index i = from;
       for (; i + kGroup <= end; i += kGroup)
-        eachVector([&](auto k) HUX_INLINE {
+        unrolled<kVectors>([&](auto k) HUX_INLINE {
           take(k, [&](auto v, auto* p, int at) HUX_INLINE { return loadLanes<decltype(v)>(p + i + k * kLanes + at); });
         });
       if (i < end)
-        eachVector([&](auto k) HUX_INLINE {
+        unrolled<kVectors>([&](auto k) HUX_INLINE {
           const Index rest = i + k * kLanes, count = std::min<Index>(kLanes, end - rest);
           if (count > 0)
             take(k, [&](auto v, auto* p, int at) HUX_INLINE {
@@ -183,7 +181,7 @@ class OrderedSums {
         std::copy_n(most, kPhases, magnitudes);
         return from;
       }
-      eachVector([&](auto k) HUX_INLINE { lanes_[k][0] = sums[k][0], lanes_[k][1] = sums[k][1]; });
+      unrolled<kVectors>([&](auto k) HUX_INLINE { lanes_[k][0] = sums[k][0], lanes_[k][1] = sums[k][1]; });
       left_ -= end - from;
       pending_ = true;
       from = end;
@@ -235,12 +233,6 @@ class OrderedSums {
   }
   static Hux64f powerOf2(int exponent) { return std::bit_cast<Hux64f>(Hux64s(exponent + 1023) << 52); }
 
-  template <class Body>
-  HUX_INLINE static void eachVector(Body body) {
-    [&]<int... K>(std::integer_sequence<int, K...>) HUX_INLINE { (body(std::integral_constant<int, K>{}), ...); }
-    (std::make_integer_sequence<int, kVectors>{});
-  }
-
   Hux64f sums_[kSums] = {};
   Doubles lanes_[kVectors][2] = {};
   bool pending_ = false;
@@ -262,5 +254,3 @@ std::array<Hux64f, L::processed> orderedTotals(HuxiSize roi, const Rows<const T>
 }
 
 }  // namespace hux
-
-#undef HUX_INLINE

@@ -18,6 +18,7 @@
 #include "core/rows.h"
 #include "lanes/lanes.h"
 #include "lanes/lanes_sum.h"
+#include "lanes/unrolled.h"
 
 namespace hux {
 
@@ -50,11 +51,11 @@ class Reduction {
       }
       const Index whole = std::min<Index>(room_, (elements - i) / kGroup);
       for (Index step = 0; step < whole; ++step, i += kGroup)
-        eachVector(
+        unrolled<kVectors>(
             [&](auto k) { Fold::add(s[k], loadLanes<Lanes<T, Fold::lanes>>(operands + i + k * Fold::lanes)...); });
       room_ -= int(whole);
       if (room_ == 0 || i >= elements || elements - i >= kGroup) continue;
-      eachVector([&](auto k) {
+      unrolled<kVectors>([&](auto k) {
         const Index from = i + k * Fold::lanes, count = std::min<Index>(Fold::lanes, elements - from);
         if (count <= 0) return;
         if constexpr (requires { Fold::rest; })
@@ -84,12 +85,6 @@ class Reduction {
   using State = typename Fold::State;
   static constexpr bool kAlike = Fold::lanes % L::channels == 0;
   static constexpr int kVectors = L::channels == 3 ? 3 : 4, kGroup = kVectors * Fold::lanes;
-
-  template <class Body>
-  static void eachVector(Body body) {
-    [&]<int... K>(std::integer_sequence<int, K...>) { (body(std::integral_constant<int, K>{}), ...); }
-    (std::make_integer_sequence<int, kVectors>{});
-  }
 
   State states_[kVectors] = {};
   int room_ = Fold::steps;
