@@ -8,6 +8,77 @@ HUX_BEGIN_C
 
 /* ---- FFT ---- */
 
+/* The Fourier transform of N = 2^order numbers, order 0 to 30:
+ *
+ *   forward   X[k] = sum over n of x[n] * exp(-2 pi i n k / N)
+ *   inverse   x[n] = sum over k of X[k] * exp(+2 pi i n k / N)
+ *
+ * either of them times a factor that the flag of creation tells:
+ *
+ *   huxFftScaleFwd    forward times 1/N, inverse as it is
+ *   huxFftScaleInv    forward as it is, inverse times 1/N
+ *   huxFftScaleRoot   both times 1/sqrt(N)
+ *   huxFftScaleNone   neither
+ *
+ * All of it is computed in single precision. A real sequence of N numbers has a spectrum with X[N - k] the conjugate of
+ * X[k]; half of it tells all, and lies in N floats in one of two ways, where R(k) and I(k) are the parts of X[k]:
+ *
+ *   Perm   R(0) R(N/2) R(1) I(1) R(2) I(2) ... R(N/2-1) I(N/2-1)
+ *   Pack   R(0) R(1) I(1) R(2) I(2) ... R(N/2-1) I(N/2-1) R(N/2)
+ *
+ * N = 1 has just R(0), and N = 2 has R(0) R(1) in both.
+ *
+ * A context holds the tables of a length. It is made once, is only read from then on, and may serve any number of
+ * threads at once. hint is kept and has no effect. */
+typedef struct HuxsFFTRecord HuxsFFTRecord;
+
+/* InitAlloc: makes a context, complex (C) or real (R), to be freed by the Free of its kind.
+ * Checks: ppCtx null (huxStsNullPtr), order outside 0..30 (huxStsBadOrder), memory (huxStsNoMem; also where GetSize
+ * would have to report more than a signed 32-bit number holds), flag (huxStsBadFlag). On failure *ppCtx is as it was.
+ */
+HUX_API HuxStatus huxsFFTInitAlloc_C_32fc(HuxsFFTRecord** ppCtx, int order, int flag, HuxAccuracyHint hint);
+HUX_API HuxStatus huxsFFTInitAlloc_R_32f(HuxsFFTRecord** ppCtx, int order, int flag, HuxAccuracyHint hint);
+
+/* GetSize: the bytes of a context in memory of the caller's (pSize), of the memory that only its making needs
+ * (pInitBufSize), and of the work buffer of a transform (pBufSize); the latter two may be 0.
+ * Checks: order (huxStsBadOrder), null pointers (huxStsNullPtr), a size beyond a signed 32-bit number (huxStsNoMem).
+ * flag is not looked at. */
+HUX_API HuxStatus huxsFFTGetSize_C_32fc(int order, int flag, HuxAccuracyHint hint, int* pSize, int* pInitBufSize,
+                                        int* pBufSize);
+HUX_API HuxStatus huxsFFTGetSize_R_32f(int order, int flag, HuxAccuracyHint hint, int* pSize, int* pInitBufSize,
+                                       int* pBufSize);
+
+/* Init: makes a context in pMem, of the size that GetSize reports and at any address, and sets *ppCtx to it. pInitBuf
+ * is no longer needed afterwards; up to order 3 it is not looked at and may be null. The context lives as long as pMem.
+ * Checks: ppCtx null (huxStsNullPtr), order (huxStsBadOrder), pMem null (huxStsNullPtr), flag (huxStsBadFlag), pInitBuf
+ * null from order 4 on (huxStsNullPtr), a size that GetSize refuses (huxStsNoMem). */
+HUX_API HuxStatus huxsFFTInit_C_32fc(HuxsFFTRecord** ppCtx, int order, int flag, HuxAccuracyHint hint, Hux8u* pMem,
+                                     Hux8u* pInitBuf);
+HUX_API HuxStatus huxsFFTInit_R_32f(HuxsFFTRecord** ppCtx, int order, int flag, HuxAccuracyHint hint, Hux8u* pMem,
+                                    Hux8u* pInitBuf);
+
+/* Free: ends a context, and frees its memory if it came from InitAlloc.
+ * Checks: null pointer (huxStsNullPtr), a context of another kind (huxStsBadContext). */
+HUX_API HuxStatus huxsFFTFree_C_32fc(HuxsFFTRecord* pCtx);
+HUX_API HuxStatus huxsFFTFree_R_32f(HuxsFFTRecord* pCtx);
+
+/* GetBufSize: the bytes of the work buffer of a transform; 0 up to a complex order of 12 (order 13 of a real context).
+ * Checks: null pointers (huxStsNullPtr), a context of another kind (huxStsBadContext). */
+HUX_API HuxStatus huxsFFTGetBufSize_C_32fc(const HuxsFFTRecord* pCtx, int* pSize);
+HUX_API HuxStatus huxsFFTGetBufSize_R_32f(const HuxsFFTRecord* pCtx, int* pSize);
+
+/* The transforms. Fwd_RToPack and Fwd_RToPerm take N real numbers to a spectrum, Inv_PackToR and Inv_PermToR take one
+ * back. pSrc and pDst hold N elements each, at any address; they may be equal and must not overlap otherwise. pBuffer
+ * is work memory at any address, as large as GetBufSize tells, for this call alone; when it is null the call allocates
+ * its own where it needs any. Checks: pCtx null (huxStsNullPtr), a context of another kind (huxStsBadContext), pSrc or
+ * pDst null (huxStsNullPtr), memory (huxStsNoMem). */
+HUX_API HuxStatus huxsFFTFwd_CToC_32fc(const Hux32fc* pSrc, Hux32fc* pDst, const HuxsFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxsFFTInv_CToC_32fc(const Hux32fc* pSrc, Hux32fc* pDst, const HuxsFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxsFFTFwd_RToPack_32f(const Hux32f* pSrc, Hux32f* pDst, const HuxsFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxsFFTFwd_RToPerm_32f(const Hux32f* pSrc, Hux32f* pDst, const HuxsFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxsFFTInv_PackToR_32f(const Hux32f* pSrc, Hux32f* pDst, const HuxsFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxsFFTInv_PermToR_32f(const Hux32f* pSrc, Hux32f* pDst, const HuxsFFTRecord* pCtx, Hux8u* pBuffer);
+
 /* ---- DFT ---- */
 
 /* ---- DCT ---- */
