@@ -81,6 +81,41 @@ HUX_API HuxStatus huxsFFTInv_PermToR_32f(const Hux32f* pSrc, Hux32f* pDst, const
 
 /* ---- DFT ---- */
 
+/* The Fourier transform of any number of elements; sums, signs and flags are those of the FFT above, with the length
+ * for N. Powers of two give the very values of the FFT. How others are computed depends on the length: by mixed radix
+ * where its factors are all below 151, else by a convolution (from 151 on, real odd lengths from 181 on), else as the
+ * sum stands. A real spectrum is in the order Pack:
+ *
+ *   even N   R(0) R(1) I(1) R(2) I(2) ... R(N/2-1) I(N/2-1) R(N/2)
+ *   odd N    R(0) R(1) I(1) R(2) I(2) ... R((N-1)/2) I((N-1)/2)
+ *
+ * A context is only read once it is made, and may serve any number of threads at once. hint is kept and has no
+ * effect. */
+typedef struct HuxsDFTRecord HuxsDFTRecord;
+
+/* InitAlloc: makes a context, complex (C) or real (R), to be freed by the Free of its kind.
+ * Checks: ppCtx null (huxStsNullPtr), length below 1 (huxStsBadSize), memory (huxStsNoMem; also where GetBufSize would
+ * have to report more than a signed 32-bit number holds), flag (huxStsBadFlag). On failure *ppCtx is as it was. */
+HUX_API HuxStatus huxsDFTInitAlloc_C_32fc(HuxsDFTRecord** ppCtx, int length, int flag, HuxAccuracyHint hint);
+HUX_API HuxStatus huxsDFTInitAlloc_R_32f(HuxsDFTRecord** ppCtx, int length, int flag, HuxAccuracyHint hint);
+
+/* Free: ends a context. GetBufSize: the bytes of the work buffer of a transform, which may be 0.
+ * Checks: null pointers (huxStsNullPtr), a context of another kind (huxStsBadContext). */
+HUX_API HuxStatus huxsDFTFree_C_32fc(HuxsDFTRecord* pCtx);
+HUX_API HuxStatus huxsDFTFree_R_32f(HuxsDFTRecord* pCtx);
+HUX_API HuxStatus huxsDFTGetBufSize_C_32fc(const HuxsDFTRecord* pCtx, int* pSize);
+HUX_API HuxStatus huxsDFTGetBufSize_R_32f(const HuxsDFTRecord* pCtx, int* pSize);
+
+/* The transforms. pSrc and pDst hold as many elements as the length tells, at any address; they may be equal and must
+ * not overlap otherwise. pBuffer is work memory at any address, as large as GetBufSize tells, for this call alone; when
+ * it is null the call allocates its own where it needs any.
+ * Checks: pCtx null (huxStsNullPtr), a context of another kind (huxStsBadContext), pSrc or pDst null (huxStsNullPtr),
+ * memory (huxStsNoMem). */
+HUX_API HuxStatus huxsDFTFwd_CToC_32fc(const Hux32fc* pSrc, Hux32fc* pDst, const HuxsDFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxsDFTInv_CToC_32fc(const Hux32fc* pSrc, Hux32fc* pDst, const HuxsDFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxsDFTFwd_RToPack_32f(const Hux32f* pSrc, Hux32f* pDst, const HuxsDFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxsDFTInv_PackToR_32f(const Hux32f* pSrc, Hux32f* pDst, const HuxsDFTRecord* pCtx, Hux8u* pBuffer);
+
 /* ---- DCT ---- */
 
 HUX_END_C

@@ -73,6 +73,7 @@ TEST(Fft, AgreesWithDoublePrecision) {
   Rng rng(1);
   for (const Form& f : kForms)
     for (int order = 0; order <= 21; ++order) {
+      if (order > 16 && &f != &kForms[order % 6]) continue;
       SCOPED_TRACE(testing::Message() << f.name << " order " << order);
       const std::size_t n = std::size_t(1) << order;
       const int parts = f.kind == &kComplex ? 2 : 1;
