@@ -2,10 +2,13 @@
 //
 // A rule is a callable from operand lanes to result lanes, with `static constexpr int lanes`, the number of elements
 // that it takes at a time. Operands are rows (Stream) or constants per channel (Repeat). A rule sees each element once;
-// at the end of a row, lanes behind the last element hold the operand's `rest` and their results are dropped.
+// at the end of a row, lanes behind the last element hold the operand's `rest` and their results are dropped. Results
+// in lanes of integers wider than the destination's are limited to its range, several vectors at a time where that
+// costs less.
 #pragma once
 
 #include <algorithm>
+#include <array>
 
 #include "core/rows.h"
 #include "lanes/lanes.h"
@@ -43,18 +46,27 @@ template <int colours, class D, class Rule, class... Operands>
 Rule applyToElements(Element<D>* dst, Index elements, Rule rule, Operands... operands) {
   constexpr int lanes = Rule::lanes;
   constexpr int period = std::max({1, Operands::period...});
+  using Result = decltype(rule(operands.load(0, 0)...));
+  constexpr int joined = period == 1 ? kJoined<D, Result> : 1;
+  const auto put = [&](Index at, auto v) {
+    if constexpr (colours == 4)
+      storeLanes(dst + at, v);
+    else
+      storeColours<colours>(dst + at, v);
+  };
   Index i = 0;
-  for (; i + period * lanes <= elements; i += period * lanes)
-    for (int k = 0; k < period; ++k) {
-      const Lanes<D, lanes> v = rule(operands.load(i + k * lanes, k)...);
-      if constexpr (colours == 4)
-        storeLanes(dst + i + k * lanes, v);
-      else
-        storeColours<colours>(dst + i + k * lanes, v);
+  if constexpr (joined > 1)
+    for (; i + joined * lanes <= elements; i += joined * lanes) {
+      std::array<Result, joined> results;
+      for (int k = 0; k < joined; ++k) results[std::size_t(k)] = rule(operands.load(i + k * lanes, 0)...);
+      put(i, saturate<D>(results));
     }
+  for (; i + period * lanes <= elements; i += period * lanes)
+    for (int k = 0; k < period; ++k)
+      put(i + k * lanes, Lanes<D, lanes>(saturate<D>(rule(operands.load(i + k * lanes, k)...))));
   for (int k = 0; i < elements; ++k, i += lanes) {
     const int count = int(std::min<Index>(lanes, elements - i));
-    storeColours<colours>(dst + i, Lanes<D, lanes>(rule(operands.load(i, k, count)...)), count);
+    storeColours<colours>(dst + i, Lanes<D, lanes>(saturate<D>(rule(operands.load(i, k, count)...))), count);
   }
   return rule;
 }

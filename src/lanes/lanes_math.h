@@ -52,6 +52,20 @@ bool anyClear(V v, V mask) {
   return any((v & mask) == 0);
 }
 
+// Whether some lane is 0; whether some lane is above a limit; whether all lanes are below or above 0, which NaN is not.
+template <class V>
+bool anyZero(V v) {
+  return any(v == 0);
+}
+template <class V>
+bool anyAbove(V v, V limit) {
+  return any(v > limit);
+}
+template <class V>
+bool allNonZero(V v) {
+  return !any(~((v < 0) | (v > 0)));
+}
+
 // Stores the lanes in which the mask, a comparison's result, holds one behind the other and returns their number. What
 // lies behind them is overwritten, up to the length of a vector.
 template <class V, class M>
@@ -65,10 +79,23 @@ int storeWhere(void* p, V v, M mask) {
   return n;
 }
 
-// 64-bit integers as doubles.
+// 64-bit integers whose low halves are 0, as doubles that count kHighUnit each.
+#if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512DQ__)
+inline constexpr Hux64f kHighUnit = 1;
+inline Lanes<Hux64f, 8> highToDouble(Lanes<std::uint64_t, 8> v) { return _mm512_maskz_cvtepi64_pd(~0, __m512i(v)); }
+#else
+inline constexpr Hux64f kHighUnit = 0x1p32;
 template <class V>
-auto toDouble(V v) {
-  return convert<Hux64f>(v);
+auto highToDouble(V v) {
+  return convert<Hux64f>(convert<Hux32s>(v >> LaneType<V>(32)));
+}
+#endif
+
+// The product of the lower halves of 64-bit lanes, as signed numbers.
+template <class V>
+V mulLow(V a, V b) {
+  const auto low = [](V v) { return convert<Hux64s>(convert<Hux32s>(v)); };
+  return low(a) * low(b);
 }
 
 // The first and the second half of the lanes, and lanes of two halves.
@@ -85,6 +112,14 @@ auto joined(V first, V second) {
   (std::make_index_sequence<2 * lanesIn<V>>{});
 }
 
+// Whether a table of 16 doubles is held in registers, where a look-up is one instruction. Elsewhere it costs more than
+// some arithmetic in its place.
+#if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512DQ__)
+inline constexpr bool kTablesInRegisters = true;
+#else
+inline constexpr bool kTablesInRegisters = false;
+#endif
+
 // A table of Size entries, a power of two, addressed by the low bits of unsigned lanes as wide as an entry.
 template <class T, int Size>
 struct LaneTable {
@@ -100,6 +135,7 @@ struct LaneTable {
 
 #if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512DQ__)
 inline Lanes<Hux32f, 16> squareRoot(Lanes<Hux32f, 16> v) { return _mm512_maskz_sqrt_ps(~0, v); }
+inline Lanes<Hux64f, 8> squareRoot(Lanes<Hux64f, 8> v) { return _mm512_maskz_sqrt_pd(~0, v); }
 inline Lanes<Hux64f, 8> mulAdd(Lanes<Hux64f, 8> a, Lanes<Hux64f, 8> b, Lanes<Hux64f, 8> c) {
   return _mm512_fmadd_pd(a, b, c);
 }
@@ -112,7 +148,24 @@ inline bool anyClear(Lanes<std::uint64_t, 8> v, Lanes<std::uint64_t, 8> mask) {
 inline bool anyBelow(Lanes<Hux32u, 8> a, Lanes<Hux32u, 8> b) {
   return _mm256_cmplt_epu32_mask(__m256i(a), __m256i(b)) != 0;
 }
-inline Lanes<Hux64f, 8> toDouble(Lanes<Hux64s, 8> v) { return _mm512_maskz_cvtepi64_pd(~0, __m512i(v)); }
+inline bool anyBelow(Lanes<Hux32u, 16> a, Lanes<Hux32u, 16> b) {
+  return _mm512_cmplt_epu32_mask(__m512i(a), __m512i(b)) != 0;
+}
+inline Lanes<Hux64s, 8> mulLow(Lanes<Hux64s, 8> a, Lanes<Hux64s, 8> b) {
+  return Lanes<Hux64s, 8>(_mm512_maskz_mul_epi32(__mmask8(-1), __m512i(a), __m512i(b)));
+}
+inline bool anyClear(Lanes<Hux32u, 16> v, Lanes<Hux32u, 16> mask) {
+  return _mm512_testn_epi32_mask(__m512i(v), __m512i(mask)) != 0;
+}
+inline bool anyZero(Lanes<Hux8u, 16> v) { return _mm_testn_epi8_mask(__m128i(v), __m128i(v)) != 0; }
+inline bool anyZero(Lanes<Hux16u, 16> v) { return _mm256_testn_epi16_mask(__m256i(v), __m256i(v)) != 0; }
+inline bool anyAbove(Lanes<Hux16u, 16> v, Lanes<Hux16u, 16> limit) {
+  return _mm256_cmpgt_epu16_mask(__m256i(v), __m256i(limit)) != 0;
+}
+inline bool allNonZero(Lanes<Hux32f, 16> v) {
+  const Lanes<Hux32f, 16> zero{};
+  return _mm512_cmp_ps_mask(v, zero, _CMP_NEQ_OQ) == 0xFFFF;
+}
 template <>
 inline int storeWhere(void* p, Lanes<std::uint64_t, 8> v, Lanes<Hux64s, 8> mask) {
   const __mmask8 chosen = _mm512_movepi64_mask(__m512i(mask));
@@ -156,7 +209,40 @@ struct LaneTable<Hux8u, 256> {
 };
 #endif
 #elif defined(__AVX2__)
+// A table of 256 bytes, looked up by shuffles of 16. Vector k of the table holds what its 16 bytes differ by from the
+// 16 before them; an index, lowered by 16 again and again, selects from all up to its own, and then is negative, which
+// selects 0. The upper half of the table is reached by indices with the top bit inverted.
+struct ByteShuffles {
+  using V = Lanes<Hux8u, 32>;
+  V parts[16];
+  explicit ByteShuffles(const Hux8u* table) {
+    for (int k = 0; k < 16; ++k) {
+      __m128i part = _mm_loadu_si128(reinterpret_cast<const __m128i*>(table) + k);
+      if (k % 8 != 0) part = _mm_xor_si128(part, _mm_loadu_si128(reinterpret_cast<const __m128i*>(table) + k - 1));
+      parts[k] = V(_mm256_broadcastsi128_si256(part));
+    }
+  }
+  template <std::size_t N>
+  std::array<V, N> operator()(std::array<V, N> index) const {
+    std::array<V, N> result{};
+    for (int half = 0; half < 2; ++half) {
+      std::array<V, N> at = index;
+      for (int k = 0; k < 8; ++k)
+        for (std::size_t i = 0; i < N; ++i) {
+          result[i] ^= V(_mm256_shuffle_epi8(__m256i(parts[8 * half + k]), __m256i(at[i])));
+          at[i] = V(_mm256_subs_epi8(__m256i(at[i]), _mm256_set1_epi8(16)));
+        }
+      for (V& v : index) v ^= 0x80;
+    }
+    return result;
+  }
+};
+
 inline Lanes<Hux32f, 8> squareRoot(Lanes<Hux32f, 8> v) { return _mm256_sqrt_ps(v); }
+inline Lanes<Hux64f, 4> squareRoot(Lanes<Hux64f, 4> v) { return _mm256_sqrt_pd(v); }
+inline Lanes<Hux64s, 4> mulLow(Lanes<Hux64s, 4> a, Lanes<Hux64s, 4> b) {
+  return Lanes<Hux64s, 4>(_mm256_mul_epi32(__m256i(a), __m256i(b)));
+}
 #if defined(__FMA__)
 inline Lanes<Hux64f, 4> mulAdd(Lanes<Hux64f, 4> a, Lanes<Hux64f, 4> b, Lanes<Hux64f, 4> c) {
   return _mm256_fmadd_pd(a, b, c);
@@ -167,6 +253,21 @@ inline Lanes<Hux32f, 8> mulAdd(Lanes<Hux32f, 8> a, Lanes<Hux32f, 8> b, Lanes<Hux
 #endif
 #elif defined(__SSE2__)
 inline Lanes<Hux32f, 4> squareRoot(Lanes<Hux32f, 4> v) { return _mm_sqrt_ps(v); }
+inline Lanes<Hux64f, 2> squareRoot(Lanes<Hux64f, 2> v) { return _mm_sqrt_pd(v); }
+#if defined(__SSE4_1__)
+inline Lanes<Hux64s, 2> mulLow(Lanes<Hux64s, 2> a, Lanes<Hux64s, 2> b) {
+  return Lanes<Hux64s, 2>(_mm_mul_epi32(__m128i(a), __m128i(b)));
+}
+#endif
+#elif defined(__aarch64__)
+inline Lanes<Hux32f, 4> squareRoot(Lanes<Hux32f, 4> v) { return Lanes<Hux32f, 4>(vsqrtq_f32(float32x4_t(v))); }
+inline Lanes<Hux64f, 2> squareRoot(Lanes<Hux64f, 2> v) { return Lanes<Hux64f, 2>(vsqrtq_f64(float64x2_t(v))); }
+inline Lanes<Hux64f, 2> mulAdd(Lanes<Hux64f, 2> a, Lanes<Hux64f, 2> b, Lanes<Hux64f, 2> c) {
+  return Lanes<Hux64f, 2>(vfmaq_f64(float64x2_t(c), float64x2_t(a), float64x2_t(b)));
+}
+inline Lanes<Hux32f, 4> mulAdd(Lanes<Hux32f, 4> a, Lanes<Hux32f, 4> b, Lanes<Hux32f, 4> c) {
+  return Lanes<Hux32f, 4>(vfmaq_f32(float32x4_t(c), float32x4_t(a), float32x4_t(b)));
+}
 #endif
 
 }  // namespace hux

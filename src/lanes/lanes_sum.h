@@ -27,12 +27,15 @@ auto sumsOfEight(V v) {
   return (pairs * 0x0001000100010001) >> 48;
 }
 
-// The products of signed 16-bit lanes, added up in neighbouring pairs.
+// The products of signed 16-bit lanes, added up in neighbouring pairs. The one sum that does not fit, that of four
+// lowest numbers, wraps.
 template <class V>
 auto pairProducts(V a, V b) {
   using Sums = Lanes<Hux32s, lanesIn<V> / 2>;
-  const auto low = [](V v) { return bitsAs<Sums>(v) << 16 >> 16; };
-  return low(a) * low(b) + (bitsAs<Sums>(a) >> 16) * (bitsAs<Sums>(b) >> 16);
+  using Wrapping = Lanes<Hux32u, lanesIn<V> / 2>;
+  const auto low = [](V v) { return Sums(bitsAs<Wrapping>(v) << 16) >> 16; };
+  const auto high = [](V v) { return bitsAs<Sums>(v) >> 16; };
+  return Sums(Wrapping(low(a) * low(b)) + Wrapping(high(a) * high(b)));
 }
 
 #define HUX_LANES_SUM(Bytes, Register, prefix)                                          \

@@ -1,6 +1,7 @@
 // The rounding idioms of the library, once each. They work on lanes; `V` is a vector of lanes.
 #pragma once
 
+#include <array>
 #include <cmath>
 
 #include "lanes/lanes.h"
@@ -33,6 +34,52 @@ auto truncateHalfEven(V valuePlusHalf) {
   using I = std::conditional_t<sizeof(LaneType<V>) == 4, Hux32s, Hux64s>;
   const auto i = convert<I>(valuePlusHalf);
   return i - (i & I(1) & (convert<LaneType<V>>(i) == valuePlusHalf));
+}
+
+// The nearest 32-bit integer, ties to even, and the one towards zero. NaN and what is out of range give the lowest
+// integer.
+template <bool Near, class V>
+auto integersOf(V v) {
+  using F = LaneType<V>;
+  using I [[maybe_unused]] = Lanes<Hux32s, lanesIn<V>>;
+#if defined(__AVX512BW__) && defined(__AVX512VL__)
+  if constexpr (std::is_same_v<V, Lanes<Hux32f, 16>>)
+    return I(Near ? _mm512_maskz_cvtps_epi32(~0, v) : _mm512_maskz_cvttps_epi32(~0, v));
+  else if constexpr (std::is_same_v<V, Lanes<Hux64f, 8>>)
+    return I(Near ? _mm512_maskz_cvtpd_epi32(~0, v) : _mm512_maskz_cvttpd_epi32(~0, v));
+  else
+#endif
+#if defined(__AVX2__)
+      if constexpr (std::is_same_v<V, Lanes<Hux32f, 8>>)
+    return I(Near ? _mm256_cvtps_epi32(v) : _mm256_cvttps_epi32(v));
+  else if constexpr (std::is_same_v<V, Lanes<Hux64f, 4>>)
+    return I(Near ? _mm256_cvtpd_epi32(v) : _mm256_cvttpd_epi32(v));
+  else
+#endif
+#if defined(__SSE2__)
+      if constexpr (std::is_same_v<V, Lanes<Hux32f, 4>>)
+    return I(Near ? _mm_cvtps_epi32(v) : _mm_cvttps_epi32(v));
+  else if constexpr (std::is_same_v<V, Lanes<Hux64f, 2>>)
+    return bitsAs<std::array<I, 2>>(Near ? _mm_cvtpd_epi32(v) : _mm_cvttpd_epi32(v))[0];
+  else
+#endif
+  {
+    // Between +-2^31 the sum with 1.5 * 2^52 has the integer for its low bits; towards zero is what the language does.
+    const auto isInside = (v >= F(-0x1p31)) & (v < F(0x1p31));
+    const V inside = isInside ? v : splat<V>(F(-0x1p31));
+    if constexpr (Near)
+      return convert<Hux32s>(bitsAs<Lanes<Hux64s, lanesIn<V>>>(convert<Hux64f>(inside) + 0x1.8p52));
+    else
+      return convert<Hux32s>(inside);
+  }
+}
+template <class V>
+auto nearestInteger(V v) {
+  return integersOf<true>(v);
+}
+template <class V>
+auto truncated(V v) {
+  return integersOf<false>(v);
 }
 
 // Nearest integer, ties to even, of lanes of at most 2^22 (2^51 in double) either way, as the lowest 22 (51) bits of

@@ -34,7 +34,7 @@ struct Quick {
   auto operator()(Lanes<S, lanes> v) const {
     using T = LaneType<I>;
     const I w = std::is_signed_v<S> ? I(v) : I(v ^ S(S(1) << (bits - 1)));
-    return saturate<Hux8u>(U(((w - (w >> T(8))) >> T(bits - 8)) + T(128)));
+    return lowerHalf(U(((w - (w >> T(8))) >> T(bits - 8)) + T(128)));
   }
 };
 
@@ -51,7 +51,7 @@ struct Accurate {
   auto operator()(Lanes<S, lanes> v) const {
     using V = Lanes<U, lanes>;
     const V t = lesser(V(v) ^ bottom, splat<V>(U(~half))) + half;
-    return saturate<Hux8u>((t - (t >> U(8))) >> U(bits - 8));
+    return lowerHalf((t - (t >> U(8))) >> U(bits - 8));
   }
 };
 
@@ -66,12 +66,12 @@ struct FromRange {
   Hux32f vMax, factor, offset;
   FromRange(Hux32f vMin, Hux32f vMax)
       : vMax(vMax), factor(255.0f / (vMax - vMin)), offset(0.5f + (0.0f - factor) * vMin) {}
-  bool needsGuard() const { return (*this)(splat<V>(vMax))[0] != 255; }
+  bool needsGuard() const { return (*this)(splat<V>(vMax))[0] < 255; }
   auto operator()(V v) const {
     const V top = splat<V>(255.5f);
-    V t = lesser(greater(v * factor + offset, V{}), top);
+    V t = lesser(top, v * factor + offset);  // keeps NaN, whose integer is the lowest
     if constexpr (Guarded) t = v >= splat<V>(vMax) ? top : t;
-    return convert<Hux8u>(nearestEvenBits(addBeside(t, splat<V>(-0.5f))));
+    return nearestInteger(t - 0.5f);
   }
 };
 

@@ -21,17 +21,8 @@ struct ScaledTo32s {
   static constexpr int lanes = laneCount<Hux32f>;
   Hux32f factor;
   auto operator()(Lanes<Hux32f, lanes> v) const {
-    using V = Lanes<Hux32f, lanes>;
-    using I = Lanes<Hux32s, lanes>;
     v *= factor;
-    if constexpr (Near) {
-      const I sign = bitsAs<I>(v) & std::numeric_limits<Hux32s>::min();
-      const V whole = bitsAs<V>(bitsAs<I>(splat<V>(0x1p23f)) | sign);
-      v = bitsAs<V>(bitsAs<I>(v) ^ sign) < 0x1p23f ? (v + whole) - whole : v;
-    }
-    const I top = v >= 0x1p31f;
-    v = lesser(greater(v, splat<V>(-0x1p31f)), splat<V>(0x1p31f - 128));
-    return top ? splat<I>(std::numeric_limits<Hux32s>::max()) : convert<Hux32s>(v);
+    return integersOf<Near>(v) ^ (v >= 0x1p31f);  // beyond the top all bits are the wrong way round
   }
 };
 

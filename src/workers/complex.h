@@ -7,6 +7,8 @@
 #include <array>
 
 #include "huxcore.h"
+#include "lanes/lanes_math.h"
+#include "lanes/lanes_sum.h"
 #include "workers/scaled.h"
 
 namespace hux {
@@ -35,7 +37,7 @@ struct OnWords {
   template <class... Vs>
   V operator()(Vs... operands) {
     Parts result;
-    for (std::size_t i = 0; i < result.size(); ++i) result[i] = rule(bitsAs<Parts>(operands)[i]...);
+    for (std::size_t i = 0; i < result.size(); ++i) result[i] = saturate<Part<C>>(rule(bitsAs<Parts>(operands)[i]...));
     return bitsAs<V>(result);
   }
   HuxStatus status() const { return rule.status(); }
@@ -128,34 +130,6 @@ auto joinWide(V re, V im) {
   return (Us(re) & U(std::make_unsigned_t<T>(-1))) | (Us(im) << U(sizeof(T) * 8));
 }
 
-// The product of the lower halves of the lanes, and the sum of the products of their two halves, as signed numbers.
-template <class V>
-V mulLow(V a, V b) {
-  return wideRe<Hux32s>(a) * wideRe<Hux32s>(b);
-}
-template <class V>
-V mulHalves(V a, V b) {
-  using U = Lanes<Hux32u, lanesIn<V>>;
-  return V(U(wideRe<Hux16s>(a) * wideRe<Hux16s>(b)) + U(wideIm<Hux16s>(a) * wideIm<Hux16s>(b)));
-}
-#define HUX_MUL(name, T, N, Register, instruction) \
-  inline Lanes<T, N> name(Lanes<T, N> a, Lanes<T, N> b) { return Lanes<T, N>(instruction(Register(a), Register(b))); }
-#if defined(__AVX512BW__) && defined(__AVX512VL__)
-inline Lanes<Hux64s, 8> mulLow(Lanes<Hux64s, 8> a, Lanes<Hux64s, 8> b) {
-  return Lanes<Hux64s, 8>(_mm512_maskz_mul_epi32(__mmask8(-1), __m512i(a), __m512i(b)));
-}
-HUX_MUL(mulHalves, Hux32s, 16, __m512i, _mm512_madd_epi16)
-#elif defined(__AVX2__)
-HUX_MUL(mulLow, Hux64s, 4, __m256i, _mm256_mul_epi32)
-HUX_MUL(mulHalves, Hux32s, 8, __m256i, _mm256_madd_epi16)
-#elif defined(__SSE2__)
-#if defined(__SSE4_1__)
-HUX_MUL(mulLow, Hux64s, 2, __m128i, _mm_mul_epi32)
-#endif
-HUX_MUL(mulHalves, Hux32s, 4, __m128i, _mm_madd_epi16)
-#endif
-#undef HUX_MUL
-
 // (a, b) * (c, d) of words x, y, exact. The one sum that does not fit, the imaginary part of the square of the lowest
 // number, wraps and becomes the largest that does.
 template <class V>
@@ -166,8 +140,9 @@ struct WideProduct {
     if constexpr (sizeof(W) == 4) {
       // -b * d is b * ~d + b, which unlike -d exists for every d.
       using U = Lanes<Hux32u, lanesIn<V>>;
-      re = V(U(mulHalves(x, y ^ W(0xffff0000))) + U(wideIm<Hux16s>(x)));
-      im = mulHalves(x, V((U(y) >> 16U) | (U(y) << 16U)));
+      using H = Lanes<Hux16s, 2 * lanesIn<V>>;
+      re = V(U(pairProducts(bitsAs<H>(x), bitsAs<H>(y ^ W(0xffff0000)))) + U(wideIm<Hux16s>(x)));
+      im = pairProducts(bitsAs<H>(x), bitsAs<H>((U(y) >> 16U) | (U(y) << 16U)));
     } else {
       using U = Lanes<std::uint64_t, lanesIn<V>>;
       const V b = V(U(x) >> std::uint64_t(32)), d = V(U(y) >> std::uint64_t(32));
@@ -177,12 +152,6 @@ struct WideProduct {
     im = im == std::numeric_limits<W>::min() ? splat<V>(std::numeric_limits<W>::max()) : im;
   }
 };
-
-template <class T, class V>
-V limited(V v) {
-  using W = LaneType<V>;
-  return greater(lesser(v, splat<V>(W(std::numeric_limits<T>::max()))), splat<V>(W(std::numeric_limits<T>::min())));
-}
 
 // What a scale factor of 0, below and above makes of an exact part, in the range of T.
 template <class T>

@@ -16,7 +16,7 @@ struct Converted {
   static constexpr int lanes = laneCount<Wider<S, D>>;
   auto operator()(Lanes<S, lanes> v) const {
     if constexpr (sizeof(D) < sizeof(S))
-      return saturate<D>(v);
+      return v;
     else
       return convert<D>(v);
   }
@@ -30,12 +30,8 @@ struct FromFloat {
   static constexpr int lanes = laneCount<F>;
   auto operator()(Lanes<F, lanes> v) const {
     using V = Lanes<F, lanes>;
-    v = greater(v, splat<V>(F(std::numeric_limits<D>::min())));
-    v = lesser(v, splat<V>(F(std::numeric_limits<D>::max())));
-    if constexpr (Near)
-      return convert<D>(nearestEvenBits(addBeside(v, nudge(v))));
-    else
-      return convert<D>(convert<Int>(v));
+    v = lesser(splat<V>(F(std::numeric_limits<D>::max())), v);  // keeps NaN, whose integer is the lowest
+    return integersOf<Near>(Near ? v + nudge(v) : v);
   }
 
  private:

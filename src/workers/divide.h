@@ -13,36 +13,6 @@
 
 namespace hux {
 
-// Whether some lane has none of the bits of a mask.
-template <class V>
-bool anyZero(V v, V mask = ~V{}) {
-  return any((v & mask) == 0);
-}
-// Whether some lane is above a limit.
-template <class V>
-bool anyAbove(V v, V limit) {
-  return any(v > limit);
-}
-// Whether all lanes are below or above 0.
-template <class F>
-bool allNonZero(F v) {
-  return !any(~((v < 0.0f) | (v > 0.0f)));
-}
-#if defined(__AVX512BW__) && defined(__AVX512VL__)
-inline bool allNonZero(Lanes<Hux32f, 16> v) {
-  const Lanes<Hux32f, 16> zero{};
-  return _mm512_cmp_ps_mask(v, zero, _CMP_NEQ_OQ) == 0xFFFF;
-}
-inline bool anyAbove(Lanes<Hux16u, 16> v, Lanes<Hux16u, 16> limit) {
-  return _mm256_cmpgt_epu16_mask(__m256i(v), __m256i(limit)) != 0;
-}
-inline bool anyZero(Lanes<Hux8u, 16> v) { return _mm_testn_epi8_mask(__m128i(v), __m128i(v)) != 0; }
-inline bool anyZero(Lanes<Hux16u, 16> v) { return _mm256_testn_epi16_mask(__m256i(v), __m256i(v)) != 0; }
-inline bool anyZero(Lanes<Hux32u, 16> v, Lanes<Hux32u, 16> mask) {
-  return _mm512_testn_epi32_mask(__m512i(v), __m512i(mask)) != 0;
-}
-#endif
-
 // What rules of division share: they note the lanes in which they have met a zero denominator.
 template <class T>
 struct QuotientOf {
@@ -74,19 +44,19 @@ struct QuotientOf {
   }
 };
 
-// v * factor, not negative, to the nearest integer, ties to even, limited to the top of T. As floats, 2^23 and above
-// are integers in the low bits; larger values have larger bits, infinity included. The factor is a power of two.
-template <class T, class F>
+// v * factor, not negative, to the nearest integer, ties to even; whoever stores it limits it. As floats, 2^23 and
+// above are integers in the low bits; larger values have larger bits, infinity included. The factor is a power of two.
+template <class F>
 auto roundNonNegative(F v, float factor) {
   using U = Lanes<Hux32u, lanesIn<F>>;
-  return saturate<T>(bitsAs<U>(mulAdd(v, splat<F>(factor), splat<F>(0x1p23f))) - 0x4B000000u);
+  return lowerHalf(bitsAs<U>(mulAdd(v, splat<F>(factor), splat<F>(0x1p23f))) - 0x4B000000u);
 }
 
-// A number plus 32768 as 16s, in the same way: NaN becomes the bottom of the range.
+// A number plus 32768, rounded in the same way and taken off again: NaN becomes the bottom of the range of 16s.
 template <class F>
 auto round16s(F sum) {
   using M = Lanes<Hux32s, lanesIn<F>>;
-  return saturate<Hux16s>(bitsAs<M>(greater(sum, F{}) + 0x1p23f) - (0x4B000000 + 32768));
+  return bitsAs<M>(greater(sum, F{}) + 0x1p23f) - (0x4B000000 + 32768);
 }
 
 // The rules (denominator, numerator) by element type.
@@ -101,9 +71,9 @@ struct Quotient<Hux8u> : QuotientOf<Hux8u> {
   float factor;
   // Past these ends every quotient is 0, or out of range.
   explicit Quotient(int scaleFactor) : factor(powerOfTwo<float>(std::clamp(scaleFactor, -16, 9))) {}
-  V operator()(V denominator, V numerator) {
+  auto operator()(V denominator, V numerator) {
     const F q = divide(denominator, convert<Hux32f>(numerator), convert<Hux32f>(denominator));
-    return roundNonNegative<Hux8u>(q, factor);
+    return roundNonNegative(q, factor);
   }
 };
 
@@ -116,7 +86,7 @@ struct Quotient<Hux16s> : QuotientOf<Hux16s> {
   float factor;
   explicit Quotient(int scaleFactor)
       : infinite(scaleFactor < -127), factor(powerOfTwo<float>(std::clamp(scaleFactor, -127, 17))) {}
-  V operator()(V denominator, V numerator) {
+  auto operator()(V denominator, V numerator) {
     const F d = convert<Hux32f>(denominator);
     F n = convert<Hux32f>(numerator);
     if (infinite) [[unlikely]]
@@ -151,13 +121,13 @@ struct Quotient16u<false> : QuotientOf<Hux16u> {
         above(scaleFactor == 0 ? 0.75f : -1.5f),
         edge(Hux16u(65536 >> std::clamp(scaleFactor, 1, 17))),
         lowest(std::bit_cast<Hux32u>(0.5f / factor) - 512) {}
-  V operator()(V denominator, V numerator) {
+  auto operator()(V denominator, V numerator) {
     const F d = convert<Hux32f>(denominator), n = convert<Hux32f>(numerator);
     F q = divide(denominator, n, d);
     if (anyAbove(denominator, splat<V>(edge)))
-      if (anyZero(bitsAs<U>(q) - lowest, splat<U>(~0x00C003FFu))) [[unlikely]]
+      if (anyClear(bitsAs<U>(q) - lowest, splat<U>(~0x00C003FFu))) [[unlikely]]
         q = divide(denominator, d > float(edge) ? n + (n < d ? splat<F>(below) : splat<F>(above)) : n, d);
-    return roundNonNegative<Hux16u>(q, factor);
+    return roundNonNegative(q, factor);
   }
 };
 
@@ -177,20 +147,20 @@ struct Quotient16u<true> : QuotientOf<Hux16u> {
         factor(powerOfTwo<float>(std::max(scaleFactor, -32))),
         edge(shift < 8 ? 0x8000 : 0),
         clear(0x7FFFFFFF & ~Hux32u(shift < 8 ? 0x7FF : 0x3FFFF)) {}
-  V operator()(V denominator, V numerator) {
+  auto operator()(V denominator, V numerator) {
     const F d = convert<Hux32f>(denominator), n = convert<Hux32f>(numerator);
     const F v = divide(denominator, n, d) * factor;
     const F nearest = v + 0x1p23f;
     if (anyAbove(denominator, splat<V>(edge))) {
       const F distance = v - (nearest - 0x1p23f);
-      if (anyZero(0x3F000000 - bitsAs<U>(distance), splat<U>(clear))) [[unlikely]]
-        return exact(denominator, numerator, v);
+      if (anyClear(0x3F000000 - bitsAs<U>(distance), splat<U>(clear))) [[unlikely]]
+        return lowerHalf(exact(denominator, numerator, v));
     }
-    return saturate<Hux16u>(bitsAs<U>(nearest) - 0x4B000000u);
+    return lowerHalf(bitsAs<U>(nearest) - 0x4B000000u);
   }
 
  private:
-  V exact(V denominator, V numerator, F v) const {
+  U exact(V denominator, V numerator, F v) const {
     const U d = convert<Hux32u>(denominator);
     // 65536 is out of range as well, and then the remainder does not matter.
     M q = convert<Hux32s>(lesser(v, splat<F>(65536.0f)));
@@ -200,7 +170,7 @@ struct Quotient16u<true> : QuotientOf<Hux16u> {
     const F divisor = greater(convert<Hux32f>(denominator), splat<F>(1.0f)), r = convert<Hux32f>(rest),
             limit = divisor * 0x1p-15f;
     q -= r + r - divisor >= ((q & 1) != 0 ? -limit : limit);
-    return saturate<Hux16u>(U(q));
+    return U(q);
   }
 };
 
@@ -258,9 +228,9 @@ struct ReciprocalProduct<Hux8u> {
   // At -17 every product but 0 is out of range, and 0 must not meet infinity.
   ReciprocalProduct(Hux8u value, int scaleFactor)
       : factor(powerOfTwo<float>(std::max(scaleFactor, -17)) * reciprocal8u.of[value]) {}
-  V operator()(V v) const {
+  auto operator()(V v) const {
     const auto product = convert<Hux32f>(v) * factor;
-    return saturate<Hux8u>(truncateHalfEven(lesser(product, splat<decltype(+product)>(255.0f)) + 0.5f));
+    return truncateHalfEven(lesser(product, splat<decltype(+product)>(255.0f)) + 0.5f);
   }
 };
 
@@ -270,7 +240,7 @@ struct ReciprocalProduct<Hux16s> {
   using V = Lanes<Hux16s, lanes>;
   float factor;
   ReciprocalProduct(Hux16s value, int scaleFactor) : factor(powerOfTwo<float>(scaleFactor) / float(value)) {}
-  V operator()(V v) const { return round16s(convert<Hux32f>(v) * factor + 32768.0f); }
+  auto operator()(V v) const { return round16s(convert<Hux32f>(v) * factor + 32768.0f); }
 };
 
 }  // namespace hux

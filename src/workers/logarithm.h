@@ -19,15 +19,30 @@ constexpr long double logarithm(long double x) {
   return 2 * sum + powers * std::numbers::ln2_v<long double>;
 }
 
-// The same on lanes, to within a relative 2^-kErrorBits, for positive normal operands.
-//
-// The operand is 2^e * z with z from 0.699 to 1.398, and z = (1 + r) / c with c one of 16 reciprocals, chosen by the
-// leading bits; r is rounded once at most. About z = 1 c is 1 and r exact, so that the result keeps its precision.
-struct Logarithm {
+// The same on lanes, to within a relative 2^-kErrorBits, for positive normal operands. The operand is 2^e * z with z
+// from 0.699 to 1.398.
+struct LogarithmBase {
   static constexpr int lanes = laneCount<Hux64f>, kErrorBits = 37;
   using D = Lanes<Hux64f, lanes>;
   using U = Lanes<std::uint64_t, lanes>;
   static constexpr std::uint64_t kFirst = 0x3FE6600000000000;
+
+  struct Split {
+    U offset;
+    D z, e;  // e in units of kE
+    explicit Split(D x) {
+      const U bits = bitsAs<U>(x);
+      offset = bits - kFirst;
+      const U exponent = offset & ~std::uint64_t(0) << 52;
+      z = bitsAs<D>(bits - exponent), e = highToDouble(exponent);
+    }
+  };
+  static constexpr Hux64f kE = kHighUnit * 0x1p-52 * std::numbers::ln2;
+};
+
+// z = (1 + r) / c with c one of 16 reciprocals, chosen by the leading bits; r is rounded once at most. About z = 1 c is
+// 1 and r exact, so that the result keeps its precision.
+struct LogarithmByTable : LogarithmBase {
   struct alignas(64) Tables {
     Hux64f reciprocals[16], logarithms[16];
   };
@@ -44,16 +59,27 @@ struct Logarithm {
   LaneTable<Hux64f, 16> reciprocals{kTables.reciprocals}, logarithms{kTables.logarithms};
 
   D operator()(D x) const {
-    using I = Lanes<Hux64s, lanes>;
-    const U bits = bitsAs<U>(x), offset = bits - kFirst, exponent = offset & ~std::uint64_t(0) << 52;
-    const D z = bitsAs<D>(bits - exponent), e = toDouble(I(exponent));
-    const U entry = offset >> std::uint64_t(48);
-    const D r = mulAdd(z, reciprocals(entry), splat<D>(-1));
-    const D base = mulAdd(e, splat<D>(0x1p-52 * std::numbers::ln2), logarithms(entry));
+    const Split s(x);
+    const U entry = s.offset >> std::uint64_t(48);
+    const D r = mulAdd(s.z, reciprocals(entry), splat<D>(-1));
+    const D base = mulAdd(s.e, splat<D>(kE), logarithms(entry));
     D p = splat<D>(1.0 / 7);
     for (int k = 6; k >= 1; --k) p = mulAdd(p, r, splat<D>((k % 2 ? 1.0 : -1.0) / k));
     return mulAdd(p, r, base);
   }
 };
+
+// log z = 2 (t + t^3 / 3 + t^5 / 5 + ...) with t = (z - 1) / (z + 1), which is below 0.178.
+struct LogarithmBySeries : LogarithmBase {
+  D operator()(D x) const {
+    const Split s(x);
+    const D t = (s.z - 1.0) / (s.z + 1.0), square = t * t;
+    D p = splat<D>(2.0 / 13);
+    for (int k = 11; k >= 1; k -= 2) p = mulAdd(p, square, splat<D>(2.0 / k));
+    return mulAdd(p, t, s.e * kE);
+  }
+};
+
+using Logarithm = std::conditional_t<kTablesInRegisters, LogarithmByTable, LogarithmBySeries>;
 
 }  // namespace hux

@@ -31,10 +31,11 @@ struct WideOf<Hux32s> {
 template <class T>
 using Wide = typename WideOf<T>::Type;
 
-// The operations, on wide lanes and on lanes of the element type with saturation. `allZeroAbove` is the largest scale
-// factor at which some result is not 0; `roomTo` is the largest at which W also holds the sums of the rounding. Sums
-// and differences are one bit longer than their elements: `halved` has all but their lowest bit, `lowBits` all but the
-// highest. Operands come in the order of the argument lists: (pSrc1, pSrc2), (value, pSrc).
+// The operations, on wide lanes and on lanes of the element type with saturation, or in wide lanes before it.
+// `allZeroAbove` is the largest scale factor at which some result is not 0; `roomTo` is the largest at which W also
+// holds the sums of the rounding. Sums and differences are one bit longer than their elements: `halved` has all but
+// their lowest bit, `lowBits` all but the highest. Operands come in the order of the argument lists: (pSrc1, pSrc2),
+// (value, pSrc).
 struct AddOp {
   template <class T>
   static constexpr int allZeroAbove = int(sizeof(T)) * 8 + (std::is_unsigned_v<T> ? 1 : 0);
@@ -95,9 +96,9 @@ struct MulOp {
     return a * b;
   }
   template <class T, class V>
-  static V saturated(V a, V b) {
+  static auto saturated(V a, V b) {
     if constexpr (sizeof(T) != 2) {
-      return saturate<T>(exact(convert<Wide<T>>(a), convert<Wide<T>>(b)));
+      return exact(convert<Wide<T>>(a), convert<Wide<T>>(b));
     } else {
       using U = Lanes<Hux16u, lanesIn<V>>;
       const V high = mulHigh(a, b), low = V(U(a) * U(b));
@@ -114,7 +115,7 @@ template <class Op, class T>
 struct Plain {
   static constexpr int lanes = std::is_same_v<Op, MulOp> && sizeof(T) != 2 ? laneCount<Wide<T>> : streamLanes<T>;
   using V = Lanes<T, lanes>;
-  V operator()(V a, V b) const { return Op::template saturated<T>(a, b); }
+  auto operator()(V a, V b) const { return Op::template saturated<T>(a, b); }
 };
 
 // scaleFactor below 0. An exact result that is out of range stays so, so it is limited before it is shifted, and by at
@@ -125,10 +126,11 @@ struct Raised {
   using V = Lanes<T, lanes>;
   int shift;
   explicit Raised(int scaleFactor) : shift(scaleFactor < -int(sizeof(T)) * 8 ? int(sizeof(T)) * 8 : -scaleFactor) {}
-  V operator()(V a, V b) const {
-    const auto v = convert<Wide<T>>(saturate<T>(Op::exact(convert<Wide<T>>(a), convert<Wide<T>>(b))));
+  auto operator()(V a, V b) const {
+    using W = Lanes<Wide<T>, lanes>;
     using U = Lanes<std::make_unsigned_t<Wide<T>>, lanes>;
-    return saturate<T>(decltype(v)(U(v) << std::make_unsigned_t<Wide<T>>(shift)));
+    const W v = limited<T>(W(Op::exact(convert<Wide<T>>(a), convert<Wide<T>>(b))));
+    return W(U(v) << std::make_unsigned_t<Wide<T>>(shift));
   }
 };
 
@@ -138,12 +140,12 @@ struct Rounded {
   static constexpr int lanes = laneCount<Wide<T>>;
   using V = Lanes<T, lanes>;
   int scaleFactor;
-  V operator()(V a, V b) const {
+  auto operator()(V a, V b) const {
     const auto v = Op::exact(convert<Wide<T>>(a), convert<Wide<T>>(b));
     if constexpr (HasRoom)
-      return saturate<T>(roundShift(v, scaleFactor));
+      return roundShift(v, scaleFactor);
     else
-      return saturate<T>(roundShiftFull(v, scaleFactor));
+      return roundShiftFull(v, scaleFactor);
   }
 };
 

@@ -49,12 +49,12 @@ struct RootUp {
   explicit RootUp(int scaleFactor)
       : factor(powerOfTwo<Hux32f>(std::max(scaleFactor, -16))),
         shift(Hux32u(std::min(-2 * std::max(scaleFactor, -16), 30))) {}
-  Lanes<T, lanes> operator()(Lanes<Hux32s, lanes> v) const {
+  auto operator()(Lanes<Hux32s, lanes> v) const {
     using U = Lanes<Hux32u, lanes>;
     using F = Lanes<Hux32f, lanes>;
     const F root = squareRoot(convert<Hux32f>(v)) * factor;
     const U whole = U(convert<Hux32s>(lesser(root, splat<F>(std::numeric_limits<T>::max()))));
-    return saturate<T>(Lanes<Hux32s, lanes>(whole - U(U(v) << shift > whole * whole + whole)));
+    return Lanes<Hux32s, lanes>(whole - U(U(v) << shift > whole * whole + whole));
   }
 };
 
@@ -64,8 +64,8 @@ struct RootDown {
   static constexpr int lanes = laneCount<Hux32s>;
   Hux32f factor;
   explicit RootDown(int scaleFactor) : factor(powerOfTwo<Hux32f>(std::min(scaleFactor, 10))) {}
-  Lanes<T, lanes> operator()(Lanes<Hux32s, lanes> v) const {
-    return convert<T>(truncateHalfEven(squareRoot(convert<Hux32f>(v)) * factor + 0.5f));
+  auto operator()(Lanes<Hux32s, lanes> v) const {
+    return fitting<T>(nearestInteger(squareRoot(convert<Hux32f>(v)) * factor));
   }
 };
 
@@ -76,7 +76,7 @@ struct NotingSign {
   using V = Lanes<T, lanes>;
   Root root;
   V negative{};
-  V operator()(V v) {
+  auto operator()(V v) {
     if constexpr (std::is_signed_v<T>) {
       negative |= v;
       v = greater(v, V{});
