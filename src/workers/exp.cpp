@@ -14,6 +14,21 @@
 namespace hux {
 namespace {
 
+// Both approximations are e^x = 2^n e^r: x = n steps + r with |r| at most half a step, by a sum with 1.5 * 2^52 that
+// holds n in its low bits. They are good to a relative 2^-38, where the result is a normal double.
+constexpr int kErrorBits = 38;
+template <class D>
+struct Reduced {
+  Lanes<std::uint64_t, lanesIn<D>> n;
+  D r;
+  Reduced(D x, Hux64f step) {
+    constexpr Hux64f kInteger = 0x1.8p52;
+    const D shifted = mulAdd(x, splat<D>(1 / step), splat<D>(kInteger));
+    r = mulAdd(shifted - kInteger, splat<D>(-step), x);
+    n = bitsAs<decltype(n)>(shifted);
+  }
+};
+
 // 2^(j/16), by the series of the exponential function. The position of j in the exponent is taken off, so that adding
 // 16 e + j in that place leaves 2^e times the entry.
 alignas(64) constexpr std::array<Hux64f, 16> kPowers = [] {
@@ -27,47 +42,71 @@ alignas(64) constexpr std::array<Hux64f, 16> kPowers = [] {
   return powers;
 }();
 
-struct ExpFloat {
-  static constexpr int lanes = laneCount<Hux64f>;
-  using V = Lanes<Hux32f, lanes>;
-  using D = Lanes<Hux64f, lanes>;
-  using U = Lanes<std::uint64_t, lanes>;
+// Steps of ln2 / 16, whose powers come from a table.
+struct ExpByTable {
   LaneTable<Hux64f, 16> powers{kPowers.data()};
-
-  // To within this relative error, where the result is a normal double.
-  static constexpr int kErrorBits = 38;
-  D approximate(D x) const {
-    // x = n ln2 / 16 + r with |r| at most half a step: the sum with 1.5 * 2^52 holds n in its low bits.
-    constexpr Hux64f step = std::numbers::ln2 / 16, kInteger = 0x1.8p52;
-    const D shifted = mulAdd(x, splat<D>(1 / step), splat<D>(kInteger));
-    const D r = mulAdd(shifted - kInteger, splat<D>(-step), x);
-    const U n = bitsAs<U>(shifted);
-    const D power = bitsAs<D>(bitsAs<U>(powers(n)) + (n << std::uint64_t(48)));
+  template <class D>
+  D operator()(D x) const {
+    constexpr Hux64f step = std::numbers::ln2 / 16, a = step / 2;
+    const auto [n, r] = Reduced<D>(x, step);
+    const D power = bitsAs<D>(bitsAs<decltype(+n)>(powers(n)) + (n << std::uint64_t(48)));
     // 1 + r + r^2/2 + ... + r^5/120, with r^5 replaced by the nearest cubic on +-a.
-    constexpr Hux64f a = step / 2;
     D p = splat<D>(1.0 / 24);
     p = mulAdd(p, r, splat<D>(1.0 / 6 + 5.0 / 4 * a * a / 120));
     p = mulAdd(p, r, splat<D>(1.0 / 2));
     p = mulAdd(p, r, splat<D>(1.0 - 5.0 / 16 * a * a * a * a / 120));
     return mulAdd(power * r, p, power);
   }
+};
+
+// Steps of ln2: 1 + r + ... + r^10/10!, with the powers 9 and 10 replaced by the nearest polynomials of lower degree.
+struct ExpByPolynomial {
+  static constexpr std::array<Hux64f, 9> kTerms = [] {
+    std::array<Hux64f, 9> terms{};
+    Hux64f factorial = 1;
+    for (std::size_t k = 0; k < terms.size(); factorial *= Hux64f(++k)) terms[k] = 1 / factorial;
+    // 256 t^9 is about 576 t^7 - 432 t^5 + 120 t^3 - 9 t, and 512 t^10 is 1280 t^8 - 1120 t^6 + 400 t^4 - 50 t^2 + 1.
+    constexpr Hux64f a = std::numbers::ln2 / 2, a2 = a * a;
+    const Hux64f ninth = 1.0 / 256 / factorial, tenth = a2 / 512 / (10 * factorial);
+    const Hux64f odd[] = {-9, 120, -432, 576}, even[] = {1, -50, 400, -1120, 1280};
+    for (int k = 0; k < 9; ++k) {
+      Hux64f scale = k % 2 ? ninth : tenth;
+      for (int i = k - k % 2; i < 8; i += 2) scale *= a2;
+      terms[std::size_t(k)] += scale * (k % 2 ? odd : even)[k / 2];
+    }
+    return terms;
+  }();
+  template <class D>
+  D operator()(D x) const {
+    const auto [n, r] = Reduced<D>(x, std::numbers::ln2);
+    D p = splat<D>(kTerms[8]);
+    for (std::size_t k = 8; k-- > 0;) p = mulAdd(p, r, splat<D>(kTerms[k]));
+    return bitsAs<D>(bitsAs<decltype(+n)>(p) + (n << std::uint64_t(52)));
+  }
+};
+
+struct ExpFloat {
+  static constexpr int lanes = 2 * laneCount<Hux64f>;
+  using V = Lanes<Hux32f, lanes>;
+  using Half = Lanes<Hux32f, lanes / 2>;
+  std::conditional_t<kTablesInRegisters, ExpByTable, ExpByPolynomial> approximate;
 
   V operator()(V v) const {
-    // Beyond +-87 the result may not be a normal float.
-    using M = Lanes<Hux32u, lanes>;
-    const bool beyond = anyBelow(splat<M>(std::bit_cast<Hux32u>(87.0f) << 1), bitsAs<M>(v) << 1u);
-    const D result = approximate(convert<Hux64f>(v));
-    if (beyond || anyOpen<kErrorBits>(result)) [[unlikely]]
-      return careful(v);
-    return convert<Hux32f>(result);
+    // Below -104 the result is 0 and above 89 infinite, as the limits' results are when they are narrowed; NaN stays.
+    const V x = greater(splat<V>(-104), lesser(splat<V>(89), v));
+    const auto low = approximate(convert<Hux64f>(half<0>(x))), high = approximate(convert<Hux64f>(half<1>(x)));
+    // Between, down from -87, it may not be a normal float.
+    using U = Lanes<Hux32u, lanes>;
+    const U below = bitsAs<U>(x) - std::bit_cast<Hux32u>(-87.0f);
+    const bool subnormal = anyBelow(below, splat<U>(std::bit_cast<Hux32u>(-104.0f) - std::bit_cast<Hux32u>(-87.0f)));
+    V result = joined(convert<Hux32f>(low), convert<Hux32f>(high));
+    if (subnormal | anyOpen<kErrorBits>(low) | anyOpen<kErrorBits>(high)) [[unlikely]]
+      result = joined(careful(half<0>(x)), careful(half<1>(x)));
+    return v == v ? result : splat<V>(huxConstantOfNAN_32f);
   }
 
-  // Beyond +-110 the result is infinity or 0.
-  [[gnu::noinline]] V careful(V v) const {
-    const V limited = greater(lesser(v, splat<V>(110)), splat<V>(-110));
-    const V result =
-        closed<kErrorBits>(approximate(convert<Hux64f>(limited)), limited, [](Hux64f e) { return std::exp(e); });
-    return v == v ? result : splat<V>(huxConstantOfNAN_32f);
+  [[gnu::noinline]] Half careful(Half x) const {
+    return closed<kErrorBits>(approximate(convert<Hux64f>(x)), x, [](Hux64f e) { return std::exp(e); });
   }
 };
 
