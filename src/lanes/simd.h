@@ -78,6 +78,62 @@ inline Mask nonZero(Vec v) {
 }
 #endif
 
+// One bit for each of 64 bytes, lowest first: whether it is not 0.
+inline std::uint64_t nonZeroBytes(const void* p) {
+#if defined(__AVX2__)
+  const auto zeros = [](const void* q) {
+    const __m256i bytes = _mm256_loadu_si256(static_cast<const __m256i*>(q));
+    return std::uint64_t(std::uint32_t(_mm256_movemask_epi8(_mm256_cmpeq_epi8(bytes, _mm256_setzero_si256()))));
+  };
+  return ~(zeros(p) | zeros(static_cast<const std::byte*>(p) + 32) << 32);
+#elif defined(__SSE2__)
+  std::uint64_t zeros = 0;
+  for (int i = 0; i < 4; ++i) {
+    const __m128i bytes = _mm_loadu_si128(static_cast<const __m128i*>(p) + i);
+    zeros |= std::uint64_t(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, _mm_setzero_si128()))) << (16 * i);
+  }
+  return ~zeros;
+#else
+  std::uint64_t bits = 0;
+  for (int i = 0; i < 8; ++i) {
+    std::uint64_t word;
+    std::memcpy(&word, static_cast<const std::byte*>(p) + 8 * i, sizeof word);
+    // The top bit of each byte says that the byte is not 0; the product gathers the eight of them.
+    word = ((word & 0x7f7f7f7f7f7f7f7f) + 0x7f7f7f7f7f7f7f7f | word) & 0x8080808080808080;
+    bits |= ((word >> 7) * 0x0102040810204080 >> 56) << (8 * i);
+  }
+  return bits;
+#endif
+}
+
+// Copies bytes between places that lie apart: a few, whose number no branch predictor knows, in as few steps as can be.
+inline void copyFew(void* to, const void* from, Index bytes) {
+  auto* const d = static_cast<std::byte*>(to);
+  auto* const s = static_cast<const std::byte*>(from);
+  // From both ends, which meet or overlap.
+  const auto ends = [&]<class T>(T) {
+    T first, last;
+    const Index behind = bytes - Index(sizeof(T));
+    std::memcpy(&first, s, sizeof(T)), std::memcpy(&last, s + behind, sizeof(T));
+    std::memcpy(d, &first, sizeof(T)), std::memcpy(d + behind, &last, sizeof(T));
+  };
+  typedef std::uint8_t Part __attribute__((vector_size(16)));
+  if (bytes > 32) {
+    for (Index i = 0; i + 16 < bytes; i += 16) std::memcpy(d + i, s + i, 16);
+    std::memcpy(d + bytes - 16, s + bytes - 16, 16);
+  } else if (bytes >= 16) {
+    ends(Part{});
+  } else if (bytes >= 8) {
+    ends(std::uint64_t());
+  } else if (bytes >= 4) {
+    ends(std::uint32_t());
+  } else if (bytes >= 2) {
+    ends(std::uint16_t());
+  } else if (bytes == 1) {
+    *d = *s;
+  }
+}
+
 // Streaming: stores that go past the cache. An ordinary store first reads the line that it is about to overwrite, which
 // a region that does not stay in the cache need not pay for; where it would stay, streaming takes it away from whoever
 // reads it next. So the size of the work decides, once for each call: Streaming is made from the bytes that a call

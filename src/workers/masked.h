@@ -1,5 +1,8 @@
-// Copy and Set under a mask image: pixels whose mask byte is 0 are not stored to, by construction.
+// Copy and Set under a mask image: pixels whose mask byte is 0 are not stored to, by construction. With masked stores
+// that goes by vectors; without them, by runs of pixels that the mask leaves on.
 #pragma once
+
+#include <bit>
 
 #include "workers/move.h"
 #include "workers/pattern.h"
@@ -38,18 +41,57 @@ void forMaskedVectors(const Element<Hux8u>* mask, Index n, Put put) {
   }
 }
 
+// Calls run(i, length) for runs of pixels that are on and, where those are so short that each would cost a mispredicted
+// branch, one(i) for single ones.
+template <class One, class Run>
+void forMaskedRuns(const Element<Hux8u>* mask, Index n, One one, Run run) {
+  constexpr Index block = 64;
+  constexpr int manyEdges = 16;
+  for (Index i = 0; i < n; i += block) {
+    std::uint64_t on;
+    if (n - i >= block) {
+      on = simd::nonZeroBytes(mask + i);
+    } else {
+      std::byte rest[block] = {};
+      std::memcpy(rest, mask + i, std::size_t(n - i));
+      on = simd::nonZeroBytes(rest);
+    }
+    if (std::popcount(on ^ on << 1) <= manyEdges) {
+      while (on != 0) {
+        const int first = std::countr_zero(on), length = std::countr_one(on >> first);
+        run(i + first, length);
+        on &= first + length < block ? ~std::uint64_t(0) << (first + length) : 0;
+      }
+    } else {
+      for (; on != 0; on &= on - 1) one(i + std::countr_zero(on));
+    }
+  }
+}
+
+// One pixel, by words that the machine moves at once.
+template <class L, class W>
+void copyPixel(const Element<W>* src, Element<W>* dst) {
+  std::memcpy(dst, src, L::processed * sizeof(W));
+}
+
 }  // namespace detail
 
 template <class L, class W>
 void copyRowMasked(const Element<W>* src, Element<W>* dst, const Element<Hux8u>* mask, Index n) {
-  if constexpr (simd::kPermutes && simd::kMasks) {
-    if (apart<Interleaved<L::channels>, Interleaved<L::channels>>(src, dst, n, sizeof(W)) &&
-        detail::disjoint(mask, n, dst, n * L::channels * Index(sizeof(W)))) {
-      detail::forMaskedVectors<L, sizeof(W)>(mask, n, [&](int, Index offset, simd::Mask on) {
+  constexpr Index pixelBytes = L::channels * sizeof(W);
+  if (apart<Interleaved<L::channels>, Interleaved<L::channels>>(src, dst, n, sizeof(W)) &&
+      detail::disjoint(mask, n, dst, n * pixelBytes)) {
+    if constexpr (simd::kPermutes && simd::kMasks)
+      return detail::forMaskedVectors<L, sizeof(W)>(mask, n, [&](int, Index offset, simd::Mask on) {
         simd::store(advance(dst, offset), simd::load(advance(src, offset), on), on);
       });
-      return;
-    }
+    const auto one = [=](Index i) { detail::copyPixel<L>(src + i * L::channels, dst + i * L::channels); };
+    return detail::forMaskedRuns(mask, n, one, [=](Index i, int length) {
+      if constexpr (L::channels == L::processed)
+        simd::copyFew(dst + i * L::channels, src + i * L::channels, length * pixelBytes);
+      else
+        for (Index end = i + length; i < end; ++i) one(i);
+    });
   }
   for (Index i = 0; i < n; ++i)
     if (mask[i])
@@ -58,8 +100,9 @@ void copyRowMasked(const Element<W>* src, Element<W>* dst, const Element<Hux8u>*
 
 template <class L, class W>
 void setRowMasked(const Pattern<L, W>& pattern, Element<W>* dst, const Element<Hux8u>* mask, Index n) {
-  if constexpr (simd::kPermutes && simd::kMasks) {
-    if (detail::disjoint(mask, n, dst, n * L::channels * Index(sizeof(W)))) {
+  constexpr Index pixelBytes = L::channels * sizeof(W);
+  if (detail::disjoint(mask, n, dst, n * pixelBytes)) {
+    if constexpr (simd::kPermutes && simd::kMasks) {
       simd::Vec v[Pattern<L, W>::vectors];
       for (int k = 0; k < Pattern<L, W>::vectors; ++k) v[k] = pattern.vector(k);
       // A group starts at a whole number of periods: its vectors take those of the pattern in turn.
@@ -68,6 +111,18 @@ void setRowMasked(const Pattern<L, W>& pattern, Element<W>* dst, const Element<H
       });
       return;
     }
+    // A copy of the pattern that no store can change.
+    Element<W> pixels[Pattern<L, W>::bytes / sizeof(W)];
+    std::memcpy(pixels, pattern.elements(), sizeof pixels);
+    const auto one = [&](Index i) { detail::copyPixel<L>(pixels, dst + i * L::channels); };
+    return detail::forMaskedRuns(mask, n, one, [&](Index i, int length) {
+      if constexpr (L::channels != L::processed)
+        for (Index end = i + length; i < end; ++i) one(i);
+      else if (length * pixelBytes <= Pattern<L, W>::bytes)
+        simd::copyFew(dst + i * L::channels, pixels, length * pixelBytes);
+      else
+        pattern.fill(dst + i * L::channels, length);
+    });
   }
   for (Index i = 0; i < n; ++i)
     if (mask[i])

@@ -23,6 +23,7 @@ class Pattern {
   }
 
   W element(int c) const { return elements_[c]; }
+  const W* elements() const { return elements_; }
   simd::Vec vector(int k) const { return simd::load(elements_ + k * (simd::kBytes / Index(sizeof(W)))); }
 
   // Bytes of each vector that are written.
