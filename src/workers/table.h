@@ -1,6 +1,8 @@
 // Bytes replaced through tables of 256, one for each channel.
 #pragma once
 
+#include <array>
+
 #include "lanes/elementwise.h"
 #include "lanes/lanes_math.h"
 
@@ -39,8 +41,22 @@ class ByteTables {
 #else
   explicit ByteTables(const Hux8u* tables) : tables_(tables) {}
   void map(const Element<Hux8u>* src, Element<Hux8u>* dst, Index n) const {
-    for (Index i = 0; i < n * L::channels; i += L::channels)
-      for (int c = 0; c < L::processed; ++c) dst[i + c] = tables_[256 * c + src[i + c]];
+    Index i = 0;
+#if defined(__AVX2__)
+    // Several vectors to each part of the table.
+    if constexpr (L::channels == 1) {
+      constexpr int vectors = 4;
+      using Bytes = std::array<ByteShuffles::V, vectors>;
+      if (n >= Index(sizeof(Bytes))) {
+        const ByteShuffles shuffles(tables_);
+        for (; i + Index(sizeof(Bytes)) <= n; i += sizeof(Bytes))
+          storeLanes(dst + i, shuffles(loadLanes<Bytes>(src + i)));
+      }
+    }
+#endif
+    const Hux8u* const tables = tables_;
+    for (; i < n; ++i)
+      for (int c = 0; c < L::processed; ++c) dst[i * L::channels + c] = tables[256 * c + src[i * L::channels + c]];
   }
 
  private:
