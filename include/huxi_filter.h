@@ -8,6 +8,123 @@ HUX_BEGIN_C
 
 /* ---- Box filter and window sums ---- */
 
+/* A neighbourhood filter computes each output pixel from a window of input pixels. pSrc is the pixel at the first
+ * output pixel, and the filter reads around the region as far as its window reaches: there is no border mode, and
+ * huxiCopyReplicateBorder and its kin build bordered images. Of a mask of maskSize cells, cell anchor lies over the
+ * pixel being computed, both counted from the top left: the window of pixel (x, y) is the columns
+ * x - anchor.x ... x - anchor.x + maskSize.width - 1 and the rows y - anchor.y ... y - anchor.y + maskSize.height - 1.
+ * So anchor.x pixels on the left of the region, maskSize.width - 1 - anchor.x on its right, anchor.y rows above and
+ * maskSize.height - 1 - anchor.y below must be readable; the alpha of AC4 is neither read nor written. Source and
+ * destination must not overlap, but for the in-place forms (names in I).
+ *
+ * FilterBox: the mean of the window. With s for the sum of the window and recip for 1.0f / area:
+ *
+ *   8u, area up to 8100    (s * mult) >> shift, where mult (12 bits) and shift stand for recip, a little above it: an
+ *                          area of 3 has (2731, 13), of 9 (3641, 15), of 256 (2049, 20). An image of one value keeps it
+ *   8u, larger             s * recip + 9e-6f, truncated
+ *   16s                    the same of the pixels plus 32768, and 32768 less: the floor of the mean. C1, C3 and AC4
+ * keep s in 32 bits that wrap, read as signed: beyond 32768 cells bright images may turn negative. C4 adds s up in
+ * single precision, and 9e-6 in double precision 32f                    s * recip
+ *
+ * Float sums (32f, 16s C4, 8u of areas above 65793 or so) are running sums whose order of additions is part of the
+ * result: s = (s + entering column) - leaving column along a row, where a column's sum moves on by
+ * (sum + entering) - leaving in 32f C1 and by sum + (entering - leaving) in all others. So an infinity or NaN spreads
+ * to the right and down. A mask of 1 by 1 copies.
+ *
+ * With regions of more than 4096 pixels, and always in C4, the rows are shared out to the set number of threads (see
+ * huxSetThreadCount), each of which starts its sums anew: the last bits of float sums depend on the number of threads;
+ * all other results do not. The in-place forms are serial. They give what the others give into a second image, but for
+ * regions of few rows: a region of fewer than anchor.y + 1 rows is computed and written down to row anchor.y, below the
+ * region, where the image must be writable; and in a region of anchor.y + 2 rows all rows are given the value of the
+ * first (8u, of an area up to 8100 or C4; 16s and 32f of C4; but not 8u C3 with a mask of 3 by 3), while in the
+ * remaining forms the rows below the region are given the values of the region's last row.
+ *
+ * Steps of 16s and 32f are cut to whole elements, but in C4.
+ * Checks: null pointers (huxStsNullPtr), steps below 1 (huxStsBadStep), size (huxStsBadSize), a side of the mask below
+ * 1 (huxStsBadMaskSize), anchor outside the mask (huxStsBadAnchor). huxStsNoMem when there is no memory for the sums;
+ * no pixel has been written then. */
+HUX_API HuxStatus huxiFilterBox_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                       HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                       HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                       HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                         HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                         HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiSize maskSize,
+                                        HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_8u_C3IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiSize maskSize,
+                                        HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_8u_AC4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiSize maskSize,
+                                         HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_8u_C4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiSize maskSize,
+                                        HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_16s_C1IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiSize maskSize,
+                                         HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_16s_C3IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiSize maskSize,
+                                         HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_16s_AC4IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiSize maskSize,
+                                          HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_16s_C4IR(Hux16s* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiSize maskSize,
+                                         HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiSize maskSize,
+                                         HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiSize maskSize,
+                                         HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiSize maskSize,
+                                          HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterBox_32f_C4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiSize maskSize,
+                                         HuxiPoint anchor);
+
+/* SumWindowRow, SumWindowColumn: the sum of each channel of the maskSize pixels of a row, from x - anchor on, or of a
+ * column, from y - anchor on, as a float. The first sum of each row, or column, is added up in single precision; each
+ * further one is that of the pixel before plus the difference of what enters and what leaves. This is exact, and shows
+ * in nothing, as long as sums stay within 2^24: up to 65793 pixels of 8u, 512 of 16s. Rows of the window reach anchor
+ * pixels to the left and maskSize - 1 - anchor to the right, columns up and down likewise.
+ * Steps, any number of bytes, and dstRoiSize are not checked: a width or height below 1 is no work.
+ * Checks: null pointers (huxStsNullPtr), maskSize below 1 (huxStsBadMaskSize), anchor below 0 or not below maskSize
+ * (huxStsBadAnchor). */
+HUX_API HuxStatus huxiSumWindowRow_8u32f_C1R(const Hux8u* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             HuxiSize dstRoiSize, int maskSize, int anchor);
+HUX_API HuxStatus huxiSumWindowRow_8u32f_C3R(const Hux8u* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             HuxiSize dstRoiSize, int maskSize, int anchor);
+HUX_API HuxStatus huxiSumWindowRow_8u32f_C4R(const Hux8u* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             HuxiSize dstRoiSize, int maskSize, int anchor);
+HUX_API HuxStatus huxiSumWindowRow_16s32f_C1R(const Hux16s* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                              HuxiSize dstRoiSize, int maskSize, int anchor);
+HUX_API HuxStatus huxiSumWindowRow_16s32f_C3R(const Hux16s* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                              HuxiSize dstRoiSize, int maskSize, int anchor);
+HUX_API HuxStatus huxiSumWindowRow_16s32f_C4R(const Hux16s* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                              HuxiSize dstRoiSize, int maskSize, int anchor);
+HUX_API HuxStatus huxiSumWindowColumn_8u32f_C1R(const Hux8u* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                HuxiSize dstRoiSize, int maskSize, int anchor);
+HUX_API HuxStatus huxiSumWindowColumn_8u32f_C3R(const Hux8u* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                HuxiSize dstRoiSize, int maskSize, int anchor);
+HUX_API HuxStatus huxiSumWindowColumn_8u32f_C4R(const Hux8u* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                HuxiSize dstRoiSize, int maskSize, int anchor);
+HUX_API HuxStatus huxiSumWindowColumn_16s32f_C1R(const Hux16s* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                 HuxiSize dstRoiSize, int maskSize, int anchor);
+HUX_API HuxStatus huxiSumWindowColumn_16s32f_C3R(const Hux16s* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                 HuxiSize dstRoiSize, int maskSize, int anchor);
+HUX_API HuxStatus huxiSumWindowColumn_16s32f_C4R(const Hux16s* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                 HuxiSize dstRoiSize, int maskSize, int anchor);
+
 /* ---- General linear filters ---- */
 
 /* Filter, FilterRow, FilterColumn: convolution with a kernel of the caller's, of two dimensions or along a row or a

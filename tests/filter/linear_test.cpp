@@ -47,12 +47,15 @@ struct Member : Form {
   bool widthFirst() const { return shape == Shape::kColumn && layout.stride > 1 && layout.stride == layout.touched; }
 };
 
-#define MEMBER(name, kind, t, taps, l, dims)                                                              \
-  Member{{#name #kind "_" #t "_" #l, int(sizeof(Hux##t)), l}, Type::k##t, std::is_integral_v<Hux##taps>, \
-         Shape::k##dims, call<Hux##t, Hux##taps, Shape::k##dims, huxi##name##kind##_##t##_##l##R>},
-#define SHAPES(kind, t, taps, l)             \
-  MEMBER(Filter, kind, t, taps, l, Image)    \
-  MEMBER(FilterRow, kind, t, taps, l, Row)   \
+#define MEMBER(name, kind, t, taps, l, dims)                  \
+  Member{{#name #kind "_" #t "_" #l, int(sizeof(Hux##t)), l}, \
+         Type::k##t,                                          \
+         std::is_integral_v<Hux##taps>,                       \
+         Shape::k##dims,                                      \
+         call<Hux##t, Hux##taps, Shape::k##dims, huxi##name##kind##_##t##_##l##R>},
+#define SHAPES(kind, t, taps, l)           \
+  MEMBER(Filter, kind, t, taps, l, Image)  \
+  MEMBER(FilterRow, kind, t, taps, l, Row) \
   MEMBER(FilterColumn, kind, t, taps, l, Column)
 #define MEMBERS(_, l) \
   SHAPES(, 8u, 32s, l) SHAPES(, 16s, 32s, l) SHAPES(, 32f, 32f, l) SHAPES(32f, 8u, 32f, l) SHAPES(32f, 16s, 32f, l)
