@@ -47,6 +47,223 @@ HUX_API HuxStatus huxiAddRotateShift(Hux64f xCenter, Hux64f yCenter, Hux64f angl
 
 /* ---- Resize ---- */
 
+/* Resize: the region srcRoi of an image, scaled by xFactor and yFactor. pSrc addresses the first pixel of the whole
+ * source image, whose size is srcSize, and srcRoi counts from there; what overruns the image is cut off, and W, H below
+ * are what is left of its width and height. pDst addresses the first pixel that is written. Neighbours of
+ * interpolation come from the whole image, never from outside it. AC4: alpha of the destination stays. Images may not
+ * overlap.
+ *
+ * Size. The destination has W xFactor columns, truncated, and H yFactor rows, at most dstRoiSize; less than one, but at
+ * least half a pixel, is one.
+ * Interpolation, and where the source pixel of destination column j lies, from srcRoi.x; rows likewise:
+ *   huxiInterNearest    (j + 1/2) / xFactor, truncated: whole pixels are copied
+ *   huxiInterLinear, huxiInterCubic, huxiInterLanczos (six pixels)   j (W - 1) / (W xFactor - 1): the first and the
+ * last pixels coincide; all on the first where W xFactor is at most 1 huxiInterSuper      factors of at most 1 only:
+ * the mean of all that the pixel covers, by area Positions are sums of steps in double precision; 1e-7 is added before
+ * they are truncated. Beyond the last pixel they stand for it. A small image (the whole of it counts) makes Lanczos
+ * cubic (a side below 8), cubic linear (below 4) and anything nearest (below 2). Arithmetic: linear 8u and 16u in
+ * integers with weights of 2^-14, along columns first, rounded in each of the two directions; all else in single
+ * precision, cubic by Newton's form, and 8u and 16u rounded and limited at the end; means in double precision.
+ *
+ * ResizeCenter: the point (xCenter, yCenter) of the source comes to the middle of the destination dstRoiSize, of which
+ * the part that the region covers is written. Mode huxiInterSuper starts at a whole source pixel.
+ * ResizeShift: xFr and yFr are steps in the source from one destination pixel to the next, in place of 1 / xFactor and
+ * 1 / yFactor, from xShift, yShift on; half a step more in nearest mode. With w = (W - 1) / xFr (W / xFr in nearest
+ * mode) truncated, w + 1 (w, at least 1) columns are written if w is below dstRoiSize.width - 1, else all.
+ * huxiInterSuper is not for it. xFr and yFr are the factors of the checks.
+ *
+ * Checks: null pointers, planes included (huxStsNullPtr); srcSize, srcRoi's x or y below 0, its width or height below 1
+ * (huxStsBadSize); a first pixel of srcRoi outside the image (huxStsNoOverlapWarn, nothing is done); dstRoiSize
+ * (huxStsBadSize); factors not above 0 (huxStsBadResizeFactor); interpolation (huxStsBadInterpolation, also for
+ * huxiInterSuper with a factor above 1). Then, of factors: less than half a pixel (huxStsResizeTooSmall).
+ * ResizeCenter makes these checks but for pSrc (unless planar) and interpolation, then all of them once more on the
+ * part of the region and of the destination that it has found. Supersampling may end with huxStsNoMem. Steps are not
+ * checked: a negative srcStep walks up. */
+HUX_API HuxStatus huxiResize_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                    int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                    HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                    int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                    HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                     int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                     HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                    int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                    HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    Hux8u* const pDst[3], int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                    Hux64f yFactor, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    Hux8u* const pDst[4], int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                    Hux64f yFactor, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux16u* pDst,
+                                     int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                     HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux16u* pDst,
+                                     int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                     HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux16u* pDst,
+                                      int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                      HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux16u* pDst,
+                                     int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                     HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                     Hux16u* const pDst[3], int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                     Hux64f yFactor, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                     Hux16u* const pDst[4], int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                     Hux64f yFactor, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux32f* pDst,
+                                     int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                     HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux32f* pDst,
+                                     int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                     HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux32f* pDst,
+                                      int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                      HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux32f* pDst,
+                                     int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                     HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                     Hux32f* const pDst[3], int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                     Hux64f yFactor, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResize_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                     Hux32f* const pDst[4], int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                     Hux64f yFactor, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                          Hux64f xCenter, Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                          Hux64f xCenter, Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux8u* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                           Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                          Hux64f xCenter, Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* const pDst[3], int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                          Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                          HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* const pDst[4], int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                          Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                          HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                           Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                           Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux16u* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                            Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                            HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                           Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* const pDst[3], int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                           Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* const pDst[4], int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                           Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                           Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                           Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux32f* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                            Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                            HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                           Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* const pDst[3], int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                           Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeCenter_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* const pDst[4], int dstStep, HuxiSize dstRoiSize, Hux64f xFactor,
+                                           Hux64f yFactor, Hux64f xCenter, Hux64f yCenter,
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                         int dstStep, HuxiSize dstRoiSize, Hux64f xFr, Hux64f yFr, Hux64f xShift,
+                                         Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                         int dstStep, HuxiSize dstRoiSize, Hux64f xFr, Hux64f yFr, Hux64f xShift,
+                                         Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFr, Hux64f yFr,
+                                          Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                         int dstStep, HuxiSize dstRoiSize, Hux64f xFr, Hux64f yFr, Hux64f xShift,
+                                         Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                         Hux8u* const pDst[3], int dstStep, HuxiSize dstRoiSize, Hux64f xFr, Hux64f yFr,
+                                         Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                         Hux8u* const pDst[4], int dstStep, HuxiSize dstRoiSize, Hux64f xFr, Hux64f yFr,
+                                         Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux16u* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFr, Hux64f yFr,
+                                          Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux16u* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFr, Hux64f yFr,
+                                          Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFr, Hux64f yFr,
+                                           Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux16u* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFr, Hux64f yFr,
+                                          Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux16u* const pDst[3], int dstStep, HuxiSize dstRoiSize, Hux64f xFr,
+                                          Hux64f yFr, Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux16u* const pDst[4], int dstStep, HuxiSize dstRoiSize, Hux64f xFr,
+                                          Hux64f yFr, Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux32f* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFr, Hux64f yFr,
+                                          Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux32f* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFr, Hux64f yFr,
+                                          Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFr, Hux64f yFr,
+                                           Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux32f* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFr, Hux64f yFr,
+                                          Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux32f* const pDst[3], int dstStep, HuxiSize dstRoiSize, Hux64f xFr,
+                                          Hux64f yFr, Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiResizeShift_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux32f* const pDst[4], int dstStep, HuxiSize dstRoiSize, Hux64f xFr,
+                                          Hux64f yFr, Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+
+/* The steps, in pixels of the source, that Resize takes for these factors, to *pxFr and *pyFr: what ResizeShift wants.
+ * The mode is taken as it is, whatever the image's size. Checks: srcSize and srcRoi (huxStsBadSize), a first pixel
+ * outside the image (huxStsNoOverlapWarn), factors not above 0 (huxStsBadResizeFactor), null pointers (huxStsNullPtr),
+ * interpolation (huxStsBadInterpolation, also for huxiInterSuper). */
+HUX_API HuxStatus huxiGetResizeFract(HuxiSize srcSize, HuxiRect srcRoi, Hux64f xFactor, Hux64f yFactor, Hux64f* pxFr,
+                                     Hux64f* pyFr, HuxiInterpolation interpolation);
+
 /* ---- Resize to square pixels ---- */
 
 /* ---- Resize of packed YUV ---- */

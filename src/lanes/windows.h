@@ -1,0 +1,129 @@
+// Elements from places that a table tells: windows of 16 bytes, loaded from anywhere, in each of which bytes are picked
+// freely. Samples that lie close together, as those of neighbouring pixels of a resized image do, come with one load
+// and one shuffle for a vector of them.
+#pragma once
+
+#include <array>
+#include <utility>
+
+#include "lanes/lanes_sum.h"
+#include "lanes/simd.h"
+
+namespace hux {
+
+inline constexpr int kWindowBytes = 16;
+
+// Windows in a vector of the machine.
+inline constexpr int kWindows = kLaneBytes / kWindowBytes;
+
+// Whether picking is one instruction. Where it is not, tables of windows are not worth their making.
+#if defined(__SSSE3__)
+inline constexpr bool kPicks = kLaneBytes == 16 || kLaneBytes == 32 || kLaneBytes == 64;
+#else
+inline constexpr bool kPicks = false;
+#endif
+
+using WindowBytes = Lanes<Hux8u, kLaneBytes>;
+
+// Window w of the vector starts at row + at[w].
+inline WindowBytes loadWindows(const std::byte* row, const Index* at) {
+#if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512DQ__)
+  const auto quad = [&](int w) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(row + at[w])); };
+  const auto half = [&](int w) { return _mm256_inserti128_si256(_mm256_castsi128_si256(quad(w)), quad(w + 1), 1); };
+  return WindowBytes(_mm512_inserti64x4(_mm512_castsi256_si512(half(0)), half(2), 1));
+#elif defined(__AVX2__)
+  const auto quad = [&](int w) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(row + at[w])); };
+  return WindowBytes(_mm256_inserti128_si256(_mm256_castsi128_si256(quad(0)), quad(1), 1));
+#else
+  return loadLanes<WindowBytes>(row + at[0]);
+#endif
+}
+
+// Byte j of each window of the result is byte pick[j] of that window, or 0 where the pick has its top bit set.
+inline WindowBytes pickBytes(WindowBytes windows, WindowBytes pick) {
+#if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512DQ__)
+  return WindowBytes(_mm512_shuffle_epi8(__m512i(windows), __m512i(pick)));
+#elif defined(__AVX2__)
+  return WindowBytes(_mm256_shuffle_epi8(__m256i(windows), __m256i(pick)));
+#elif defined(__SSSE3__)
+  return WindowBytes(_mm_shuffle_epi8(__m128i(windows), __m128i(pick)));
+#else
+  WindowBytes v{};
+  for (int j = 0; j < kLaneBytes; ++j) v[j] = pick[j] & 0x80 ? 0 : windows[j / 16 * 16 + pick[j] % 16];
+  return v;
+#endif
+}
+
+// In each 16 bytes the lanes of a, then those of b, limited to the range of 16-bit lanes.
+template <class V>
+auto packWords(V a, V b) {
+  using Words = Lanes<Hux16s, 2 * lanesIn<V>>;
+  Words v;
+  for (int j = 0; j < lanesIn<V>; ++j) {
+    const auto limited = [](Hux32s i) { return Hux16s(i < -32768 ? -32768 : i > 32767 ? 32767 : i); };
+    v[j / 4 * 8 + j % 4] = limited(a[j]), v[j / 4 * 8 + 4 + j % 4] = limited(b[j]);
+  }
+  return v;
+}
+// The same from 16-bit lanes to bytes.
+template <class V>
+auto packBytes(V a, V b) {
+  using Bytes = Lanes<Hux8u, 2 * lanesIn<V>>;
+  Bytes v;
+  for (int j = 0; j < lanesIn<V>; ++j) {
+    const auto limited = [](Hux16s i) { return Hux8u(i < 0 ? 0 : i > 255 ? 255 : i); };
+    v[j / 8 * 16 + j % 8] = limited(a[j]), v[j / 8 * 16 + 8 + j % 8] = limited(b[j]);
+  }
+  return v;
+}
+#define HUX_PACKS(Bytes, Register, prefix)                                           \
+  inline auto packWords(Lanes<Hux32s, Bytes / 4> a, Lanes<Hux32s, Bytes / 4> b) {    \
+    return Lanes<Hux16s, Bytes / 2>(prefix##_packs_epi32(Register(a), Register(b))); \
+  }                                                                                  \
+  inline auto packBytes(Lanes<Hux16s, Bytes / 2> a, Lanes<Hux16s, Bytes / 2> b) {    \
+    return Lanes<Hux8u, Bytes>(prefix##_packus_epi16(Register(a), Register(b)));     \
+  }
+#if defined(__AVX512BW__)
+HUX_PACKS(64, __m512i, _mm512)
+#endif
+#if defined(__AVX2__)
+HUX_PACKS(32, __m256i, _mm256)
+#endif
+#if defined(__SSE2__)
+HUX_PACKS(16, __m128i, _mm)
+#endif
+#undef HUX_PACKS
+
+// Undoes the order that packing K vectors leaves: runs of 16 / K bytes, window by window.
+template <int K, class V>
+V inOrder(V v) {
+  if constexpr (sizeof(V) == kWindowBytes || K == 1) {
+    return v;
+  } else {
+    using E = std::conditional_t<K == 2, std::uint64_t, std::uint32_t>;
+    constexpr int windows = int(sizeof(V)) / kWindowBytes;
+    typedef E Runs __attribute__((vector_size(sizeof(V))));
+    return [&]<std::size_t... I>(std::index_sequence<I...>) {
+      return V(__builtin_shufflevector(Runs(v), Runs(v), (int(I) % windows * K + int(I) / windows)...));
+    }
+    (std::make_index_sequence<std::size_t(K * windows)>{});
+  }
+}
+
+// The lanes of K vectors of 32-bit lanes as one of elements of T, which they must fit but for bytes, which are limited.
+template <class T, class V, std::size_t K>
+auto narrowed(const std::array<V, K>& v) {
+  static_assert(K * sizeof(T) == 4);
+  using Narrow = Lanes<T, int(sizeof(V) / sizeof(T))>;
+  if constexpr (K == 1) {
+    return bitsAs<Narrow>(v[0]);
+  } else if constexpr (K == 2) {
+    // Signed words, from the middle of the range.
+    const auto words = packWords(v[0] - 32768, v[1] - 32768);
+    return inOrder<2>(Narrow(words) ^ T(0x8000));
+  } else {
+    return inOrder<4>(packBytes(packWords(v[0], v[1]), packWords(v[2], v[3])));
+  }
+}
+
+}  // namespace hux
