@@ -266,7 +266,122 @@ HUX_API HuxStatus huxiGetResizeFract(HuxiSize srcSize, HuxiRect srcRoi, Hux64f x
 
 /* ---- Resize to square pixels ---- */
 
+/* ResizeSqrPixel: the region srcRoi of an image, scaled by xFactor and yFactor and moved by xShift, yShift destination
+ * pixels, as squares of unit area: the centre of destination column i lies at (i + 0.5) / xFactor - 0.5 - xShift /
+ * xFactor in the source, a row likewise; each position is computed afresh, in double precision. pSrc and pDst address
+ * the first pixels of both images, and both regions count from there. Of the source region, what overruns the image
+ * srcSize is cut off. Written are the pixels of dstRoi that come from the source region: columns from
+ * max(dstRoi.x, srcRoi.x xFactor + xShift) up to, but without, min(dstRoi.x + dstRoi.width,
+ * (srcRoi.x + srcRoi.width) xFactor + xShift), each rounded, and rows likewise; if the first lies behind the end,
+ * nothing is done and the result is huxStsEmptyDestWarn.
+ *
+ * Interpolation is that of Resize, by huxiInterNearest, huxiInterLinear, huxiInterCubic or huxiInterLanczos, with the
+ * same rules for small images; beyond the image's edge its outer pixels are repeated. In linear mode an integer pixel
+ * there is rounded once, an inner one in each of the two directions. AC4: alpha of the destination stays. Images may
+ * not overlap.
+ *
+ * pBuffer is work memory of the size that huxiResizeSqrPixelGetBufSize tells; calls at the same time need one each.
+ * Checks: null pointers, planes included (huxStsNullPtr); srcSize, an x or y of srcRoi and dstRoi below 0, their widths
+ * and heights below 1 (huxStsBadSize); factors not above 0 (huxStsBadResizeFactor); interpolation
+ * (huxStsBadInterpolation); a first pixel of srcRoi outside the image (huxStsNoOverlapWarn, nothing is done). Steps are
+ * not checked. */
+HUX_API HuxStatus huxiResizeSqrPixel_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux8u* pDst, int dstStep, HuxiRect dstRoi, Hux64f xFactor, Hux64f yFactor,
+                                            Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation,
+                                            Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux8u* pDst, int dstStep, HuxiRect dstRoi, Hux64f xFactor, Hux64f yFactor,
+                                            Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation,
+                                            Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux8u* pDst, int dstStep, HuxiRect dstRoi, Hux64f xFactor, Hux64f yFactor,
+                                             Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation,
+                                             Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux8u* pDst, int dstStep, HuxiRect dstRoi, Hux64f xFactor, Hux64f yFactor,
+                                            Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation,
+                                            Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux8u* const pDst[3], int dstStep, HuxiRect dstRoi, Hux64f xFactor,
+                                            Hux64f yFactor, Hux64f xShift, Hux64f yShift,
+                                            HuxiInterpolation interpolation, Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux8u* const pDst[4], int dstStep, HuxiRect dstRoi, Hux64f xFactor,
+                                            Hux64f yFactor, Hux64f xShift, Hux64f yShift,
+                                            HuxiInterpolation interpolation, Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux16u* pDst, int dstStep, HuxiRect dstRoi, Hux64f xFactor, Hux64f yFactor,
+                                             Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation,
+                                             Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux16u* pDst, int dstStep, HuxiRect dstRoi, Hux64f xFactor, Hux64f yFactor,
+                                             Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation,
+                                             Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              Hux16u* pDst, int dstStep, HuxiRect dstRoi, Hux64f xFactor,
+                                              Hux64f yFactor, Hux64f xShift, Hux64f yShift,
+                                              HuxiInterpolation interpolation, Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux16u* pDst, int dstStep, HuxiRect dstRoi, Hux64f xFactor, Hux64f yFactor,
+                                             Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation,
+                                             Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                             HuxiRect srcRoi, Hux16u* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                             Hux64f xFactor, Hux64f yFactor, Hux64f xShift, Hux64f yShift,
+                                             HuxiInterpolation interpolation, Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                             HuxiRect srcRoi, Hux16u* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                             Hux64f xFactor, Hux64f yFactor, Hux64f xShift, Hux64f yShift,
+                                             HuxiInterpolation interpolation, Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux32f* pDst, int dstStep, HuxiRect dstRoi, Hux64f xFactor, Hux64f yFactor,
+                                             Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation,
+                                             Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux32f* pDst, int dstStep, HuxiRect dstRoi, Hux64f xFactor, Hux64f yFactor,
+                                             Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation,
+                                             Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              Hux32f* pDst, int dstStep, HuxiRect dstRoi, Hux64f xFactor,
+                                              Hux64f yFactor, Hux64f xShift, Hux64f yShift,
+                                              HuxiInterpolation interpolation, Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux32f* pDst, int dstStep, HuxiRect dstRoi, Hux64f xFactor, Hux64f yFactor,
+                                             Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation,
+                                             Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                             HuxiRect srcRoi, Hux32f* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                             Hux64f xFactor, Hux64f yFactor, Hux64f xShift, Hux64f yShift,
+                                             HuxiInterpolation interpolation, Hux8u* pBuffer);
+HUX_API HuxStatus huxiResizeSqrPixel_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                             HuxiRect srcRoi, Hux32f* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                             Hux64f xFactor, Hux64f yFactor, Hux64f xShift, Hux64f yShift,
+                                             HuxiInterpolation interpolation, Hux8u* pBuffer);
+
+/* The bytes of work memory for a destination region of that size, to *pSize; nChannels is 1 for planes.
+ * Checks: null pointer (huxStsNullPtr), size (huxStsBadSize), nChannels not 1, 3 or 4 (huxStsBadChannelCount),
+ * interpolation (huxStsBadInterpolation). */
+HUX_API HuxStatus huxiResizeSqrPixelGetBufSize(HuxiSize dstSize, int nChannels, HuxiInterpolation interpolation,
+                                               int* pSize);
+
 /* ---- Resize of packed YUV ---- */
+
+/* ResizeYUV422: Resize of packed 4:2:2, in which two pixels are four bytes, Y0 U Y1 V. Widths and x count pixels. The
+ * region begins at byte 4 srcRoi.x of a row (four bytes for each unit of x, deliberately); no sample behind the last
+ * pair of the image's row, and no row behind its last, is read. Y is resampled as a row of srcRoi.width samples, U and
+ * V as rows of half as many; in nearest mode pair k takes its U and V from the pair whose number is that of the sample
+ * that column k would take. The destination has as many pixels as with Resize, at least two, and at least 1.5 columns
+ * count as two; an odd last column is not written.
+ * Interpolation: huxiInterNearest, huxiInterLinear, huxiInterCubic, huxiInterSuper, as in Resize; a width below 8 or a
+ * height below 4 of the whole image makes cubic linear, a width below 4 or a height below 2 makes both nearest.
+ * Checks: null pointers (huxStsNullPtr); srcSize, srcRoi's x or y below 0, its width or height below 1 (huxStsBadSize);
+ * a first pixel of srcRoi outside the image (huxStsNoOverlapWarn, nothing is done); dstRoiSize, an odd srcSize.width,
+ * srcRoi.width or srcRoi.x, a dstRoiSize.width below 2 (huxStsBadSize); factors not above 0 (huxStsBadResizeFactor);
+ * interpolation (huxStsBadInterpolation); huxiInterSuper with a factor above 1 (huxStsBadResizeFactor); a result of
+ * less than 1.5 columns or half a row (huxStsResizeTooSmall). Supersampling may end with huxStsNoMem. */
+HUX_API HuxStatus huxiResizeYUV422_8u_C2R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* pDst, int dstStep, HuxiSize dstRoiSize, Hux64f xFactor, Hux64f yFactor,
+                                          HuxiInterpolation interpolation);
 
 /* ---- Affine warps, rotation and shear ---- */
 

@@ -1,5 +1,6 @@
 // Resize: a region scaled by factors of x and y, about a point, or by given steps.
 #include "core/stamp.h"
+#include "geometry/modes.h"
 #include "geometry/resize_super.h"
 #include "huxi_geometry.h"
 
@@ -19,36 +20,10 @@ struct Call {
   HuxiInterpolation interpolation;
 };
 
-HuxStatus positive(Hux64f x, Hux64f y) { return failUnless(x > 0 && y > 0, huxStsBadResizeFactor); }
-
-bool isMode(HuxiInterpolation i) {
-  return i == huxiInterNearest || i == huxiInterLinear || i == huxiInterCubic || i == huxiInterLanczos;
-}
-
 // Supersampling only shrinks.
 bool isSuper(const Call& c) { return c.interpolation == huxiInterSuper && !c.bySteps && !(c.x > 1) && !(c.y > 1); }
 
-// The mode that the image has room for.
-HuxiInterpolation modeFor(HuxiSize image, HuxiInterpolation mode) {
-  const int least = std::min(image.width, image.height);
-  if (mode == huxiInterLanczos && least < 8) mode = huxiInterCubic;
-  if (mode == huxiInterCubic && least < 4) mode = huxiInterLinear;
-  return least < 2 ? HuxiInterpolation(huxiInterNearest) : mode;
-}
-
-// In interpolating modes the first and the last pixel of both sides coincide.
-Hux64f stepOf(int extent, Hux64f factor, HuxiInterpolation mode) {
-  if (mode == huxiInterNearest) return 1 / factor;
-  return extent * factor > 1 ? (extent - 1) / (extent * factor - 1) : 0;
-}
-
-// Pixels of the destination, up to `most`; 0 where there is less than half of one.
-Index countOf(int extent, Hux64f factor, int most) {
-  const Hux64f exact = extent * factor + 1e-7;
-  if (exact >= most) return most;
-  return exact >= 1 ? Index(exact) : exact >= 0.5;
-}
-// The same by steps. What reaches the last pixel but one of the destination fills it.
+// Pixels of the destination by steps: what reaches its last pixel but one fills it.
 Index countBySteps(int extent, Hux64f step, int most, HuxiInterpolation mode) {
   const bool nearest = mode == huxiInterNearest;
   const Hux64f whole = std::trunc((nearest ? extent : extent - 1) / step + 1e-7);
@@ -67,7 +42,7 @@ HuxStatus ownviResize(const Call& c) {
   const bool super = isSuper(c);
   if (HuxStatus s = check(pointers(c.src.argument, c.dst.argument), planes(c.format, c.src, c.dst), size(c.srcSize),
                           rectangle(c.srcRoi), overlap(c.srcSize, c.srcRoi), size(c.dstSize), positive(c.x, c.y),
-                          failUnless(super || isMode(c.interpolation), huxStsBadInterpolation)))
+                          super ? HuxStatus(huxStsOk) : resizeMode(c.interpolation)))
     return s;
   const HuxiRect roi = commonPart(c.srcSize, c.srcRoi);
   const HuxiInterpolation mode = modeFor(c.srcSize, c.interpolation);
@@ -135,7 +110,7 @@ HuxStatus ownviResizeCenter(Call c, Hux64f xCenter, Hux64f yCenter) {
 HuxStatus getResizeFract(HuxiSize srcSize, HuxiRect srcRoi, Hux64f xFactor, Hux64f yFactor, Hux64f* pxFr, Hux64f* pyFr,
                          HuxiInterpolation interpolation) {
   if (HuxStatus s = check(size(srcSize), rectangle(srcRoi), overlap(srcSize, srcRoi), positive(xFactor, yFactor),
-                          pointers(pxFr, pyFr), failUnless(isMode(interpolation), huxStsBadInterpolation)))
+                          pointers(pxFr, pyFr), resizeMode(interpolation)))
     return s;
   const HuxiRect roi = commonPart(srcSize, srcRoi);
   *pxFr = stepOf(roi.width, xFactor, interpolation);

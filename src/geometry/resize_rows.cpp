@@ -95,14 +95,7 @@ void nearest(const ResizePlane& p) {
     for (Index y = 0; y < p.y.count; ++y) {
       const std::byte* row = p.src + rows.nextNearest() * p.srcStep;
       std::byte* to = dst + y * p.dstStep;
-      Index done = 0;
-      const auto pick = [&]<int PerLane>(std::integral_constant<int, PerLane>) {
-        for (Index lane = 0; lane < runs; lane += kWindows)
-          storeLanes(to + lane * kWindowBytes, windows.pick<PerLane>(row, lane));
-        done = runs * kWindowBytes / pixelBytes;
-      };
-      if (windows.perLane() == 1) pick(std::integral_constant<int, 1>{});
-      if (windows.perLane() == 2) pick(std::integral_constant<int, 2>{});
+      const Index done = windows.copy(row, to, runs) / pixelBytes;
       const auto move = [&]<std::size_t Bytes>(std::integral_constant<std::size_t, Bytes>) {
         movePixels<Bytes>(row, offsets + done, to + done * pixelBytes, pixelBytes, n - done);
       };

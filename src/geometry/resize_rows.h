@@ -43,6 +43,14 @@ class Windows {
     return v;
   }
 
+  // Writes the bytes of all lanes, whole vectors of them, and returns their number: 0 where there are no windows.
+  Index copy(const std::byte* row, std::byte* dst, Index lanes) const {
+    if (perLane_ == 0) return 0;
+    for (Index lane = 0; lane < lanes; lane += kWindows)
+      storeLanes(dst + lane * kWindowBytes, perLane_ == 1 ? pick<1>(row, lane) : pick<2>(row, lane));
+    return lanes * kWindowBytes;
+  }
+
  private:
   template <class From>
   bool fits(Index lanes, Index rowBytes, From from) {
