@@ -304,12 +304,9 @@ class FloatColumns {
   void gather(const std::byte* row, Hux32f* line, Index from, Index to, Offset offset) const {
     for (Index e = from; e < to; e += kLanes) {
       Floats p[Mode::taps];
-      for (int k = 0; k < Mode::taps; ++k) {
-        Hux32f taps[kLanes];
-        for (int i = 0; i < kLanes; ++i)
-          taps[i] = Hux32f(T(*reinterpret_cast<const Element<T>*>(row + offset(e + i, k))));
-        p[k] = loadLanes<Floats>(taps);
-      }
+      for (int k = 0; k < Mode::taps; ++k)
+        p[k] = collected<Floats>(
+            [&](int i) { return Hux32f(T(*reinterpret_cast<const Element<T>*>(row + offset(e + i, k)))); });
       storeLanes(line + e, combined(p, e));
     }
   }

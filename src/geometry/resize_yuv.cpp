@@ -115,7 +115,7 @@ void ownResizeYUY2cubic(const Packed& p) {
         for (Index i = 0; i < padded(4 * n); i += lanesIn<Floats>) {
           Floats samples[4], w[3];
           for (int k = 0; k < 4; ++k)
-            for (int j = 0; j < lanesIn<Floats>; ++j) samples[k][j] = Hux32f(bytes[at[k][i + j]]);
+            samples[k] = collected<Floats>([&](int j) { return Hux32f(bytes[at[k][i + j]]); });
           for (int k = 0; k < 3; ++k) w[k] = loadLanes<Floats>(weights[k] + i);
           storeLanes(line + i, Cubic::along(samples, w));
         }
