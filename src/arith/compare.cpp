@@ -31,16 +31,23 @@ struct Within {
   }
 };
 
-// The result of a test as bytes of 255 and 0. Half the width at a time is what every machine can do.
+// The result of a test, 0 and -1, as signed bytes or where it narrows with others of its kind. Half the width at a time
+// is what every machine can do.
 template <class V>
-Lanes<Hux8u, lanesIn<V>> bytesOf(V holds) {
-  if constexpr (sizeof(LaneType<V>) == 1 || detail::kSaturates<Hux8s, V>)
-    return bitsAs<Lanes<Hux8u, lanesIn<V>>>(saturate<Hux8s>(holds));
+auto bytesOf(V holds) {
+  if constexpr (sizeof(LaneType<V>) == 1)
+    return Lanes<Hux8s, lanesIn<V>>(holds);
+  else if constexpr (kJoined<Hux8s, V> > 1)
+    return holds;
+  else if constexpr (detail::kSaturates<Hux8s, V>)
+    return saturate<Hux8s>(holds);
   else if constexpr (sizeof(LaneType<V>) == 4)
     return bytesOf(convert<Hux16s>(holds));
   else
-    return convert<Hux8u>(holds);
+    return convert<Hux8s>(holds);
 }
+// Marks of 255 and 0 are written as such.
+inline Element<Hux8s>* signedBytes(Element<Hux8u>* bytes) { return reinterpret_cast<Element<Hux8s>*>(bytes); }
 
 // The rule that writes a test's result as bytes of 255 and 0.
 template <class T, class Test>
@@ -48,7 +55,7 @@ struct Marks {
   static constexpr int lanes = sizeof(T) < 4 ? streamLanes<T> : laneCount<T>;  // floats have far to narrow
   using V = Lanes<T, lanes>;
   Test test;
-  Lanes<Hux8u, lanes> operator()(V a, V b) const { return bytesOf(test(a, b)); }
+  auto operator()(V a, V b) const { return bytesOf(test(a, b)); }
 };
 
 // The rule that joins the marks of a pixel's four channels, taken as one word; `ignored` are the bits of those that do
@@ -56,7 +63,7 @@ struct Marks {
 struct AllFour {
   static constexpr int lanes = laneCount<Hux32u>;
   Hux32u ignored;
-  Lanes<Hux8u, lanes> operator()(Lanes<Hux32u, lanes> marks) const { return bytesOf((marks | ignored) == ~Hux32u(0)); }
+  auto operator()(Lanes<Hux32u, lanes> marks) const { return bytesOf((marks | ignored) == ~Hux32u(0)); }
 };
 
 // The marks of n pixels from those of their elements.
@@ -64,7 +71,7 @@ template <class L>
 void joinMarks(const Hux8u* marks, Element<Hux8u>* dst, Index n) {
   if constexpr (L::channels == 4) {
     constexpr Hux8u ignored[4] = {0, 0, 0, L::processed == 4 ? 0 : 255};
-    mapRow<C1>(elementsAs<Hux32u>(marks), dst, n, AllFour{std::bit_cast<Hux32u>(ignored)});
+    mapRow<C1>(elementsAs<Hux32u>(marks), signedBytes(dst), n, AllFour{std::bit_cast<Hux32u>(ignored)});
   } else {
     for (Index i = 0; i < n; ++i) dst[i] = marks[3 * i] & marks[3 * i + 1] & marks[3 * i + 2];
   }
@@ -92,7 +99,7 @@ void markPairs(Test test, const T* pSrc1, int src1Step, const T* pSrc2, int src2
   forEachRow(roi, rows<L>(pSrc1, src1Step), rows<L>(pSrc2, src2Step), rows<C1>(pDst, dstStep),
              [=](auto* a, auto* b, auto* dst, Index n) {
                markRow<L>(dst, n, [=](auto* to, Index first, Index count) {
-                 zipRow<C1>(a + first, b + first, to, count, Marks<T, Test>{test});
+                 zipRow<C1>(a + first, b + first, signedBytes(to), count, Marks<T, Test>{test});
                });
              });
 }
@@ -103,7 +110,7 @@ void markAgainst(Test test, const T* pSrc, int srcStep, const T* pPixel, Hux8u* 
   const Repeat<L, T, Rule::lanes> constants(elements(pPixel));
   forEachRow(roi, rows<L>(pSrc, srcStep), rows<C1>(pDst, dstStep), [=](auto* src, auto* dst, Index n) {
     markRow<L>(dst, n, [=](auto* to, Index first, Index count) {
-      applyRule<C1>(to, count, Rule{test}, Stream<T, Rule::lanes>{src + first}, constants);
+      applyRule<C1>(signedBytes(to), count, Rule{test}, Stream<T, Rule::lanes>{src + first}, constants);
     });
   });
 }

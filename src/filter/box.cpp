@@ -206,8 +206,7 @@ HuxStatus ownBlur(const Box<T>& b, Sums sums) {
     own.start(slice, windows.row(share.first));
     const Index some = overlap ? 1 : share.count, end = share.first + share.count;
     for (Index first = share.first; first < end; first += some)
-      own.rows(windows.from(first), some, std::min(some, end - 1 - first),
-               [&](Index y) { return dst.row(first + y); });
+      own.rows(windows.from(first), some, std::min(some, end - 1 - first), [&](Index y) { return dst.row(first + y); });
   });
 }
 

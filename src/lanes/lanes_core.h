@@ -73,7 +73,8 @@ V greater(V a, V b) {
   return a > b ? a : b;
 }
 
-// The machine's instructions are these very selections, but GCC takes them apart for the widest vectors.
+// The machine's instructions are these very selections, but GCC takes them apart for the widest vectors, and for floats
+// where one side is a constant.
 #if defined(__AVX512BW__) && defined(__AVX512VL__)
 #define HUX_SELECT(name, Type, N, Register, instruction)              \
   inline Lanes<Type, N> name(Lanes<Type, N> a, Lanes<Type, N> b) {    \
@@ -93,6 +94,31 @@ HUX_SELECT_INTEGER(Hux32u, 16, epu32)
 HUX_SELECT_INTEGER(Hux32s, 16, epi32)
 HUX_SELECT_INTEGER(Hux64s, 8, epi64)
 #undef HUX_SELECT_INTEGER
+#undef HUX_SELECT
+#elif defined(__SSE2__)
+#define HUX_SELECT(Type, bytes, instructions)                                             \
+  inline Lanes<Type, bytes / sizeof(Type)> lesser(Lanes<Type, bytes / sizeof(Type)> a,    \
+                                                  Lanes<Type, bytes / sizeof(Type)> b) {  \
+    return instructions(min)(a, b);                                                       \
+  }                                                                                       \
+  inline Lanes<Type, bytes / sizeof(Type)> greater(Lanes<Type, bytes / sizeof(Type)> a,   \
+                                                   Lanes<Type, bytes / sizeof(Type)> b) { \
+    return instructions(max)(a, b);                                                       \
+  }
+#if defined(__AVX2__)
+#define HUX_PS(name) _mm256_##name##_ps
+#define HUX_PD(name) _mm256_##name##_pd
+HUX_SELECT(Hux32f, 32, HUX_PS)
+HUX_SELECT(Hux64f, 32, HUX_PD)
+#undef HUX_PS
+#undef HUX_PD
+#endif
+#define HUX_PS(name) _mm_##name##_ps
+#define HUX_PD(name) _mm_##name##_pd
+HUX_SELECT(Hux32f, 16, HUX_PS)
+HUX_SELECT(Hux64f, 16, HUX_PD)
+#undef HUX_PS
+#undef HUX_PD
 #undef HUX_SELECT
 #endif
 

@@ -1,6 +1,8 @@
 // What mathematical functions on lanes are made of: square roots, fused products, look-ups in small tables.
 #pragma once
 
+#include <array>
+#include <bit>
 #include <cmath>
 #include <utility>
 
@@ -20,6 +22,28 @@ V squareRoot(V v) {
 template <class V>
 V mulAdd(V a, V b, V c) {
   return a * b + c;
+}
+
+// A polynomial, lowest power first, by powers of two: many short chains of dependent operations in place of a long one.
+// Rounded as mulAdd is.
+namespace detail {
+template <std::size_t First, std::size_t N, class V, std::size_t All>
+V polynomialPart(const std::array<LaneType<V>, All>& terms, const V* powers) {
+  if constexpr (N == 1) {
+    return splat<V>(terms[First]);
+  } else {
+    constexpr std::size_t half = std::bit_floor(N - 1);
+    return mulAdd(polynomialPart<First + half, N - half>(terms, powers), powers[std::countr_zero(half)],
+                  polynomialPart<First, half>(terms, powers));
+  }
+}
+}  // namespace detail
+template <class V, std::size_t N>
+V polynomial(const std::array<LaneType<V>, N>& terms, V x) {
+  constexpr int count = std::bit_width(N - 1);
+  V powers[count] = {x};
+  for (int i = 1; i < count; ++i) powers[i] = powers[i - 1] * powers[i - 1];
+  return detail::polynomialPart<0, N>(terms, powers);
 }
 
 // Whether some lane of a comparison's result holds.

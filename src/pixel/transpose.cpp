@@ -128,10 +128,14 @@ void transposeBlock(const std::byte* src, Index srcStep, std::byte* dst, Index d
 
 // In tiles, so that the pages of both images are used well before they are left, and that what a strip has written of
 // the destination's lines is still in the cache when the next strip adds the rest: rows of large pixels are often so
-// far apart that their lines compete for few places.
+// far apart that their lines compete for few places. Where a vector is less than a line, a tile is as narrow as a line
+// of the source, since the rest of each line of the destination is written when as many lines have been begun as the
+// tile has columns.
 template <int Bytes, bool Stream>
 void transposeTiles(Plane<Bytes> src, Plane<Bytes> dst, Index width, Index top, Index bottom) {
-  constexpr Index tileHeight = 512, tileWidth = Stream || Bytes <= 4 ? 512 : 256 / Bytes;
+  constexpr Index tileHeight = 512, tileWidth = simd::kBytes < 64      ? std::max(64 / Bytes, 4)
+                                                : Stream || Bytes <= 4 ? 512
+                                                                       : 256 / Bytes;
   for (Index y = top; y < bottom; y += tileHeight)
     for (Index x = 0; x < width; x += tileWidth)
       transposeBlock<Bytes, Stream>(src.at(x, y), src.step, dst.at(y, x), dst.step, std::min(tileWidth, width - x),

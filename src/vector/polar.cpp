@@ -1,4 +1,5 @@
 // Magnitude, Phase and PolarToCart on vectors, in double precision.
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -73,14 +74,6 @@ struct ScaledMagnitude {
   }
 };
 
-// A polynomial, highest power first.
-template <std::size_t N>
-Doubles polynomial(const Hux64f (&terms)[N], Doubles v) {
-  Doubles sum = splat<Doubles>(terms[0]);
-  for (std::size_t i = 1; i < N; ++i) sum = mulAdd(sum, v, splat<Doubles>(terms[i]));
-  return sum;
-}
-
 // The angle of (re, im), to within a relative 2^-44; of (0, 0) it is that of 0 over something. Where an argument is not
 // finite it is right or not a number.
 Doubles angle(Doubles im, Doubles re) {
@@ -90,9 +83,9 @@ Doubles angle(Doubles im, Doubles re) {
   // atan(t) is pi/4 + atan((t - 1) / (t + 1)), which keeps the argument below tan(pi/8).
   const auto far = low > high * (std::numbers::sqrt2 - 1);
   const Doubles t = (far ? low - high : low) / (far ? low + high : high), u = t * t;
-  constexpr Hux64f kSeries[] = {0x1.f653681b774dbp-6,  -0x1.e1392c03e886dp-5, 0x1.35ce9b8d66a29p-4,
-                                -0x1.73d9c2015f279p-4, 0x1.c714d3112b2c0p-4,  -0x1.2492291436381p-3,
-                                0x1.99999911a2643p-3,  -0x1.55555554e5d36p-2, 0x1.fffffffffff0ep-1};
+  constexpr std::array<Hux64f, 9> kSeries = {0x1.fffffffffff0ep-1,  -0x1.55555554e5d36p-2, 0x1.99999911a2643p-3,
+                                             -0x1.2492291436381p-3, 0x1.c714d3112b2c0p-4,  -0x1.73d9c2015f279p-4,
+                                             0x1.35ce9b8d66a29p-4,  -0x1.e1392c03e886dp-5, 0x1.f653681b774dbp-6};
   Doubles result = mulAdd(polynomial(kSeries, u), t, far ? splat<Doubles>(std::numbers::pi / 4) : Doubles{});
   result = steep ? std::numbers::pi / 2 - result : result;
   result = bitsAs<Longs>(re) < 0 ? std::numbers::pi - result : result;
@@ -223,10 +216,10 @@ struct LibraryCartesian {
     const Doubles k = bitsAs<Doubles>(quadrant) - 0x1.8p52;
     // pi/2 in three parts, of which the first two have so few digits that their multiples are exact.
     const Doubles r = ((phase - k * 0x1.921fbp+0) - k * 0x1.5110b4p-22) - k * 0x1.8469898cc5170p-48, z = r * r;
-    constexpr Hux64f kSine[] = {0x1.5e0b05bff20f2p-33,  -0x1.ae600aca92c64p-26, 0x1.71de379654304p-19,
-                                -0x1.a01a019e83816p-13, 0x1.1111111110bb2p-7,   -0x1.5555555555555p-3};
-    constexpr Hux64f kCosine[] = {0x1.1c81b3862d88cp-29, -0x1.27e25f2996b83p-22, 0x1.a019ff537986cp-16,
-                                  -0x1.6c16c16b613d3p-10, 0x1.5555555555437p-5};
+    constexpr std::array<Hux64f, 6> kSine = {-0x1.5555555555555p-3, 0x1.1111111110bb2p-7,   -0x1.a01a019e83816p-13,
+                                             0x1.71de379654304p-19, -0x1.ae600aca92c64p-26, 0x1.5e0b05bff20f2p-33};
+    constexpr std::array<Hux64f, 5> kCosine = {0x1.5555555555437p-5, -0x1.6c16c16b613d3p-10, 0x1.a019ff537986cp-16,
+                                               -0x1.27e25f2996b83p-22, 0x1.1c81b3862d88cp-29};
     const Doubles s = r + r * z * polynomial(kSine, z), c = (1.0 - 0.5 * z) + z * z * polynomial(kCosine, z);
     const auto turned = [&](Doubles v, Longs quarter) {
       return bitsAs<Doubles>(bitsAs<Longs>(v) ^ ((quarter >> 1) << 63));

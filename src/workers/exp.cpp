@@ -79,9 +79,7 @@ struct ExpByPolynomial {
   template <class D>
   D operator()(D x) const {
     const auto [n, r] = Reduced<D>(x, std::numbers::ln2);
-    D p = splat<D>(kTerms[8]);
-    for (std::size_t k = 8; k-- > 0;) p = mulAdd(p, r, splat<D>(kTerms[k]));
-    return bitsAs<D>(bitsAs<decltype(+n)>(p) + (n << std::uint64_t(52)));
+    return bitsAs<D>(bitsAs<decltype(+n)>(polynomial(kTerms, r)) + (n << std::uint64_t(52)));
   }
 };
 

@@ -1,6 +1,7 @@
 // The natural logarithm, for tables made at compile time and, as an approximation of known error, on lanes.
 #pragma once
 
+#include <array>
 #include <bit>
 #include <numbers>
 
@@ -71,12 +72,12 @@ struct LogarithmByTable : LogarithmBase {
 
 // log z = 2 (t + t^3 / 3 + t^5 / 5 + ...) with t = (z - 1) / (z + 1), which is below 0.178.
 struct LogarithmBySeries : LogarithmBase {
+  static constexpr std::array<Hux64f, 7> kTerms = {2, 2.0 / 3, 2.0 / 5, 2.0 / 7, 2.0 / 9, 2.0 / 11, 2.0 / 13};
+
   D operator()(D x) const {
     const Split s(x);
-    const D t = (s.z - 1.0) / (s.z + 1.0), square = t * t;
-    D p = splat<D>(2.0 / 13);
-    for (int k = 11; k >= 1; k -= 2) p = mulAdd(p, square, splat<D>(2.0 / k));
-    return mulAdd(p, t, s.e * kE);
+    const D t = (s.z - 1.0) / (s.z + 1.0);
+    return mulAdd(polynomial(kTerms, D(t * t)), t, s.e * kE);
   }
 };
 

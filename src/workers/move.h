@@ -128,6 +128,24 @@ void moveEach(const SrcRow& src, const DstRow& dst, Index first, Index n) {
     for (int c = 0; c < Taken; ++c) Dst::at(dst, i, c) = Src::at(src, i, c);
 }
 
+// The same between sides that lie apart, where the order does not show: several pixels at a time, and the elements of a
+// pixel together where they stand together on both sides.
+template <class Src, class Dst, int Taken, class SrcRow, class DstRow>
+void moveApart(const SrcRow& src, const DstRow& dst, Index first, Index n) {
+  constexpr bool together =
+      std::is_same_v<Src, Interleaved<Src::stride>> && std::is_same_v<Dst, Interleaved<Dst::stride>> && Taken > 1;
+  const auto one = [&](Index i) {
+    if constexpr (together)
+      std::memcpy(&Dst::at(dst, i, 0), &Src::at(src, i, 0), Taken * sizeof(Dst::at(dst, i, 0)));
+    else
+      for (int c = 0; c < Taken; ++c) Dst::at(dst, i, c) = Src::at(src, i, c);
+  };
+  constexpr Index many = 8;
+  for (; first + many <= n; first += many)
+    for (Index i = 0; i < many; ++i) one(first + i);
+  for (; first < n; ++first) one(first);
+}
+
 // Moves `Taken` elements of each of n pixels of type W. Destinations of which every byte is written can be streamed.
 template <class W, class Src, class Dst, int Taken, class SrcRow, class DstRow>
 void moveRow(SrcRow src, DstRow dst, Index n, bool streaming = false) {
@@ -181,6 +199,8 @@ void moveRow(SrcRow src, DstRow dst, Index n, bool streaming = false) {
         return;
       }
     }
+  } else if (apart<Src, Dst>(src, dst, n, bytes)) {
+    return moveApart<Src, Dst, Taken>(src, dst, 0, n);
   }
   moveEach<Src, Dst, Taken>(src, dst, i, n);
 }
