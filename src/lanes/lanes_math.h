@@ -233,35 +233,6 @@ struct LaneTable<Hux8u, 256> {
 };
 #endif
 #elif defined(__AVX2__)
-// A table of 256 bytes, looked up by shuffles of 16. Vector k of the table holds what its 16 bytes differ by from the
-// 16 before them; an index, lowered by 16 again and again, selects from all up to its own, and then is negative, which
-// selects 0. The upper half of the table is reached by indices with the top bit inverted.
-struct ByteShuffles {
-  using V = Lanes<Hux8u, 32>;
-  V parts[16];
-  explicit ByteShuffles(const Hux8u* table) {
-    for (int k = 0; k < 16; ++k) {
-      __m128i part = _mm_loadu_si128(reinterpret_cast<const __m128i*>(table) + k);
-      if (k % 8 != 0) part = _mm_xor_si128(part, _mm_loadu_si128(reinterpret_cast<const __m128i*>(table) + k - 1));
-      parts[k] = V(_mm256_broadcastsi128_si256(part));
-    }
-  }
-  template <std::size_t N>
-  std::array<V, N> operator()(std::array<V, N> index) const {
-    std::array<V, N> result{};
-    for (int half = 0; half < 2; ++half) {
-      std::array<V, N> at = index;
-      for (int k = 0; k < 8; ++k)
-        for (std::size_t i = 0; i < N; ++i) {
-          result[i] ^= V(_mm256_shuffle_epi8(__m256i(parts[8 * half + k]), __m256i(at[i])));
-          at[i] = V(_mm256_subs_epi8(__m256i(at[i]), _mm256_set1_epi8(16)));
-        }
-      for (V& v : index) v ^= 0x80;
-    }
-    return result;
-  }
-};
-
 inline Lanes<Hux32f, 8> squareRoot(Lanes<Hux32f, 8> v) { return _mm256_sqrt_ps(v); }
 inline Lanes<Hux64f, 4> squareRoot(Lanes<Hux64f, 4> v) { return _mm256_sqrt_pd(v); }
 inline Lanes<Hux64s, 4> mulLow(Lanes<Hux64s, 4> a, Lanes<Hux64s, 4> b) {
@@ -292,6 +263,37 @@ inline Lanes<Hux64f, 2> mulAdd(Lanes<Hux64f, 2> a, Lanes<Hux64f, 2> b, Lanes<Hux
 inline Lanes<Hux32f, 4> mulAdd(Lanes<Hux32f, 4> a, Lanes<Hux32f, 4> b, Lanes<Hux32f, 4> c) {
   return Lanes<Hux32f, 4>(vfmaq_f32(float32x4_t(c), float32x4_t(a), float32x4_t(b)));
 }
+#endif
+
+#if defined(__AVX2__) && !defined(__AVX512VBMI__)
+// A table of 256 bytes, looked up by shuffles of 16. Vector k of the table holds what its 16 bytes differ by from the
+// 16 before them; an index, lowered by 16 again and again, selects from all up to its own, and then is negative, which
+// selects 0. The upper half of the table is reached by indices with the top bit inverted.
+struct ByteShuffles {
+  using V = Lanes<Hux8u, 32>;
+  V parts[16];
+  explicit ByteShuffles(const Hux8u* table) {
+    for (int k = 0; k < 16; ++k) {
+      __m128i part = _mm_loadu_si128(reinterpret_cast<const __m128i*>(table) + k);
+      if (k % 8 != 0) part = _mm_xor_si128(part, _mm_loadu_si128(reinterpret_cast<const __m128i*>(table) + k - 1));
+      parts[k] = V(_mm256_broadcastsi128_si256(part));
+    }
+  }
+  template <std::size_t N>
+  std::array<V, N> operator()(std::array<V, N> index) const {
+    std::array<V, N> result{};
+    for (int half = 0; half < 2; ++half) {
+      std::array<V, N> at = index;
+      for (int k = 0; k < 8; ++k)
+        for (std::size_t i = 0; i < N; ++i) {
+          result[i] ^= V(_mm256_shuffle_epi8(__m256i(parts[8 * half + k]), __m256i(at[i])));
+          at[i] = V(_mm256_subs_epi8(__m256i(at[i]), _mm256_set1_epi8(16)));
+        }
+      for (V& v : index) v ^= 0x80;
+    }
+    return result;
+  }
+};
 #endif
 
 }  // namespace hux

@@ -38,12 +38,14 @@ class Shuffles {
   static constexpr bool whole = L::processed == L::channels;
 
   explicit Shuffles(ChannelOrder order) {
+    simd::Vec index[vectors];
     for (int at = 0; at < vectors * simd::kBytes; ++at) {
       const int channel = at % pixelBytes / int(sizeof(W)), k = at / simd::kBytes;
       const int from = channel < 3 ? at + (order.from[channel] - channel) * int(sizeof(W)) : at;
       const int inFirst = from - firstWindow(k), inLast = from - lastWindow(k);
-      index_[k][at % simd::kBytes] = std::uint8_t(inFirst < simd::kBytes ? inFirst : simd::kBytes + inLast);
+      index[k][at % simd::kBytes] = std::uint8_t(inFirst < simd::kBytes ? inFirst : simd::kBytes + inLast);
     }
+    for (int k = 0; k < vectors; ++k) permute_[k] = simd::PermuteBy(index[k]);
   }
 
   enum Mode { Whole, Stream, Part };
@@ -57,8 +59,7 @@ class Shuffles {
       return M == Part ? simd::load(advance(src, at), simd::lowBytes(bytes - at)) : simd::load(advance(src, at));
     };
     simd::Vec out[vectors];
-    for (int k = 0; k < vectors; ++k)
-      out[k] = simd::permuteBy(window(firstWindow(k)), window(lastWindow(k)), index_[k]);
+    for (int k = 0; k < vectors; ++k) out[k] = permute_[k](window(firstWindow(k)), window(lastWindow(k)));
     for (int k = 0; k < vectors; ++k) {
       auto* to = advance(dst, k * simd::kBytes);
       if constexpr (M == Part)
@@ -84,7 +85,7 @@ class Shuffles {
     return mask;
   }();
 
-  simd::Vec index_[vectors];
+  simd::PermuteBy permute_[vectors];
 };
 
 template <class L, class W>
