@@ -23,10 +23,13 @@ constexpr T kPixel[] = {T(17), T(4660), T(9029), T(13398)};
 
 #define COPY(t, l, src, dst, ...) \
   add<src, dst>("Copy_" #t "_" #l, Shape::Same, RUN(huxiCopy_##t##_##l(SRC, DST, ROI)), PEER(__VA_ARGS__))
-#define COPY_MASKED(t, l, c)                                                            \
-  add<Image<Hux##t, c>, Image<Hux##t, c>>("Copy_" #t "_" #l, Shape::Masked,             \
-                                          RUN(huxiCopy_##t##_##l(SRC, DST, ROI, MASK)), \
-                                          PEER("copyTo, mask", o.src.mat.copyTo(o.dst.mat, o.mask.mat)))
+#define COPY_MASKED(t, l, c)                                                                              \
+  add<Image<Hux##t, c>, Image<Hux##t, c>>("Copy_" #t "_" #l, Shape::Masked,                               \
+                                          RUN(huxiCopy_##t##_##l(SRC, DST, ROI, MASK)),                   \
+                                          PEER("copyTo, mask", o.src.mat.copyTo(o.dst.mat, o.mask.mat))), \
+      add<Image<Hux##t, c>, Image<Hux##t, c>>("Copy_" #t "_" #l ", random", Shape::MaskedRandom,          \
+                                              RUN(huxiCopy_##t##_##l(SRC, DST, ROI, MASK)),               \
+                                              PEER("copyTo, mask", o.src.mat.copyTo(o.dst.mat, o.mask.mat)))
 #define COPIES(t)                                                                                 \
   void addCopy_##t() {                                                                            \
     using C1 = Image<Hux##t, 1>;                                                                  \

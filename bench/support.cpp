@@ -206,11 +206,11 @@ void fillRandom(std::span<std::uint8_t> bytes, unsigned seed) {
     std::memcpy(bytes.data() + at, block.data(), std::min(block.size(), bytes.size() - at));
 }
 
-void fillMask(const Image<Hux8u, 1>& mask) {
+void fillMask(const Image<Hux8u, 1>& mask, HuxiSize patch) {
   for (int y = 0; y < mask.size.height; ++y)
     for (int x = 0; x < mask.size.width; ++x)
       mask.data[std::int64_t(y) * mask.step + x] =
-          ((x / 37 * 2654435761u) ^ (y / 23 * 2246822519u)) >> 16 & 1 ? 255 : 0;
+          ((unsigned(x / patch.width) * 2654435761u) ^ (unsigned(y / patch.height) * 2246822519u)) >> 16 & 1 ? 255 : 0;
 }
 
 }  // namespace bench

@@ -104,6 +104,7 @@ enum class Shape {
   Same,           // source and destination of one size
   Region,         // the same as part of wider images: rows do not follow each other
   Masked,         // with a mask, about half of it set, in patches
+  MaskedRandom,   // the same, pixel by pixel
   Fill,           // no source
   FillRegion,     // no source, part of a wider image
   FillMasked,     // no source, a mask
@@ -118,7 +119,7 @@ constexpr bool isInPlace(Shape s) { return s == Shape::InPlace || s == Shape::In
 constexpr bool hasSource(Shape s) {
   return s != Shape::Fill && s != Shape::FillRegion && s != Shape::FillMasked && !isInPlace(s);
 }
-constexpr bool hasMask(Shape s) { return s == Shape::Masked || s == Shape::FillMasked; }
+constexpr bool hasMask(Shape s) { return s == Shape::Masked || s == Shape::MaskedRandom || s == Shape::FillMasked; }
 
 constexpr HuxiSize destinationSize(Shape s, HuxiSize size) {
   if (s == Shape::Transposed) return {size.height, size.width};
@@ -127,7 +128,7 @@ constexpr HuxiSize destinationSize(Shape s, HuxiSize size) {
 }
 
 void fillRandom(std::span<std::uint8_t> bytes, unsigned seed);
-void fillMask(const Image<Hux8u, 1>& mask);
+void fillMask(const Image<Hux8u, 1>& mask, HuxiSize patch);
 
 // The operands of one case at one size.
 template <class Src, class Dst>
@@ -143,7 +144,7 @@ struct Operands {
     dst = Dst(destinationSize(shape, s), margin);
     if (hasMask(shape)) mask = Image<Hux8u, 1>(s);
     refill();
-    if (hasMask(shape)) fillMask(mask);
+    if (hasMask(shape)) fillMask(mask, shape == Shape::MaskedRandom ? HuxiSize{1, 1} : HuxiSize{37, 23});
   }
   void refill() {
     if (src.step) fillRandom(src.bytes(), 1);
