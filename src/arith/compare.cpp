@@ -46,8 +46,6 @@ auto bytesOf(V holds) {
   else
     return convert<Hux8s>(holds);
 }
-// Marks of 255 and 0 are written as such.
-inline Element<Hux8s>* signedBytes(Element<Hux8u>* bytes) { return reinterpret_cast<Element<Hux8s>*>(bytes); }
 
 // The rule that writes a test's result as bytes of 255 and 0.
 template <class T, class Test>
@@ -71,7 +69,7 @@ template <class L>
 void joinMarks(const Hux8u* marks, Element<Hux8u>* dst, Index n) {
   if constexpr (L::channels == 4) {
     constexpr Hux8u ignored[4] = {0, 0, 0, L::processed == 4 ? 0 : 255};
-    mapRow<C1>(elementsAs<Hux32u>(marks), signedBytes(dst), n, AllFour{std::bit_cast<Hux32u>(ignored)});
+    mapRow<C1>(elementsAs<Hux32u>(marks), elementsAs<Hux8s>(dst), n, AllFour{std::bit_cast<Hux32u>(ignored)});
   } else {
     for (Index i = 0; i < n; ++i) dst[i] = marks[3 * i] & marks[3 * i + 1] & marks[3 * i + 2];
   }
@@ -99,7 +97,7 @@ void markPairs(Test test, const T* pSrc1, int src1Step, const T* pSrc2, int src2
   forEachRow(roi, rows<L>(pSrc1, src1Step), rows<L>(pSrc2, src2Step), rows<C1>(pDst, dstStep),
              [=](auto* a, auto* b, auto* dst, Index n) {
                markRow<L>(dst, n, [=](auto* to, Index first, Index count) {
-                 zipRow<C1>(a + first, b + first, signedBytes(to), count, Marks<T, Test>{test});
+                 zipRow<C1>(a + first, b + first, elementsAs<Hux8s>(to), count, Marks<T, Test>{test});
                });
              });
 }
@@ -110,7 +108,7 @@ void markAgainst(Test test, const T* pSrc, int srcStep, const T* pPixel, Hux8u* 
   const Repeat<L, T, Rule::lanes> constants(elements(pPixel));
   forEachRow(roi, rows<L>(pSrc, srcStep), rows<C1>(pDst, dstStep), [=](auto* src, auto* dst, Index n) {
     markRow<L>(dst, n, [=](auto* to, Index first, Index count) {
-      applyRule<C1>(signedBytes(to), count, Rule{test}, Stream<T, Rule::lanes>{src + first}, constants);
+      applyRule<C1>(elementsAs<Hux8s>(to), count, Rule{test}, Stream<T, Rule::lanes>{src + first}, constants);
     });
   });
 }
