@@ -20,9 +20,12 @@ struct Windowed {
   Windowed(HuxiSize s, int = 0) : all({s.width + 2 * kAround, s.height + 2 * kAround}), step(all.step) {
     data = all.data + kAround * (std::int64_t(step) / int(sizeof(T)) + C);
 #ifdef HUX_BENCH_OPENCV
-    mat = all.mat(cv::Rect(kAround, kAround, s.width, s.height));
+    mat = all.mat(inside());
 #endif
   }
+#ifdef HUX_BENCH_OPENCV
+  cv::Rect inside() const { return {kAround, kAround, all.size.width - 2 * kAround, all.size.height - 2 * kAround}; }
+#endif
   std::span<std::uint8_t> bytes() const { return all.bytes(); }
   std::int64_t traffic() const {
     return std::int64_t(all.size.width - 2 * kAround) * (all.size.height - 2 * kAround) * pixelBytes;

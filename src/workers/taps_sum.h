@@ -58,16 +58,17 @@ struct FencedRows {
   }
 };
 
-// Stores the first `count` elements, of each pixel of four but the fourth if it is not among the colours.
-template <class V>
-void storeTile(void* dst, V v, Index count, bool alpha) {
-  const int n = int(std::clamp<Index>(count, 0, lanesIn<V>));
-  if (alpha)
-    storeColours<3>(dst, v, n);
-  else if (n == lanesIn<V>)
-    storeLanes(dst, v);
-  else
-    storeColours<4>(dst, v, n);
+// What of a tile is stored: its first `count` elements, without those of alpha.
+struct TilePart {
+  Index count;
+  bool alpha;
+};
+
+// Where the part is not the whole tile.
+template <class D>
+[[gnu::noinline]] void storePart(const Element<D>* values, Element<D>* dst, TilePart part) {
+  if (!part.alpha) return void(std::memcpy(dst, values, std::size_t(part.count) * sizeof(D)));
+  for (Index i = 0; i < part.count; i += 4) std::memcpy(dst + i, values + i, 3 * sizeof(D));
 }
 
 }  // namespace detail
@@ -111,11 +112,18 @@ class PlainProducts {
       }
   }
 
+  // Stores what became of the sums of a row of the tile.
   template <int R, class D, class Finish>
-  static HUX_INLINE void store(const Finish& finish, const Lanes<A, lanes> (&sums)[vectors<R>], Element<D>* dst,
-                               Index count, bool alpha) {
-    unrolled<vectors<R>>([&](auto u) HUX_INLINE {
-      detail::storeTile(dst + u * lanes, convert<D>(finish(sums[u])), count - u * lanes, alpha);
+  static HUX_INLINE void store(const Finish& finish, const Lanes<A, lanes> (&sums)[vectors<R>], Element<D>* dst) {
+    constexpr int together = sizeof(D) < 4 ? kJoined<D, Lanes<Hux32s, lanes>> : 1;
+    unrolled<vectors<R> / together>([&](auto g) HUX_INLINE {
+      if constexpr (sizeof(D) == 4) {
+        storeLanes(dst + g * lanes, finish(sums[g]));
+      } else {
+        std::array<Lanes<Hux32s, lanes>, together> values;
+        unrolled<together>([&](auto u) HUX_INLINE { values[u] = finish(sums[g * together + u]); });
+        storeLanes(dst + g * together * lanes, saturate<D>(values));
+      }
     });
   }
 
@@ -205,11 +213,10 @@ class PairProducts {
   }
 
   template <int R, class Finish>
-  static HUX_INLINE void store(const Finish& finish, const Lanes<Hux32u, lanes> (&sums)[4], Element<Hux8u>* dst,
-                               Index count, bool alpha) {
+  static HUX_INLINE void store(const Finish& finish, const Lanes<Hux32u, lanes> (&sums)[4], Element<Hux8u>* dst) {
     std::array<Lanes<Hux32s, lanes>, 4> values;
     unrolled<4>([&](auto u) HUX_INLINE { values[u] = finish(sums[u]); });
-    detail::storeTile(dst, gathered(values), count, alpha);
+    storeLanes(dst, gathered(values));
   }
 
  private:
@@ -236,26 +243,43 @@ struct TileShape {
 };
 
 template <int R, class Products, class Rows, class D, class Finish>
-void tapsTile(const Products& products, Rows rows, Element<D>* dst, Index step, Index count, bool alpha,
-              const Finish& finish) {
+HUX_INLINE inline void tapsTile(const Products& products, Rows& rows, Element<D>* dst, Index step, TilePart part,
+                                const Finish& finish) {
+  constexpr Index tile = Products::template elements<R>;
   typename Products::template Sums<R> sums = {};
   products.template add<R>(rows, sums);
-  unrolled<R>([&](auto r)
-                  HUX_INLINE { Products::template store<R>(finish, sums[r], advance(dst, r * step), count, alpha); });
+  if (part.count == tile && !part.alpha) {
+    unrolled<R>([&](auto r) HUX_INLINE { Products::template store<R>(finish, sums[r], advance(dst, r * step)); });
+  } else {
+    unrolled<R>([&](auto r) HUX_INLINE {
+      Element<D> values[tile];
+      Products::template store<R>(finish, sums[r], values);
+      storePart(values, advance(dst, r * step), part);
+    });
+  }
+}
+
+// Kept apart, so that the usual tiles have the registers for themselves.
+template <int R, class Products, class Rows, class D, class Finish>
+[[gnu::noinline]] void fencedTile(const Products& products, Rows rows, Element<D>* dst, Index step, TilePart part,
+                                  const Finish& finish) {
+  tapsTile<R>(products, rows, dst, step, part, finish);
 }
 
 template <int R, class Products, class T, class D, class Finish>
 void tapsRows(const Products& products, Window<T> window, Element<D>* dst, Index step, TileShape shape, Index reach,
               const Finish& finish) {
   constexpr Index tile = Products::template elements<R>;
-  const Index readable = shape.elements + reach;
+  const Index last = shape.elements + reach - products.reach() - tile;  // start of an open tile
   for (Index at = 0; at < shape.elements; at += tile) {
-    const Index count = std::min(tile, shape.elements - at);
-    const auto run = [&](auto rows) { tapsTile<R>(products, rows, dst + at, step, count, shape.alpha, finish); };
-    if (at + tile + products.reach() <= readable)
-      run(OpenRows<T>{window, at, shape.neighbour});
-    else
-      run(FencedRows<T, int(tile)>{window, at, shape.neighbour, count});
+    const TilePart part = {std::min(tile, shape.elements - at), shape.alpha};
+    if (at <= last) {
+      OpenRows<T> rows{window, at, shape.neighbour};
+      tapsTile<R>(products, rows, dst + at, step, part, finish);
+    } else {
+      fencedTile<R>(products, FencedRows<T, int(tile)>{window, at, shape.neighbour, part.count}, dst + at, step, part,
+                    finish);
+    }
   }
 }
 
