@@ -294,6 +294,36 @@ HUX_API HuxStatus huxiFilterColumn32f_16s_AC4R(const Hux16s* pSrc, int srcStep, 
 
 /* ---- Window functions ---- */
 
+/* WinBartlett, WinHamming, and their Sep forms: the image times a window that falls off towards the edges, as is done
+ * ahead of a spectrum. With N columns, M rows, Rx = N / 2, Ry = M / 2, dx = Rx - j and dy = Ry - i, pixel (j, i) of the
+ * top left quarter and its three mirror images have the weight
+ *   WinBartlett  1 - r * (2 / N), or 0 outside
+ *   WinHamming   0.54 - 0.46 cos((Rx - r) * (2 pi / N)), or 0.08 outside
+ * where r = sqrt(dx^2 + dy^2 / (Ry / Rx)^2), and outside means outside the ellipse with half axes Rx and Ry. The middle
+ * column of an odd width has the weights of a vector of M values, and the middle row of an odd height those of one of
+ * N; see huxsWinBartlett_32f_I, huxsWinHamming_32f_I. In the Sep forms a pixel is multiplied by the weight of its
+ * column, then by that of its row, both those of a vector. Products are formed in double precision, in the Sep forms in
+ * single; 8u rounds them half up. A weight of 0 leaves a NaN what it is. Checks: null pointers (huxStsNullPtr), width
+ * or height below 3 (huxStsBadSize), steps (huxStsBadStep), memory for a row and a column of floats (huxStsNoMem). */
+HUX_API HuxStatus huxiWinBartlett_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiWinBartlett_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiWinBartlett_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiWinBartlett_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiWinBartlettSep_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiWinBartlettSep_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiWinBartlettSep_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             HuxiSize roiSize);
+HUX_API HuxStatus huxiWinBartlettSep_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiWinHamming_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiWinHamming_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiWinHamming_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiWinHamming_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiWinHammingSep_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiWinHammingSep_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiWinHammingSep_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize roiSize);
+HUX_API HuxStatus huxiWinHammingSep_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
+
 HUX_END_C
 
 #endif

@@ -188,6 +188,15 @@ HUX_API HuxStatus huxsCopy_32f(const Hux32f* pSrc, Hux32f* pDst, int len);
 HUX_API HuxStatus huxsMove_16s(const Hux16s* pSrc, Hux16s* pDst, int len);
 HUX_API HuxStatus huxsMove_32f(const Hux32f* pSrc, Hux32f* pDst, int len);
 
+/* Window functions: the vector times a window that falls off from the middle to both ends alike. Of len values, number
+ * k from either end has the weight
+ *   WinBartlett  2 k / (len - 1), the steps added up in double precision
+ *   WinHamming   0.54 - 0.46 cos(2 pi k / (len - 1)), the nearest double
+ * and the middle of an odd len stays as it is. Products are formed in double precision. A weight of 0 leaves a NaN what
+ * it is. Checks: null pointer (huxStsNullPtr), len below 3 (huxStsBadSize). */
+HUX_API HuxStatus huxsWinBartlett_32f_I(Hux32f* pSrcDst, int len);
+HUX_API HuxStatus huxsWinHamming_32f_I(Hux32f* pSrcDst, int len);
+
 /* Measures. Mean and Norm_L2 sum in double precision; DotProd sums in single precision, in an order that is left
  * open. Checks: null pointers (huxStsNullPtr), len below 1 (huxStsBadSize). */
 HUX_API HuxStatus huxsMean_32f(const Hux32f* pSrc, int len, Hux32f* pResult);
