@@ -288,6 +288,54 @@ HUX_API HuxStatus huxiFilterColumn32f_16s_AC4R(const Hux16s* pSrc, int srcStep, 
 
 /* ---- Wiener filter ---- */
 
+/* FilterWienerGetBufferSize: the bytes of work memory that FilterWiener needs for a region and a mask, with as many
+ * threads as may run at the time of this call. channels is 1 for C1, 3 for C3 and AC4, 4 for C4.
+ * Checks: null pointer (huxStsNullPtr), roiSize (huxStsBadSize), channels (huxStsBadChannelCount), a side of the mask
+ * below 2 (huxStsBadMaskSize). */
+HUX_API HuxStatus huxiFilterWienerGetBufferSize(HuxiSize roiSize, HuxiSize maskSize, int channels, int* pBufferSize);
+
+/* FilterWiener: removes noise by drawing each pixel towards the mean of its window, the more so the nearer the variance
+ * there is to that of the noise: mean + (pixel - mean) * (variance - n) / variance, where a variance below n counts as
+ * n. The window's top left pixel is (x - (maskSize.width - 1 - anchor.x), y - (maskSize.height - 1 - anchor.y)): the
+ * anchor counts from the far corner. All pixels under the windows must be there. Integers drop the fraction; a NaN
+ * becomes 0. noise holds one value for each channel (3 for AC4), the variance of the noise relative to the square of
+ * the pixel range: 255 for 8u, 65535 for 16s, and for 32f the range of all pixels under the windows, of C3 and C4 over
+ * all channels, of AC4 of each. Where one of the values is below 2^-23, all are estimated, as the mean variance of all
+ * windows, and noise is overwritten by the estimates.
+ * Window sums are kept up in single precision from the first row on, and by each thread from its own first row: where
+ * they are too large to be exact the last bits of a result, and those of an estimate, depend on the number of threads.
+ * 8u_C1R and 16s_C1R are serial. The alpha of AC4 is left as it was in the destination. The images must not overlap.
+ * pBuffer may be any address.
+ * Checks: null pointers (huxStsNullPtr), roiSize (huxStsBadSize), a side of the mask below 2 (huxStsBadMaskSize), the
+ * anchor outside the mask (huxStsBadAnchor), steps (huxStsBadStep), a value of noise that is not at or above 0 and
+ * below 1 (huxStsBadNoise). */
+HUX_API HuxStatus huxiFilterWiener_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxiSize maskSize, HuxiPoint anchor, Hux32f* noise, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFilterWiener_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxiSize maskSize, HuxiPoint anchor, Hux32f noise[3], Hux8u* pBuffer);
+HUX_API HuxStatus huxiFilterWiener_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxiSize maskSize, HuxiPoint anchor, Hux32f noise[4], Hux8u* pBuffer);
+HUX_API HuxStatus huxiFilterWiener_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiSize maskSize, HuxiPoint anchor, Hux32f noise[3], Hux8u* pBuffer);
+HUX_API HuxStatus huxiFilterWiener_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiSize maskSize, HuxiPoint anchor, Hux32f* noise, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFilterWiener_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiSize maskSize, HuxiPoint anchor, Hux32f noise[3], Hux8u* pBuffer);
+HUX_API HuxStatus huxiFilterWiener_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiSize maskSize, HuxiPoint anchor, Hux32f noise[4], Hux8u* pBuffer);
+HUX_API HuxStatus huxiFilterWiener_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                            HuxiSize roiSize, HuxiSize maskSize, HuxiPoint anchor, Hux32f noise[3],
+                                            Hux8u* pBuffer);
+HUX_API HuxStatus huxiFilterWiener_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiSize maskSize, HuxiPoint anchor, Hux32f* noise, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFilterWiener_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiSize maskSize, HuxiPoint anchor, Hux32f noise[3], Hux8u* pBuffer);
+HUX_API HuxStatus huxiFilterWiener_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiSize maskSize, HuxiPoint anchor, Hux32f noise[4], Hux8u* pBuffer);
+HUX_API HuxStatus huxiFilterWiener_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize roiSize, HuxiSize maskSize, HuxiPoint anchor, Hux32f noise[3],
+                                            Hux8u* pBuffer);
+
 /* ---- Convolution ---- */
 
 /* ---- Deconvolution ---- */
