@@ -31,12 +31,12 @@ cv::Mat kernel(int rows, int columns) {
   return cv::Mat(taps, true).reshape(1, rows);
 }
 const cv::Mat kOne = cv::Mat::ones(1, 1, CV_32F);
-#endif
-// Of a large kernel filter2D transforms whole images, but not a part of one, so that it is given all pixels.
-#ifdef HUX_BENCH_OPENCV
+
+// Of a large kernel filter2D transforms whole images, but not a part of one: it is given all pixels where it gains by
+// that.
 template <class Operands>
 void filter2d(Operands& o, const cv::Mat& k) {
-  if (k.rows < 11) return cv::filter2D(o.src.mat, o.dst.mat, -1, k);
+  if (k.rows < 31 || o.src.mat.depth() != CV_8U) return cv::filter2D(o.src.mat, o.dst.mat, -1, k);
   static cv::Mat all;
   cv::filter2D(o.src.all.mat, all, -1, k);
   all(o.src.inside()).copyTo(o.dst.mat);

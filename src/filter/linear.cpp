@@ -77,8 +77,8 @@ class Divided {
 struct Shape {
   HuxiSize size;
   HuxiPoint anchor;
-  // A filter along columns treats all elements of a row alike: a layout without alpha is a wider row of one channel.
-  // The width that decides this is looked at before all else.
+  // A filter along columns treats all elements of a row alike: the forms of three and four equal channels stand for the
+  // one-channel form over a wider row.
   bool column = false;
 };
 Shape image(HuxiSize size, HuxiPoint anchor) { return {size, anchor}; }
@@ -87,8 +87,7 @@ Shape column(int size, int anchor) { return {{1, size}, {0, anchor}, true}; }
 
 template <class L>
 HuxStatus widthFirst(Shape kernel, HuxiSize roi) {
-  constexpr bool wider = L::channels > 1 && L::channels == L::processed;
-  return failUnless(!kernel.column || !wider || roi.width >= 1, huxStsBadSize);
+  return kernel.column ? delegated<L>(width(roi)) : HuxStatus(huxStsOk);
 }
 
 // The rows of a range, on one thread.

@@ -45,7 +45,7 @@ inline std::array<Floats, 2> Values<Hux16s>::ofFour(V va, V vb, V vc, V vd) {
   // Between -2^31 and 2^31, of which the one wraps to the other.
   const Ints squares = Ints(Wrapped(ab) - Wrapped(cd));
   const Floats rounded = convert<Hux32f>(squares);
-  return {convert<Hux32f>((a - b) - (c - d)), (squares < 0) & (ab > 0) & (cd < 0) ? -rounded : rounded};
+  return {convert<Hux32f>((a - b) - (c - d)), ((squares < 0) & (ab > 0) & (cd < 0)) ? -rounded : rounded};
 }
 
 // The sums of the elements and of their squares in the windows of one row after the other, in single precision. The

@@ -255,15 +255,14 @@ TEST(Wiener, EveryTeamAndShape) {
   huxSetThreadCount(threads);
 }
 
-// The largest corner difference of squares, 2^31, and noise far above all variances, which leaves the mean.
+// The largest corner difference of squares, 2^31, which makes a large variance out of a small one; and no variance.
 TEST(Wiener, Extremes) {
-  const Hux16s corners[] = {0, -32768, -32768, 0, 7, 7, 7, 7};
+  const Hux16s corners[9] = {-32768, 5, 0, 1, 100, 3, 0, 9, -32768};
   Hux8u buffer[4096];
-  Hux16s result[4];
-  Hux32f noise = 0.5f;
-  ASSERT_EQ(huxiFilterWiener_16s_C1R(corners, 4, result, 4, {1, 3}, {2, 2}, {1, 1}, &noise, buffer), huxStsOk);
-  EXPECT_EQ(result[0], -16384);
-  EXPECT_EQ(result[2], -8188);
+  Hux16s result[4] = {};
+  Hux32f noise = 0x1p-22f;
+  ASSERT_EQ(huxiFilterWiener_16s_C1R(corners, 6, result, 4, {2, 2}, {2, 2}, {1, 1}, &noise, buffer), huxStsOk);
+  EXPECT_EQ(result[3], 99);
   const Hux8u flat[16] = {9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9};
   Hux8u dark = 1;
   noise = 0;
