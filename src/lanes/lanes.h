@@ -49,7 +49,8 @@ V subSaturated(V a, V b) {
   }
 }
 
-// Of 16-bit lanes: the high half of the product; of unsigned ones the mean rounded up.
+// Of 16-bit lanes, and of unsigned 32-bit ones: the high half of the product. Of unsigned 16-bit lanes: the mean
+// rounded up.
 template <class V>
 V mulHigh(V a, V b) {
   using T = LaneType<V>;
@@ -61,13 +62,25 @@ V meanUp(V a, V b) {
   return (a | b) - ((a ^ b) >> Hux16u(1));
 }
 
+// Of unsigned 32-bit lanes: the products of lanes 0, 2, 4, ..., in full.
+template <class V>
+auto evenProducts(V a, V b) {
+  using Pairs = Lanes<std::uint64_t, lanesIn<V> / 2>;
+  return (bitsAs<Pairs>(a) & 0xffffffff) * (bitsAs<Pairs>(b) & 0xffffffff);
+}
+
 // The machine has instructions for these, on bytes and words, in every width.
+#define HUX_EVEN_PRODUCTS(bytes, Register, prefix)                                        \
+  inline auto evenProducts(Lanes<Hux32u, bytes / 4> a, Lanes<Hux32u, bytes / 4> b) {      \
+    return Lanes<std::uint64_t, bytes / 8>(prefix##_mul_epu32(Register(a), Register(b))); \
+  }
 #define HUX_LANES_OF(name, Type, bytes, Register, instruction)                         \
   inline Lanes<Type, bytes / sizeof(Type)> name(Lanes<Type, bytes / sizeof(Type)> a,   \
                                                 Lanes<Type, bytes / sizeof(Type)> b) { \
     return Lanes<Type, bytes / sizeof(Type)>(instruction(Register(a), Register(b)));   \
   }
 #define HUX_PACKED(bytes, Register, prefix)                                \
+  HUX_EVEN_PRODUCTS(bytes, Register, prefix)                               \
   HUX_LANES_OF(addSaturated, Hux8u, bytes, Register, prefix##_adds_epu8)   \
   HUX_LANES_OF(subSaturated, Hux8u, bytes, Register, prefix##_subs_epu8)   \
   HUX_LANES_OF(addSaturated, Hux16u, bytes, Register, prefix##_adds_epu16) \
@@ -88,6 +101,16 @@ HUX_PACKED(16, __m128i, _mm)
 #endif
 #undef HUX_PACKED
 #undef HUX_LANES_OF
+#undef HUX_EVEN_PRODUCTS
+
+template <class V>
+requires(sizeof(LaneType<V>) == 4) V mulHigh(V a, V b) {
+  static_assert(std::is_unsigned_v<LaneType<V>>);
+  using Pairs = Lanes<std::uint64_t, lanesIn<V> / 2>;
+  const auto oddFirst = [](V v) { return bitsAs<V>(bitsAs<Pairs>(v) >> 32); };
+  const Pairs even = evenProducts(a, b), odd = evenProducts(oddFirst(a), oddFirst(b));
+  return bitsAs<V>(even >> 32 | (odd >> 32 << 32));
+}
 
 template <class V>
 V loadLanes(const void* p) {
