@@ -282,6 +282,399 @@ HUX_API HuxStatus huxiFilterColumn32f_16s_AC4R(const Hux16s* pSrc, int srcStep, 
 
 /* ---- Fixed filters ---- */
 
+/* Filters whose kernels are built in. The window lies with its middle over the pixel: pSrc is the pixel at the first
+ * output pixel, and one pixel around the region (3 by 3) or two (5 by 5) must be readable; Roberts reads the row above
+ * and one column. There is no border mode: huxiCopyReplicateBorder and its kin build bordered images. Channels are
+ * filtered for themselves; the alpha of AC4 is not written. Source and destination must not overlap. Steps are in
+ * bytes, those of 16s and 32f cut to whole elements.
+ *
+ * Weights are drawn as they lie over the image. Of integers, t stands for the weighted sum. 8u and 16s: t, divided as
+ * told, then limited to the type's range, so that a negative 8u result is 0. 8u16s and 8s16s: t as it is, it always
+ * fits. 32f: single precision, operation by operation in the order told, with p for the pixels of a row from left to
+ * right (p0 p1 p2, or p0 ... p4), q for the pixel itself, and r for the results of the rows from top to bottom.
+ *
+ * mask is huxMskSize3x3 or huxMskSize5x5.
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), steps below 1 (huxStsBadStep), mask of any other value
+ * (huxStsBadMaskSize; but see the Sobel filters of 32f). A step is not compared with the length of a row. No memory is
+ * taken, but by the 5 by 5 forms of Lowpass and Hipass on 32f: huxStsNoMem, with nothing written, when there is none.
+ */
+
+/* Prewitt: edges between columns (Vert) and between rows (Horiz). 8u shows the edges of one direction: Vert those that
+ * fall from left to right, Horiz those that rise downwards.
+ *
+ *   Vert  1 0 -1    Horiz -1 -1 -1    32f, Vert   row p0 - p2, then r0 + r1 + r2
+ *         1 0 -1           0  0  0         Horiz  row p0 + p1 + p2, then r2 - r0
+ *         1 0 -1           1  1  1                                                    */
+HUX_API HuxStatus huxiFilterPrewittVert_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittVert_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittVert_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittVert_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittVert_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittVert_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittVert_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittVert_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                 HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittVert_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittVert_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittVert_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittVert_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                 HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittHoriz_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittHoriz_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittHoriz_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittHoriz_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                 HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittHoriz_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                 HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittHoriz_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                 HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittHoriz_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                 HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittHoriz_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                  HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittHoriz_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                 HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittHoriz_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                 HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittHoriz_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                 HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterPrewittHoriz_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                  HuxiSize roiSize);
+
+/* Sobel: the same with the rows or columns near the pixel weighted more.
+ *
+ *   Vert  1 0 -1    Horiz -1 -2 -1    32f, Vert   row p0 - p2, then r0 + r2 + r1 + r1
+ *         2 0 -2           0  0  0         Horiz  row p0 + p2 + p1 + p1, then r2 - r0
+ *         1 0 -1           1  2  1
+ *
+ * The 5 by 5 forms (8u16s, 8s16s, and SobelVertMask and SobelHorizMask of 32f) weigh columns by rows, as the outer
+ * product of
+ *
+ *   Vert   1 2 0 -2 -1 along rows, 1 4 6 4 1 down columns
+ *   Horiz  1 4 6 4 1 along rows, -1 -2 0 2 1 down columns
+ *
+ *   32f: 1 4 6 4 1 is a0 + a4 + (a1 + a3) * 4 + a2 * 6, with a for p or r; 1 2 0 -2 -1 of p is p0 - p4 + d + d with
+ *        d = p1 - p3, and -1 -2 0 2 1 of r is r4 - r0 + d + d with d = r3 - r1
+ *
+ * SobelVertMask and SobelHorizMask, like SobelVertSecond, SobelHorizSecond and SobelCross of 32f below, never return
+ * huxStsBadMaskSize: they take any mask but huxMskSize3x3 for huxMskSize5x5. */
+HUX_API HuxStatus huxiFilterSobelVert_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                             HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelVert_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                             HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelVert_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                             HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelVert_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelVert_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelVert_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelVert_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelVert_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelVert_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelVert_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelVert_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelVert_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelVert_8u16s_C1R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterSobelVert_8s16s_C1R(const Hux8s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterSobelHoriz_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelHoriz_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelHoriz_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelHoriz_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelHoriz_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelHoriz_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelHoriz_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelHoriz_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelHoriz_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelHoriz_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelHoriz_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelHoriz_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSobelHoriz_8u16s_C1R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                 HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterSobelHoriz_8s16s_C1R(const Hux8s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                 HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterSobelVertMask_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                  HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterSobelHorizMask_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                   HuxiSize roiSize, HuxiMaskSize mask);
+
+/* Sobel, second derivatives: across columns (VertSecond), across rows (HorizSecond) and along the diagonals (Cross). As
+ * outer products, along rows by down columns,
+ *
+ *               3 by 3                5 by 5
+ *   VertSecond  1 -2 1 by 1 2 1       1 0 -2 0 1 by 1 4 6 4 1
+ *   HorizSecond 1 2 1 by 1 -2 1       1 4 6 4 1 by 1 0 -2 0 1
+ *   Cross       1 0 -1 by -1 0 1      1 2 0 -2 -1 by -1 -2 0 2 1
+ *
+ * 32f: 1 -2 1 is a0 + a2 - a1 - a1, and 1 0 -2 0 1 is a0 + a4 - a2 - a2, with a for p or r; the others as above. */
+HUX_API HuxStatus huxiFilterSobelVertSecond_8u16s_C1R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                      HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterSobelVertSecond_8s16s_C1R(const Hux8s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                      HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterSobelVertSecond_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                    HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterSobelHorizSecond_8u16s_C1R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                       HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterSobelHorizSecond_8s16s_C1R(const Hux8s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                       HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterSobelHorizSecond_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                     HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterSobelCross_8u16s_C1R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                 HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterSobelCross_8s16s_C1R(const Hux8s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                 HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterSobelCross_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                               HuxiSize roiSize, HuxiMaskSize mask);
+
+/* Scharr: edges with a response that hardly depends on their angle. Vert has the sign opposite to that of PrewittVert
+ * and SobelVert: it is positive where the image rises from left to right.
+ *
+ *   Vert   -3 0  3    Horiz -3 -10 -3    32f, Vert   row p2 - p0, then (r0 + r2) * 3 + r1 * 10
+ *         -10 0 10           0   0  0         Horiz  row (p0 + p2) * 3 + p1 * 10, then r2 - r0
+ *          -3 0  3           3  10  3                                                          */
+HUX_API HuxStatus huxiFilterScharrVert_8u16s_C1R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                 HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterScharrVert_8s16s_C1R(const Hux8s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                 HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterScharrVert_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterScharrHoriz_8u16s_C1R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                  HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterScharrHoriz_8s16s_C1R(const Hux8s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                  HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterScharrHoriz_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                HuxiSize roiSize);
+
+/* Roberts: the pixel less its neighbour in the row above, on the left (Down) or on the right (Up).
+ *
+ *   Down  -1 0    Up  0 -1     over the pixel lies the 1
+ *          0 1        1  0                               */
+HUX_API HuxStatus huxiFilterRobertsDown_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsDown_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsDown_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsDown_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsDown_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsDown_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                 HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsDown_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsDown_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsDown_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                 HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsUp_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                             HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsUp_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                             HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsUp_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsUp_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsUp_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsUp_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                               HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsUp_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsUp_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                              HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterRobertsUp_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                               HuxiSize roiSize);
+
+/* Laplace: how far a pixel is above its surroundings.
+ *
+ *   3 by 3  -1 -1 -1    5 by 5  -1 -3 -4 -3 -1
+ *           -1  8 -1            -3  0  6  0 -3
+ *           -1 -1 -1            -4  6 20  6 -4
+ *                               -3  0  6  0 -3
+ *                               -1 -3 -4 -3 -1
+ *
+ * 32f, 3 by 3: rows p0 + p1 + p2, then q * 9 - r0 - r1 - r2. 5 by 5: the products of each row are added up from left to
+ * right, without those of weight 0, then r0 + r1 + r2 + r3 + r4. */
+HUX_API HuxStatus huxiFilterLaplace_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLaplace_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLaplace_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLaplace_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                            HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLaplace_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                            HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLaplace_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                            HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLaplace_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                            HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLaplace_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                             HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLaplace_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLaplace_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLaplace_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLaplace_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLaplace_8u16s_C1R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                              HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLaplace_8s16s_C1R(const Hux8s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                              HuxiSize roiSize, HuxiMaskSize mask);
+
+/* Gauss: the mean of the window, weighted by distance.
+ *
+ *   3 by 3  1 2 1    over 16    5 by 5   2  7  12  7  2    over 571
+ *           2 4 2                        7 31  52 31  7
+ *           1 2 1                       12 52 127 52 12
+ *                                        7 31  52 31  7
+ *                                        2  7  12  7  2
+ *
+ * Integers are rounded to nearest: ties go to even in 3 by 3; there are none in 5 by 5, (t + 285) / 571 rounded down.
+ * 32f, 3 by 3: rows p0 + p2 + p1 + p1, then (r0 + r2 + r1 + r1) * 0.0625. 5 by 5: the weights are the floats nearest to
+ * 2 / 571 and so on, the products of each row are added up from left to right, then r0 + r1 + r2 + r3 + r4. */
+HUX_API HuxStatus huxiFilterGauss_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                         HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterGauss_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                         HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterGauss_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                         HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterGauss_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterGauss_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterGauss_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterGauss_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterGauss_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterGauss_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterGauss_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterGauss_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterGauss_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiMaskSize mask);
+
+/* Lowpass: the mean of the window.
+ *
+ * Integers are rounded to nearest: (t + 4) / 9 and (t + 12) / 25, rounded down.
+ * 32f, 3 by 3: rows p0 + p1 + p2, then (r0 + r1 + r2) * 0.1111111, a little less than one ninth. 5 by 5: s * 0.04,
+ * where the sum s of the window runs. Along a row v = p0 + p1 + p2 + p3 for the leftmost window, then at each pixel v =
+ * v + p4, which is the row's sum, and v = v - p0. Down a column s = r0 + r1 + r2 + r3 + r4 for the topmost window, then
+ * s = s - (sum of the row that leaves) + (sum of the row that enters). So an infinity or a NaN remains in all sums to
+ * its right and, from there on, below. */
+HUX_API HuxStatus huxiFilterLowpass_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLowpass_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLowpass_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                            HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLowpass_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                            HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLowpass_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                            HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLowpass_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                             HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLowpass_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLowpass_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterLowpass_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             HuxiSize roiSize, HuxiMaskSize mask);
+
+/* Hipass: the pixel, times the number of pixels in the window, less their sum. 3 by 3 is the Laplace filter; 5 by 5 has
+ * 24 in the middle and -1 around it. 32f, 5 by 5: q * 25 - s, with the running sum s of Lowpass. */
+HUX_API HuxStatus huxiFilterHipass_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterHipass_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterHipass_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                          HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterHipass_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterHipass_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterHipass_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterHipass_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterHipass_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                            HuxiSize roiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterHipass_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterHipass_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterHipass_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                           HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterHipass_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize roiSize, HuxiMaskSize mask);
+
+/* Sharpen: the pixel plus an eighth of its 3 by 3 Laplace filter.
+ *
+ *   -1 -1 -1    over 8, ties to even; limited to the type's range behind that
+ *   -1 16 -1
+ *   -1 -1 -1    32f: rows p0 + p1 + p2, then (q * 17 - r0 - r1 - r2) * 0.125 */
+HUX_API HuxStatus huxiFilterSharpen_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSharpen_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSharpen_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSharpen_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSharpen_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                            HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSharpen_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                            HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSharpen_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                            HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSharpen_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                             HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSharpen_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSharpen_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSharpen_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize roiSize);
+HUX_API HuxStatus huxiFilterSharpen_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             HuxiSize roiSize);
+
 /* ---- Rank filters ---- */
 
 /* ---- Morphology ---- */
