@@ -677,6 +677,165 @@ HUX_API HuxStatus huxiFilterSharpen_32f_AC4R(const Hux32f* pSrc, int srcStep, Hu
 
 /* ---- Rank filters ---- */
 
+/* Order filters of windows of pixels. All walk the region with the rows of a window around each pixel: the window
+ * of output (x, y) covers the source columns x - anchor.x to x - anchor.x + maskSize.width - 1 and the source rows
+ * y - anchor.y to y - anchor.y + maskSize.height - 1, counted from pSrc, which addresses the pixel under the first
+ * output pixel. No filter extends its image: the caller provides readable pixels around the region as far as the
+ * windows reach, and nothing beyond them is read (CopyReplicateBorder and its kin build such an image). Forms with
+ * a HuxiMaskSize are centred; they reach 1 pixel (a 3 in its digits) or 2 pixels (a 5) to both sides in the
+ * directions of the mask. Source and destination must not overlap. Steps are in bytes; AC4 forms leave the fourth
+ * element of the destination alone. Channels are filtered independently, except in FilterMedianColor. */
+
+/* FilterMedian: the median of the maskSize.width x maskSize.height values of each channel. Both sides are odd, so
+ * that there is a value in the middle. A mask of 1 by 1 copies. The time for a pixel does not grow with the area
+ * of the mask: masks of 3 by 3 and 5 by 5, and rows and columns of 3 and 5, are the fastest.
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), steps (huxStsBadStep), a side below 1 or even
+ * (huxStsBadMaskSize), anchor outside the mask (huxStsBadAnchor). huxStsNoMem on 16s where the mask is none of
+ * those named above and memory runs out; nothing has been written then. */
+HUX_API HuxStatus huxiFilterMedian_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize dstRoiSize,
+                                          HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMedian_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize dstRoiSize,
+                                          HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMedian_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize dstRoiSize,
+                                          HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMedian_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                           HuxiSize dstRoiSize, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMedian_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                           HuxiSize dstRoiSize, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMedian_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                           HuxiSize dstRoiSize, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMedian_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                           HuxiSize dstRoiSize, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMedian_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                            HuxiSize dstRoiSize, HuxiSize maskSize, HuxiPoint anchor);
+
+/* FilterMedianHoriz, FilterMedianVert: the median of 3 or 5 neighbours in a row (huxMskSize3x1, huxMskSize5x1) or
+ * in a column (huxMskSize1x3, huxMskSize1x5).
+ * FilterMedianCross: the median of the row and the column through the pixel, of 5 (huxMskSize3x3) or 9 pixels
+ * (huxMskSize5x5).
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), steps (huxStsBadStep), any other mask
+ * (huxStsBadMaskSize). */
+HUX_API HuxStatus huxiFilterMedianHoriz_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                               HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianHoriz_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                               HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianHoriz_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                               HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianHoriz_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianHoriz_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianHoriz_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianHoriz_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianHoriz_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                 HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianVert_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                              HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianVert_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                              HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianVert_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                              HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianVert_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                               HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianVert_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                               HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianVert_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                               HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianVert_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                               HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianVert_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianCross_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                               HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianCross_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                               HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianCross_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianCross_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianCross_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianCross_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                 HuxiSize dstRoiSize, HuxiMaskSize mask);
+
+/* FilterMedianColor: of the 9 (huxMskSize3x3) or 25 pixels (huxMskSize5x5) around it, the one whose colour is the
+ * nearest to all others: the sum of its distances |r - r'| + |g - g'| + |b - b'| to them is the least. No colour
+ * is made that the image does not have. Of pixels with equal sums the first stands, rows top to bottom, left to
+ * right. 8u and 16s sums are exact; 32f sums are of single precision, and a pixel whose sum is NaN is taken only
+ * where it is the first.
+ * Checks as for FilterMedianCross. */
+HUX_API HuxStatus huxiFilterMedianColor_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                               HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianColor_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianColor_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianColor_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                                 HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianColor_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                HuxiSize dstRoiSize, HuxiMaskSize mask);
+HUX_API HuxStatus huxiFilterMedianColor_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                                 HuxiSize dstRoiSize, HuxiMaskSize mask);
+
+/* FilterMin, FilterMax: the least or the greatest value of each channel over the mask, of any size from 1 by 1,
+ * where it copies. The time for a pixel does not grow with the mask. On 32f the extreme of each row of the window
+ * is found from left to right, then the extreme of these from the top down, and a candidate takes the place of
+ * what was found before it unless that is less (greater): so of 0 and -0 the later stands, and a NaN replaces what
+ * came before it and gives way to what follows.
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), steps (huxStsBadStep), a side below 1
+ * (huxStsBadMaskSize), anchor outside the mask (huxStsBadAnchor). huxStsNoMem where memory runs out; nothing has
+ * been written then. */
+HUX_API HuxStatus huxiFilterMin_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize dstRoiSize,
+                                       HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMin_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize dstRoiSize,
+                                       HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMin_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize dstRoiSize,
+                                       HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMin_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize dstRoiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMin_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize dstRoiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMin_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize dstRoiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMin_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize dstRoiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMin_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                         HuxiSize dstRoiSize, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMin_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize dstRoiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMin_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize dstRoiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMin_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize dstRoiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMin_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                         HuxiSize dstRoiSize, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMax_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize dstRoiSize,
+                                       HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMax_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize dstRoiSize,
+                                       HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMax_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize dstRoiSize,
+                                       HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMax_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize dstRoiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMax_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize dstRoiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMax_16s_C3R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize dstRoiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMax_16s_C4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep, HuxiSize dstRoiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMax_16s_AC4R(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                         HuxiSize dstRoiSize, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMax_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize dstRoiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMax_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize dstRoiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMax_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize dstRoiSize,
+                                        HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiFilterMax_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                         HuxiSize dstRoiSize, HuxiSize maskSize, HuxiPoint anchor);
+
 /* ---- Morphology ---- */
 
 /* ---- Wiener filter ---- */

@@ -1,0 +1,39 @@
+// How many lanes of a comparison hold.
+#pragma once
+
+#include <bit>
+
+#include "lanes/lanes.h"
+
+namespace hux {
+
+template <class V>
+int lanesThatHold(V comparison) {
+  constexpr int laneBytes = int(sizeof(LaneType<V>));
+  if constexpr (sizeof(V) > std::size_t(kLaneBytes)) {
+    struct Halves {
+      Lanes<LaneType<V>, lanesIn<V> / 2> low, high;
+    };
+    const auto halves = bitsAs<Halves>(comparison);
+    return lanesThatHold(halves.low) + lanesThatHold(halves.high);
+  }
+#if defined(__AVX2__)
+  if constexpr (sizeof(V) == 32)
+    return std::popcount(unsigned(_mm256_movemask_epi8(bitsAs<__m256i>(comparison)))) / laneBytes;
+#endif
+#if defined(__SSE2__)
+  if constexpr (sizeof(V) == 16)
+    return std::popcount(unsigned(_mm_movemask_epi8(bitsAs<__m128i>(comparison)))) / laneBytes;
+#endif
+  int count = 0;
+  for (int i = 0; i < lanesIn<V>; ++i) count += comparison[i] != 0;
+  return count;
+}
+
+// Whether any does.
+template <class V>
+bool anyHolds(V comparison) {
+  return lanesThatHold(comparison) != 0;
+}
+
+}  // namespace hux
