@@ -838,6 +838,120 @@ HUX_API HuxStatus huxiFilterMax_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f
 
 /* ---- Morphology ---- */
 
+/* Grey-scale morphology: Erode takes the least, Dilate the greatest value of each channel over the cells that a
+ * structuring element selects. The caller provides readable pixels around the region as far as the element
+ * reaches; no others are read. Steps are in bytes; AC4 forms leave the fourth element of the destination alone. On
+ * 32f a result starts from the largest (Dilate: the lowest) finite number, and a candidate takes the place of what
+ * was found before it unless that is less (greater): so an infinity of the wrong sign gives that number, of 0 and
+ * -0 the later stands, and a NaN replaces what came before it and gives way to what follows.
+ * IR forms work in place: as if all rows were computed before the first is written.
+ * Erode3x3, Dilate3x3: all 9 pixels around the pixel. On 32f each column of the window gives its extreme, top to
+ * bottom, then these from left to right. In place, memory for two rows is taken.
+ * Checks: null pointers (huxStsNullPtr), steps below 1 (huxStsBadStep), size (huxStsBadSize), a source step that
+ * does not hold a row of width + 2 pixels or a destination step that does not hold one of width
+ * (huxStsStepBelowWidth; a pixel of AC4 has four elements). huxStsNoMem in place where memory runs out; nothing
+ * has been written then. */
+HUX_API HuxStatus huxiErode3x3_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_8u_C3IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_8u_C4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_8u_AC4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_32f_C4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiErode3x3_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_8u_C3IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_8u_C4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_8u_AC4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_32f_C4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiDilate3x3_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
+
+/* Erode, Dilate with a mask: pMask has maskSize.height rows of maskSize.width bytes without gaps, on 32f as well;
+ * a byte other than 0 selects its cell. The mask is not flipped: cell (i, j) lies over the pixel (x - anchor.x +
+ * i, y - anchor.y + j). On 32f the cells are taken row by row. The time for a pixel does not grow with the size of
+ * a mask of which all cells are selected; with others it grows with the runs of neighbouring cells in their rows.
+ * In place, results wait in memory for anchor.y + 1 rows and a few more. A region lower than that is computed and
+ * written on down to row anchor.y, below the region: the caller's image must be readable and writable there.
+ * Checks: null pointers (huxStsNullPtr), steps below 1 (huxStsBadStep), size (huxStsBadSize), a side of the mask
+ * below 1 (huxStsBadMaskSize), no cell selected (huxStsZeroMask), anchor outside the mask (huxStsBadAnchor), a
+ * source step that does not hold a row of width + maskSize.width - 1 pixels or a destination step that does not
+ * hold one of width (huxStsStepBelowWidth; a pixel of AC4 has four elements). huxStsNoMem in place where memory
+ * runs out; nothing has been written then. */
+HUX_API HuxStatus huxiErode_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiErode_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiErode_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                   const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiErode_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiErode_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                    HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiErode_8u_C3IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                    HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiErode_8u_AC4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                     HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiErode_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiErode_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiErode_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiErode_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                     const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiErode_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                     HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiErode_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                     HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiErode_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                      HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiDilate_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiDilate_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiDilate_8u_C4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                    const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiDilate_8u_AC4R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
+                                     const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiDilate_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                     HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiDilate_8u_C3IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                     HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiDilate_8u_AC4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                      HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiDilate_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                     const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiDilate_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                     const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiDilate_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                     const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiDilate_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                      const Hux8u* pMask, HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiDilate_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                      HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiDilate_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                      HuxiSize maskSize, HuxiPoint anchor);
+HUX_API HuxStatus huxiDilate_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize, const Hux8u* pMask,
+                                       HuxiSize maskSize, HuxiPoint anchor);
+
 /* ---- Wiener filter ---- */
 
 /* FilterWienerGetBufferSize: the bytes of work memory that FilterWiener needs for a region and a mask, with as many
