@@ -8,6 +8,182 @@ HUX_BEGIN_C
 
 /* ---- FFT and DFT ---- */
 
+/* The two-dimensional Fourier transform of an image, for sizes that are powers of two (FFT, told by their orders) and
+ * for any (DFT): the one-dimensional transforms of huxs_transform.h of all rows, then of all columns; the inverse of a
+ * real image takes the columns first. Each applies its own factor, so huxFftScaleFwd divides the forward transform by
+ * width * height, huxFftScaleInv the inverse, huxFftScaleRoot both by the root of it, huxFftScaleNone neither.
+ *
+ * The spectrum of a real image of W by H pixels lies in an image of the same size. F(u, v) is its value at frequencies
+ * u along rows and v along columns, R and I its parts; F(W - u, H - v) is the conjugate of F(u, v). For even W and H:
+ *
+ *   R(0,0)      R(1,0)   I(1,0)   ...  R(W/2-1,0)   I(W/2-1,0)     R(W/2,0)
+ *   R(0,1)      R(1,1)   I(1,1)   ...  R(W/2-1,1)   I(W/2-1,1)     R(W/2,1)
+ *   I(0,1)      R(1,2)   I(1,2)   ...  R(W/2-1,2)   I(W/2-1,2)     I(W/2,1)
+ *   ...
+ *   R(0,H/2-1)  R(1,H-3) I(1,H-3) ...  R(W/2-1,H-3) I(W/2-1,H-3)   R(W/2,H/2-1)
+ *   I(0,H/2-1)  R(1,H-2) I(1,H-2) ...  R(W/2-1,H-2) I(W/2-1,H-2)   I(W/2,H/2-1)
+ *   R(0,H/2)    R(1,H-1) I(1,H-1) ...  R(W/2-1,H-1) I(W/2-1,H-1)   R(W/2,H/2)
+ *
+ * An odd W has no last column, an odd H no last row in the outer columns: they end with the pair before. In images of
+ * several channels each has this layout of its own.
+ *
+ * A context is made for one size, is only read from then on, and may serve any number of threads at once: C_32fc for
+ * complex images, R_32f for real ones, R_32s for real ones of integers. hint is kept and has no effect. */
+typedef struct HuxiFFTRecord HuxiFFTRecord;
+typedef struct HuxiDFTRecord HuxiDFTRecord;
+
+/* InitAlloc: makes a context, to be freed by the Free of its kind.
+ * Checks: ppCtx null (huxStsNullPtr), an order outside 0..30 (FFT, huxStsBadOrder), a size below 1 (DFT,
+ * huxStsBadSize), memory (huxStsNoMem; also where GetBufSize would have to report more than a signed 32-bit number
+ * holds), flag (huxStsBadFlag). On failure *ppCtx is as it was. */
+HUX_API HuxStatus huxiFFTInitAlloc_C_32fc(HuxiFFTRecord** ppCtx, int orderX, int orderY, int flag,
+                                          HuxAccuracyHint hint);
+HUX_API HuxStatus huxiFFTInitAlloc_R_32f(HuxiFFTRecord** ppCtx, int orderX, int orderY, int flag, HuxAccuracyHint hint);
+HUX_API HuxStatus huxiFFTInitAlloc_R_32s(HuxiFFTRecord** ppCtx, int orderX, int orderY, int flag, HuxAccuracyHint hint);
+HUX_API HuxStatus huxiDFTInitAlloc_C_32fc(HuxiDFTRecord** ppCtx, int width, int height, int flag, HuxAccuracyHint hint);
+HUX_API HuxStatus huxiDFTInitAlloc_R_32f(HuxiDFTRecord** ppCtx, int width, int height, int flag, HuxAccuracyHint hint);
+HUX_API HuxStatus huxiDFTInitAlloc_R_32s(HuxiDFTRecord** ppCtx, int width, int height, int flag, HuxAccuracyHint hint);
+
+/* Free: ends a context. GetBufSize: the bytes of the work buffer of a transform.
+ * Checks: null pointers (huxStsNullPtr), a context of another kind (huxStsBadContext). */
+HUX_API HuxStatus huxiFFTFree_C_32fc(HuxiFFTRecord* pCtx);
+HUX_API HuxStatus huxiFFTFree_R_32f(HuxiFFTRecord* pCtx);
+HUX_API HuxStatus huxiFFTFree_R_32s(HuxiFFTRecord* pCtx);
+HUX_API HuxStatus huxiFFTGetBufSize_C_32fc(const HuxiFFTRecord* pCtx, int* pSize);
+HUX_API HuxStatus huxiFFTGetBufSize_R_32f(const HuxiFFTRecord* pCtx, int* pSize);
+HUX_API HuxStatus huxiFFTGetBufSize_R_32s(const HuxiFFTRecord* pCtx, int* pSize);
+HUX_API HuxStatus huxiDFTFree_C_32fc(HuxiDFTRecord* pCtx);
+HUX_API HuxStatus huxiDFTFree_R_32f(HuxiDFTRecord* pCtx);
+HUX_API HuxStatus huxiDFTFree_R_32s(HuxiDFTRecord* pCtx);
+HUX_API HuxStatus huxiDFTGetBufSize_C_32fc(const HuxiDFTRecord* pCtx, int* pSize);
+HUX_API HuxStatus huxiDFTGetBufSize_R_32f(const HuxiDFTRecord* pCtx, int* pSize);
+HUX_API HuxStatus huxiDFTGetBufSize_R_32s(const HuxiDFTRecord* pCtx, int* pSize);
+
+/* CToC: the transform of a complex image. IR works in place. Source and destination may be the same image and must not
+ * overlap otherwise. pBuffer is work memory at any address, as large as GetBufSize tells, for this call alone; when it
+ * is null the call allocates its own. Steps are in bytes and are not compared with the width. Checks: pCtx null
+ * (huxStsNullPtr), a context of another kind (huxStsBadContext), pSrc or pDst null (huxStsNullPtr), a step below 1
+ * (huxStsBadStep), memory (huxStsNoMem). */
+HUX_API HuxStatus huxiFFTFwd_CToC_32fc_C1R(const Hux32fc* pSrc, int srcStep, Hux32fc* pDst, int dstStep,
+                                           const HuxiFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTFwd_CToC_32fc_C1IR(Hux32fc* pSrcDst, int srcDstStep, const HuxiFFTRecord* pCtx,
+                                            Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTInv_CToC_32fc_C1R(const Hux32fc* pSrc, int srcStep, Hux32fc* pDst, int dstStep,
+                                           const HuxiFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTInv_CToC_32fc_C1IR(Hux32fc* pSrcDst, int srcDstStep, const HuxiFFTRecord* pCtx,
+                                            Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTFwd_CToC_32fc_C1R(const Hux32fc* pSrc, int srcStep, Hux32fc* pDst, int dstStep,
+                                           const HuxiDFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTFwd_CToC_32fc_C1IR(Hux32fc* pSrcDst, int srcDstStep, const HuxiDFTRecord* pCtx,
+                                            Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTInv_CToC_32fc_C1R(const Hux32fc* pSrc, int srcStep, Hux32fc* pDst, int dstStep,
+                                           const HuxiDFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTInv_CToC_32fc_C1IR(Hux32fc* pSrcDst, int srcDstStep, const HuxiDFTRecord* pCtx,
+                                            Hux8u* pBuffer);
+
+/* Fwd_RToPack: the spectrum of a real image. Inv_PackToR: the real image of a spectrum. AC4 transforms the first three
+ * channels and leaves the fourth of the destination as it is. Buffer, overlap and checks as above. */
+HUX_API HuxStatus huxiFFTFwd_RToPack_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             const HuxiFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTFwd_RToPack_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             const HuxiFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTFwd_RToPack_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             const HuxiFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTFwd_RToPack_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                              const HuxiFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTFwd_RToPack_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, const HuxiFFTRecord* pCtx,
+                                              Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTFwd_RToPack_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, const HuxiFFTRecord* pCtx,
+                                              Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTFwd_RToPack_32f_C4IR(Hux32f* pSrcDst, int srcDstStep, const HuxiFFTRecord* pCtx,
+                                              Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTFwd_RToPack_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, const HuxiFFTRecord* pCtx,
+                                               Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTInv_PackToR_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             const HuxiFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTInv_PackToR_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             const HuxiFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTInv_PackToR_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             const HuxiFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTInv_PackToR_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                              const HuxiFFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTInv_PackToR_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, const HuxiFFTRecord* pCtx,
+                                              Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTInv_PackToR_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, const HuxiFFTRecord* pCtx,
+                                              Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTInv_PackToR_32f_C4IR(Hux32f* pSrcDst, int srcDstStep, const HuxiFFTRecord* pCtx,
+                                              Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTInv_PackToR_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, const HuxiFFTRecord* pCtx,
+                                               Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTFwd_RToPack_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             const HuxiDFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTFwd_RToPack_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             const HuxiDFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTFwd_RToPack_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             const HuxiDFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTFwd_RToPack_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                              const HuxiDFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTFwd_RToPack_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, const HuxiDFTRecord* pCtx,
+                                              Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTFwd_RToPack_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, const HuxiDFTRecord* pCtx,
+                                              Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTFwd_RToPack_32f_C4IR(Hux32f* pSrcDst, int srcDstStep, const HuxiDFTRecord* pCtx,
+                                              Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTFwd_RToPack_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, const HuxiDFTRecord* pCtx,
+                                               Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTInv_PackToR_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             const HuxiDFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTInv_PackToR_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             const HuxiDFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTInv_PackToR_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                             const HuxiDFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTInv_PackToR_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                              const HuxiDFTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTInv_PackToR_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, const HuxiDFTRecord* pCtx,
+                                              Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTInv_PackToR_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, const HuxiDFTRecord* pCtx,
+                                              Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTInv_PackToR_32f_C4IR(Hux32f* pSrcDst, int srcDstStep, const HuxiDFTRecord* pCtx,
+                                              Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTInv_PackToR_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, const HuxiDFTRecord* pCtx,
+                                               Hux8u* pBuffer);
+
+/* The same between 8u images and 32s spectra, computed in 32f. The results are multiplied by 2^-scaleFactor, rounded to
+ * nearest with ties to even, and saturated; what goes in is not scaled. The context is one of R_32s. Buffer and checks
+ * as above. */
+HUX_API HuxStatus huxiFFTFwd_RToPack_8u32s_C1RSfs(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                                  const HuxiFFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTFwd_RToPack_8u32s_C3RSfs(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                                  const HuxiFFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTFwd_RToPack_8u32s_C4RSfs(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                                  const HuxiFFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTFwd_RToPack_8u32s_AC4RSfs(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                                   const HuxiFFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTInv_PackToR_32s8u_C1RSfs(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                  const HuxiFFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTInv_PackToR_32s8u_C3RSfs(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                  const HuxiFFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTInv_PackToR_32s8u_C4RSfs(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                  const HuxiFFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiFFTInv_PackToR_32s8u_AC4RSfs(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                   const HuxiFFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTFwd_RToPack_8u32s_C1RSfs(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                                  const HuxiDFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTFwd_RToPack_8u32s_C3RSfs(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                                  const HuxiDFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTFwd_RToPack_8u32s_C4RSfs(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                                  const HuxiDFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTFwd_RToPack_8u32s_AC4RSfs(const Hux8u* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                                   const HuxiDFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTInv_PackToR_32s8u_C1RSfs(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                  const HuxiDFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTInv_PackToR_32s8u_C3RSfs(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                  const HuxiDFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTInv_PackToR_32s8u_C4RSfs(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                  const HuxiDFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDFTInv_PackToR_32s8u_AC4RSfs(const Hux32s* pSrc, int srcStep, Hux8u* pDst, int dstStep,
+                                                   const HuxiDFTRecord* pCtx, int scaleFactor, Hux8u* pBuffer);
+
 /* ---- DCT ---- */
 
 /* ---- Blocks of 8 by 8 ---- */

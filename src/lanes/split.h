@@ -69,6 +69,20 @@ void storeSplit(void* p, Split<V> z) {
   }
 }
 
+// The first `count` of them; the other lanes hold zeros.
+template <class V>
+Split<V> loadSplit(const void* p, Index count) {
+  Hux32fc few[splitLanes<V>] = {};
+  for (Index i = 0; i < count; ++i) std::memcpy(few + i, static_cast<const std::byte*>(p) + 8 * i, 8);
+  return loadSplit<V>(few);
+}
+template <class V>
+void storeSplit(void* p, Split<V> z, Index count) {
+  Hux32fc few[splitLanes<V>];
+  storeSplit(few, z);
+  for (Index i = 0; i < count; ++i) std::memcpy(static_cast<std::byte*>(p) + 8 * i, few + i, 8);
+}
+
 // The lanes as they are, real parts first: how data lie between passes, and tables.
 template <class V>
 Split<V> loadParted(const Hux32f* p) {

@@ -29,7 +29,7 @@ HuxStatus initAlloc(Hux32s tag, Record** ppCtx, int n, Hux32s flag, HuxAccuracyH
   if (tag == kReal)
     record.plan.length = n, record.plan.take(arena);
   else
-    record.plan.inner.length = n, record.plan.inner.take(arena, true, 150);
+    record.plan.inner.length = n, record.plan.inner.take(arena, true, kLongestDirect);
   const std::int64_t work = tag == kReal ? record.plan.work : record.plan.inner.work;
   // What is reported of it must be a signed 32-bit number.
   constexpr std::int64_t most = std::numeric_limits<Hux32s>::max();

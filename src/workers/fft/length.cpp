@@ -28,19 +28,6 @@ Split<Hux64f> rootOf(Index k, Index n) {
 }
 Number narrow(Split<Hux64f> z) { return {Hux32f(z.re), Hux32f(z.im)}; }
 
-// --- Vectors of fewer numbers than lanes; the others hold zeros.
-
-Z loadFew(const Hux32fc* p, Index count) {
-  Hux32fc few[kLanes] = {};
-  for (Index i = 0; i < count; ++i) std::memcpy(few + i, p + i, sizeof(Hux32fc));
-  return loadSplit<V>(few);
-}
-void storeFew(Hux32fc* p, Z z, Index count) {
-  Hux32fc few[kLanes];
-  storeSplit(few, z);
-  for (Index i = 0; i < count; ++i) std::memcpy(p + i, few + i, sizeof(Hux32fc));
-}
-
 Number numberAt(const Hux32fc* p) { return loadSplit<Hux32f>(p); }
 
 // --- Transforms of one factor's length, in lanes. z is in the sequence's own order, and so is the result.
@@ -134,14 +121,15 @@ void step(const Step& s, const Hux32fc* src, Hux32fc* dst) {
       const bool whole = count >= kLanes;
       for (int r = 0; r < f; ++r) {
         const Hux32fc* p = from + r * s.part + i;
-        z[r] = whole ? loadSplit<V>(p) : loadFew(p, count);
+        z[r] = whole ? loadSplit<V>(p) : loadSplit<V>(p, count);
       }
       if (s.turns && s.perRun) {
         const Hux32f* t = s.turns + 2 * o * (f - 1);
         for (int r = 1; r < f; ++r, t += 2) z[r] = turned<W>(z[r], Z{splat<V>(t[0]), splat<V>(t[1])});
       } else if (s.turns) {
         const auto* t = reinterpret_cast<const Hux32fc*>(s.turns) + i;
-        for (int r = 1; r < f; ++r, t += s.inner) z[r] = turned<W>(z[r], whole ? loadSplit<V>(t) : loadFew(t, count));
+        for (int r = 1; r < f; ++r, t += s.inner)
+          z[r] = turned<W>(z[r], whole ? loadSplit<V>(t) : loadSplit<V>(t, count));
       }
       points<W, F>(z, f, s.roots);
       for (int q = 0; q < f; ++q) {
@@ -149,7 +137,7 @@ void step(const Step& s, const Hux32fc* src, Hux32fc* dst) {
         if (whole)
           storeSplit(p, z[q]);
         else
-          storeFew(p, z[q], count);
+          storeSplit(p, z[q], count);
       }
     }
   }
@@ -358,7 +346,7 @@ void multiply(const Hux32fc* a, const Hux32fc* b, Hux32fc* c, Index n) {
     if (count >= kLanes)
       storeSplit(c + i, turned<Way::forward>(loadSplit<V>(a + i), loadSplit<V>(b + i)));
     else
-      storeFew(c + i, turned<Way::forward>(loadFew(a + i, count), loadFew(b + i, count)), count);
+      storeSplit(c + i, turned<Way::forward>(loadSplit<V>(a + i, count), loadSplit<V>(b + i, count)), count);
   }
 }
 
@@ -561,7 +549,7 @@ void RealLengthPlan::take(Arena& arena) {
   // The forward half is scaled behind the recombination.
   inner.scaling = even ? Scaling{0, scaling.inverse, scaling.factor} : Scaling{};
   inner.within = !even;
-  inner.take(arena, !even, even ? 150 : 180);
+  inner.take(arena, !even, even ? kLongestDirect : 180);
   work = inner.work;
   if (even) {
     recombineForward = arena.take<Hux32f>(recombinationFloats(length));

@@ -14,6 +14,9 @@ namespace hux::fft {
 
 enum class Method : Hux32s { three, power, factors, chirp, direct };
 
+// The longest length, but for real odd ones, whose transform is the sum as it stands where it has no factors.
+inline constexpr Index kLongestDirect = 150;
+
 inline constexpr int kMostFactors = 20;  // 3^20 is beyond all lengths
 
 struct LengthPlan {
