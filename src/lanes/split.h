@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "lanes/lanes.h"
+#include "lanes/unrolled.h"
 
 namespace hux {
 
@@ -37,6 +38,24 @@ constexpr int laneOf(int element) {
   return heldBy<V>(element);
 }
 
+// Two vectors of complex numbers as they lie in memory, in parts, and back.
+template <class V>
+Split<V> partSplit(V a, V b) {
+  if constexpr (splitLanes<V> == 8)
+    return {__builtin_shufflevector(a, b, 0, 2, 8, 10, 4, 6, 12, 14),
+            __builtin_shufflevector(a, b, 1, 3, 9, 11, 5, 7, 13, 15)};
+  else
+    return {__builtin_shufflevector(a, b, 0, 2, 4, 6), __builtin_shufflevector(a, b, 1, 3, 5, 7)};
+}
+template <class V>
+std::pair<V, V> joinSplit(Split<V> z) {
+  if constexpr (splitLanes<V> == 8)
+    return {__builtin_shufflevector(z.re, z.im, 0, 8, 1, 9, 4, 12, 5, 13),
+            __builtin_shufflevector(z.re, z.im, 2, 10, 3, 11, 6, 14, 7, 15)};
+  else
+    return {__builtin_shufflevector(z.re, z.im, 0, 4, 1, 5), __builtin_shufflevector(z.re, z.im, 2, 6, 3, 7)};
+}
+
 // From complex numbers in memory, and back.
 template <class V>
 Split<V> loadSplit(const void* p) {
@@ -44,12 +63,7 @@ Split<V> loadSplit(const void* p) {
     const auto* z = static_cast<const Element<Hux32f>*>(p);
     return {z[0], z[1]};
   } else {
-    const V a = loadLanes<V>(p), b = loadLanes<V>(static_cast<const std::byte*>(p) + sizeof(V));
-    if constexpr (splitLanes<V> == 8)
-      return {__builtin_shufflevector(a, b, 0, 2, 8, 10, 4, 6, 12, 14),
-              __builtin_shufflevector(a, b, 1, 3, 9, 11, 5, 7, 13, 15)};
-    else
-      return {__builtin_shufflevector(a, b, 0, 2, 4, 6), __builtin_shufflevector(a, b, 1, 3, 5, 7)};
+    return partSplit(loadLanes<V>(p), loadLanes<V>(static_cast<const std::byte*>(p) + sizeof(V)));
   }
 }
 template <class V>
@@ -58,29 +72,64 @@ void storeSplit(void* p, Split<V> z) {
     auto* to = static_cast<Element<Hux32f>*>(p);
     to[0] = z.re, to[1] = z.im;
   } else {
-    V a, b;
-    if constexpr (splitLanes<V> == 8)
-      a = __builtin_shufflevector(z.re, z.im, 0, 8, 1, 9, 4, 12, 5, 13),
-      b = __builtin_shufflevector(z.re, z.im, 2, 10, 3, 11, 6, 14, 7, 15);
-    else
-      a = __builtin_shufflevector(z.re, z.im, 0, 4, 1, 5), b = __builtin_shufflevector(z.re, z.im, 2, 6, 3, 7);
+    const auto [a, b] = joinSplit(z);
     storeLanes(p, a);
     storeLanes(static_cast<std::byte*>(p) + sizeof(V), b);
   }
 }
 
-// The first `count` of them; the other lanes hold zeros.
+// The first `count` of them, fewer than there are lanes; the other lanes hold zeros. Where a vector has eight lanes
+// they go by fours, twos and ones, for what is stored piece by piece cannot be loaded as a whole without a halt.
 template <class V>
 Split<V> loadSplit(const void* p, Index count) {
-  Hux32fc few[splitLanes<V>] = {};
-  for (Index i = 0; i < count; ++i) std::memcpy(few + i, static_cast<const std::byte*>(p) + 8 * i, 8);
-  return loadSplit<V>(few);
+  if constexpr (splitLanes<V> == 8) {
+    using Four = Lanes<Hux64s, 4>;
+    using Two = Lanes<Hux64s, 2>;
+    const auto* from = static_cast<const std::byte*>(p);
+    Four all[2] = {};
+    const auto upToThree = [count](const std::byte* q) {
+      Four v{};
+      if (count & 2) {
+        const Two two = loadLanes<Two>(q);
+        v = __builtin_shufflevector(two, Two{}, 0, 1, 2, 3);
+        if (count & 1) v[2] = loadLanes<Hux64s>(q + 16);
+      } else if (count & 1) {
+        v[0] = loadLanes<Hux64s>(q);
+      }
+      return v;
+    };
+    if (count & 4)
+      all[0] = loadLanes<Four>(from), all[1] = upToThree(from + 32);
+    else
+      all[0] = upToThree(from);
+    return partSplit(bitsAs<V>(all[0]), bitsAs<V>(all[1]));
+  } else {
+    Hux32fc numbers[splitLanes<V>] = {};
+    std::memcpy(numbers, p, std::size_t(count) * sizeof(Hux32fc));
+    return loadSplit<V>(numbers);
+  }
 }
 template <class V>
 void storeSplit(void* p, Split<V> z, Index count) {
-  Hux32fc few[splitLanes<V>];
-  storeSplit(few, z);
-  for (Index i = 0; i < count; ++i) std::memcpy(static_cast<std::byte*>(p) + 8 * i, few + i, 8);
+  if constexpr (splitLanes<V> == 8) {
+    using Four = Lanes<Hux64s, 4>;
+    auto* to = static_cast<std::byte*>(p);
+    const auto [a, b] = joinSplit(z);
+    Four v = bitsAs<Four>(a);
+    if (count & 4) {
+      storeLanes(to, v);
+      to += 32, v = bitsAs<Four>(b);
+    }
+    if (count & 2) {
+      storeLanes(to, Lanes<Hux64s, 2>(__builtin_shufflevector(v, v, 0, 1)));
+      to += 16, v = __builtin_shufflevector(v, v, 2, 3, 2, 3);
+    }
+    if (count & 1) storeLanes(to, Hux64s(v[0]));
+  } else {
+    Hux32fc numbers[splitLanes<V>];
+    storeSplit(numbers, z);
+    std::memcpy(p, numbers, std::size_t(count) * sizeof(Hux32fc));
+  }
 }
 
 // The lanes as they are, real parts first: how data lie between passes, and tables.
@@ -109,7 +158,7 @@ Split<V> mirrored(Split<V> z) {
 
 // A square of lanes about its diagonal.
 template <class V>
-void transposeSquare(V (&r)[splitLanes<V>]) {
+HUX_INLINE inline void transposeSquare(V (&r)[splitLanes<V>]) {
   if constexpr (splitLanes<V> == 8) {
     V t[8], u[8];
     for (int i = 0; i < 8; i += 2) {
@@ -133,14 +182,13 @@ void transposeSquare(V (&r)[splitLanes<V>]) {
   }
 }
 
-// Moves 8 columns of four complex numbers: element (row, column) of src, whose rows lie `step` numbers apart, to
-// dst[column][row].
-inline void turnColumns(const Hux32fc* src, Index step, Hux32fc* const (&dst)[8]) {
+// Turns four rows of 8 complex numbers: dst[column] takes that number of each row.
+inline void turnColumns(const Hux32fc* const (&rows)[4], Hux32fc* const (&dst)[8]) {
   if constexpr (kSplitLanes == 8) {
     using Pairs = Lanes<Hux64s, 4>;  // only bits move
     for (int c = 0; c < 8; c += 4) {
       Pairs r[4];
-      for (int i = 0; i < 4; ++i) r[i] = loadLanes<Pairs>(src + i * step + c);
+      for (int i = 0; i < 4; ++i) r[i] = loadLanes<Pairs>(rows[i] + c);
       const Pairs a = __builtin_shufflevector(r[0], r[1], 0, 4, 2, 6),
                   b = __builtin_shufflevector(r[0], r[1], 1, 5, 3, 7);
       const Pairs d = __builtin_shufflevector(r[2], r[3], 0, 4, 2, 6),
@@ -152,7 +200,7 @@ inline void turnColumns(const Hux32fc* src, Index step, Hux32fc* const (&dst)[8]
     }
   } else {
     for (int c = 0; c < 8; ++c)
-      for (int i = 0; i < 4; ++i) std::memcpy(dst[c] + i, src + i * step + c, sizeof(Hux32fc));
+      for (int i = 0; i < 4; ++i) std::memcpy(dst[c] + i, rows[i] + c, sizeof(Hux32fc));
   }
 }
 

@@ -17,7 +17,6 @@ struct ImageRecord {
   Hux32s tag;
   HuxAccuracyHint hint;
   Hux32s bufSize;
-  Hux32s realSize;  // of integer records: bufSize of the real transform within
   ImagePlan<K> plan;
 };
 
@@ -77,7 +76,6 @@ HuxStatus planImage(R& record, Arena& arena, int x, int y, Hux32s flag, HuxStatu
     bytes = std::max({16 * height + column, 64 * height + takeFor(plan.column, arena), 16 * width + row});
   }
   constexpr std::int64_t most = std::numeric_limits<Hux32s>::max();
-  record.realSize = Hux32s(std::min(bytes, most));
   if (record.tag == R::kInteger) {
     // In double, for the product alone may leave 64 bits.
     if (16.0 * double(width) * double(height) > double(most)) return huxStsNoMem;
@@ -250,10 +248,11 @@ HuxStatus integerImage(const S* pSrc, int srcStep, D* pDst, int dstStep, const R
     return hux::fft::complexImage<hux::fft::Way::way>(pSrcDst, srcDstStep, pSrcDst, srcDstStep, pCtx, pBuffer); \
   }
 
-#define HUX_IMAGE_REAL(T, l)                                                                                        \
-  HUX_IMAGE_REAL_WAY(T, l, Fwd_RToPack, forward)                                                                    \
-  HUX_IMAGE_REAL_WAY(T, l, Inv_PackToR, inverse) HUX_IMAGE_INTEGER(T, l, Fwd_RToPack_8u32s, forward, Hux8u, Hux32s) \
-      HUX_IMAGE_INTEGER(T, l, Inv_PackToR_32s8u, inverse, Hux32s, Hux8u)
+#define HUX_IMAGE_REAL(T, l)                                         \
+  HUX_IMAGE_REAL_WAY(T, l, Fwd_RToPack, forward)                     \
+  HUX_IMAGE_REAL_WAY(T, l, Inv_PackToR, inverse)                     \
+  HUX_IMAGE_INTEGER(T, l, Fwd_RToPack_8u32s, forward, Hux8u, Hux32s) \
+  HUX_IMAGE_INTEGER(T, l, Inv_PackToR_32s8u, inverse, Hux32s, Hux8u)
 
 #define HUX_IMAGE_REAL_WAY(T, l, Name, way)                                                                          \
   HuxStatus huxi##T##Name##_32f_##l##R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,                   \

@@ -88,22 +88,16 @@ struct Scaled {
 // Four transforms become one of four times the length. They come in the order in which decimation in time leaves them:
 // of the numbers 0, 2, 1, 3 modulo 4. `scale` is applied to the first sums.
 template <Way W, class V, class Scale = Unscaled>
-void radix4(Split<V>& a, Split<V>& b, Split<V>& c, Split<V>& d, Scale scale = {}) {
+HUX_INLINE inline void radix4(Split<V>& a, Split<V>& b, Split<V>& c, Split<V>& d, Scale scale = {}) {
   const Split<V> p = scale(a + b), q = scale(a - b), r = scale(c + d), s = scale(c - d);
   a = p + r, c = p - r;
   b = addTurned<W>(q, s), d = subTurned<W>(q, s);
 }
 
-template <int N, class Body>
-void unrolled(Body body) {
-  [&]<int... I>(std::integer_sequence<int, I...>) { (body(std::integral_constant<int, I>{}), ...); }
-  (std::make_integer_sequence<int, N>{});
-}
-
 // The transform of 4, 8 or 16 numbers in bit-reversed order by the passes of the long ones: radix 4, then radix 2 or
 // radix 4.
 template <Way W, int N, class V, class Scale = Unscaled>
-void kernel(Split<V> (&z)[N], Scale scale = {}) {
+HUX_INLINE inline void kernel(Split<V> (&z)[N], Scale scale = {}) {
   for (int i = 0; i < N; i += 4) radix4<W>(z[i], z[i + 1], z[i + 2], z[i + 3], scale);
   if constexpr (N == 8)
     unrolled<4>([&](auto j) {

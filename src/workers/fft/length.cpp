@@ -33,7 +33,7 @@ Number numberAt(const Hux32fc* p) { return loadSplit<Hux32f>(p); }
 // --- Transforms of one factor's length, in lanes. z is in the sequence's own order, and so is the result.
 
 template <Way W, class U, class Scale = Unscaled>
-void threePoints(Split<U>* z, Scale scale = {}) {
+HUX_INLINE inline void threePoints(Split<U>* z, Scale scale = {}) {
   constexpr Hux32f sin60 = 0.86602540378443865f;
   const Split<U> a = scale(z[0]), b = scale(z[1] + z[2]), c = scale(z[1] - z[2]) * sin60, d = a - b * 0.5f;
   z[0] = a + b;
@@ -41,7 +41,7 @@ void threePoints(Split<U>* z, Scale scale = {}) {
 }
 
 template <Way W>
-void fivePoints(Z* z) {
+HUX_INLINE inline void fivePoints(Z* z) {
   constexpr Hux32f c1 = 0.30901699437494742f, c2 = -0.80901699437494742f;
   constexpr Hux32f s1 = 0.95105651629515357f, s2 = 0.58778525229247313f;
   const Z a = z[0], b = z[1] + z[4], c = z[2] + z[3], d = z[1] - z[4], e = z[2] - z[3];
@@ -74,7 +74,7 @@ void oddPoints(Z* z, int f, const Hux32f* roots) {
 }
 
 template <Way W, int F>
-void points(Z* z, int f, const Hux32f* roots) {
+HUX_INLINE inline void points(Z* z, int f, const Hux32f* roots) {
   if constexpr (F == 2) {
     const Z a = z[0], b = z[1];
     z[0] = a + b, z[1] = a - b;
@@ -106,40 +106,55 @@ struct Step {
   const Hux32f *turns, *roots;  // turns null: there are none
 };
 
+// body(i) for the parts from `first` on; F is their number, or 0 where it is only known now.
+template <int F, class Body>
+HUX_INLINE inline void forParts(int first, int f, Body body) {
+  if constexpr (F > 0)
+    unrolled<F>([&](auto i) HUX_INLINE {
+      if (i >= first) body(int(i));
+    });
+  else
+    for (int i = first; i < f; ++i) body(i);
+}
+
+// Number i and those behind it of run o, as many as there are lanes, or `count` of them.
+template <Way W, int F, bool Whole>
+HUX_INLINE inline void stepAt(const Step& s, const Hux32fc* src, Hux32fc* dst, Index o, Index i, Index count) {
+  const int f = F ? F : s.factor;
+  const auto load = [count](const void* p) { return Whole ? loadSplit<V>(p) : loadSplit<V>(p, count); };
+  const Hux32fc* from = src + o * s.fromRun + i;
+  Z z[F ? F : kMostFactor];
+  forParts<F>(0, f, [&](int r) HUX_INLINE { z[r] = load(from + r * s.part); });
+  if (s.turns && s.perRun) {
+    const Hux32f* t = s.turns + 2 * o * (f - 1);
+    forParts<F>(1, f, [&](int r) HUX_INLINE {
+      z[r] = turned<W>(z[r], Z{splat<V>(t[2 * r - 2]), splat<V>(t[2 * r - 1])});
+    });
+  } else if (s.turns) {
+    const auto* t = reinterpret_cast<const Hux32fc*>(s.turns) + i;
+    forParts<F>(1, f, [&](int r) HUX_INLINE { z[r] = turned<W>(z[r], load(t + (r - 1) * s.inner)); });
+  }
+  points<W, F>(z, f, s.roots);
+  Hux32fc* to = dst + o * s.toRun + i;
+  forParts<F>(0, f, [&](int q) HUX_INLINE {
+    if constexpr (Whole)
+      storeSplit(to + q * s.result, z[q]);
+    else
+      storeSplit(to + q * s.result, z[q], count);
+  });
+}
+
 template <Way W, int F>
 void step(const Step& s, const Hux32fc* src, Hux32fc* dst) {
-  const int f = F ? F : s.factor;
-  const bool apart = src != dst;
-  Z z[F ? F : kMostFactor];
   for (Index o = 0; o < s.outer; ++o) {
-    const Hux32fc* from = src + o * s.fromRun;
-    Hux32fc* to = dst + o * s.toRun;
-    for (Index i = 0; i < s.inner; i += kLanes) {
-      Index count = s.inner - i;
-      // The last vector of a run covers some of the one before once more, where that does not spoil the source.
-      if (count < kLanes && apart && s.inner >= kLanes) i = s.inner - kLanes, count = kLanes;
-      const bool whole = count >= kLanes;
-      for (int r = 0; r < f; ++r) {
-        const Hux32fc* p = from + r * s.part + i;
-        z[r] = whole ? loadSplit<V>(p) : loadSplit<V>(p, count);
-      }
-      if (s.turns && s.perRun) {
-        const Hux32f* t = s.turns + 2 * o * (f - 1);
-        for (int r = 1; r < f; ++r, t += 2) z[r] = turned<W>(z[r], Z{splat<V>(t[0]), splat<V>(t[1])});
-      } else if (s.turns) {
-        const auto* t = reinterpret_cast<const Hux32fc*>(s.turns) + i;
-        for (int r = 1; r < f; ++r, t += s.inner)
-          z[r] = turned<W>(z[r], whole ? loadSplit<V>(t) : loadSplit<V>(t, count));
-      }
-      points<W, F>(z, f, s.roots);
-      for (int q = 0; q < f; ++q) {
-        Hux32fc* p = to + q * s.result + i;
-        if (whole)
-          storeSplit(p, z[q]);
-        else
-          storeSplit(p, z[q], count);
-      }
-    }
+    Index i = 0;
+    for (; i + kLanes <= s.inner; i += kLanes) stepAt<W, F, true>(s, src, dst, o, i, kLanes);
+    if (i == s.inner) continue;
+    // The last vector of a run covers some of the one before once more, where that does not spoil the source.
+    if (src != dst && s.inner >= kLanes)
+      stepAt<W, F, true>(s, src, dst, o, s.inner - kLanes, kLanes);
+    else
+      stepAt<W, F, false>(s, src, dst, o, i, s.inner - i);
   }
 }
 template <Way W>
@@ -179,7 +194,8 @@ void turnOver(const Hux32fc* src, Hux32fc* dst, Index rows, Index columns) {
     for (; c + 8 <= columns; c += 8) {
       Hux32fc* to[8];
       for (int i = 0; i < 8; ++i) to[i] = dst + (c + i) * rows + r;
-      turnColumns(src + r * columns + c, columns, to);
+      const Hux32fc* from = src + r * columns + c;
+      turnColumns({from, from + columns, from + 2 * columns, from + 3 * columns}, to);
     }
     for (; c < columns; ++c)
       for (Index i = 0; i < 4; ++i) std::memcpy(dst + c * rows + r + i, src + (r + i) * columns + c, sizeof(Hux32fc));

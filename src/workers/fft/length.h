@@ -25,7 +25,7 @@ struct LengthPlan {
   Scaling scaling;
   PowerPlan power;  // the whole, or the convolution of the chirp
 
-  // Mixed radix, in the order of the text of the factorisation: the first is combined last.
+  // Mixed radix: the transforms of the last factor are the deepest, the first is combined last.
   Hux32s count = 0;
   bool within = false;  // the steps are done within one array
   Hux32s factor[kMostFactors] = {};

@@ -186,16 +186,24 @@ void smallest(const PowerPlan& plan, const Hux32fc* src, Hux32fc* dst) {
 
 // --- Long transforms.
 
+// Turns 8 rows over, `step` numbers apart and of 8 or 16 numbers, and takes both rows and columns in the order of their
+// reversed bits: square[reversed(column)][reversed(row)].
+void turnSquare(const Hux32fc* src, Index step, Hux32fc* square, Index columns) {
+  const int bits = columns == 8 ? 3 : 4;
+  for (Index c = 0; c < columns; c += 8)
+    for (Index h = 0; h < 2; ++h) {
+      Hux32fc* to[8];
+      for (Index i = 0; i < 8; ++i) to[i] = square + reversed(c + i, bits) * 8 + 4 * h;
+      const Hux32fc* from = src + h * step + c;
+      turnColumns({from, from + 4 * step, from + 2 * step, from + 6 * step}, to);
+    }
+}
+
 // Swaps, or brings from one array to another, all numbers to their bit-reversed places, by squares of 8 by 8 whose
 // lines are whole in both.
 void reverseBits(const Hux32fc* src, Hux32fc* dst, int order) {
   const Index middles = Index(1) << (order - 6), high = Index(1) << (order - 3);
-  constexpr Index reversed3[] = {0, 4, 2, 6, 1, 5, 3, 7};
-  const auto load = [&](Index middle, Hux32fc(&square)[64]) {
-    for (Index a = 0; a < 8; ++a)
-      for (Index c = 0; c < 8; ++c)
-        std::memcpy(&square[reversed3[c] * 8 + reversed3[a]], src + a * high + middle * 8 + c, sizeof(Hux32fc));
-  };
+  const auto load = [&](Index middle, Hux32fc(&square)[64]) { turnSquare(src + middle * 8, high, square, 8); };
   const auto store = [&](Index middle, const Hux32fc(&square)[64]) {
     for (Index a = 0; a < 8; ++a) std::memcpy(dst + a * high + middle * 8, square + a * 8, 8 * sizeof(Hux32fc));
   };
@@ -254,7 +262,9 @@ void gatheredRows(const void* block, const PowerPlan& plan, const Hux32fc* src, 
       for (Index t = 0; t < square; t += 4) {
         Hux32fc* lines[8];
         for (int i = 0; i < 8; ++i) lines[i] = to[i] + place * square + t;
-        turnColumns(src + (q + t * squares) * rows + r, squares * rows, lines);
+        const Hux32fc* line = src + (q + t * squares) * rows + r;
+        const Index step = squares * rows;
+        turnColumns({line, line + step, line + 2 * step, line + 3 * step}, lines);
       }
     }
     for (int i = 0; i < 8; ++i) rowTransform<W>(block, plan, reinterpret_cast<Hux32f*>(to[i]), order, scale);
@@ -308,11 +318,11 @@ void fromReversed(const void* block, const PowerPlan& plan, Hux32fc* d, int orde
       continue;
     }
     const Index square = squareOf(inner);
-    const int bits = square == 64 ? 6 : 7;
+    // Squares go back to their own order: of 8 transforms, the numbers of each lie side by side.
     for (Index q = 0; q < n; q += square) {
       Hux32fc aside[128];
-      std::memcpy(aside, row + q, sizeof(Hux32fc) * std::size_t(square));
-      for (Index t = 0; t < square; ++t) std::memcpy(row + q + t, aside + reversed(t, bits), sizeof(Hux32fc));
+      turnSquare(row + q, square / 8, aside, square / 8);
+      std::memcpy(row + q, aside, sizeof(Hux32fc) * std::size_t(square));
     }
     withScale<W>(plan.scaling,
                  [&](auto scale) { rowTransform<W>(block, plan, reinterpret_cast<Hux32f*>(row), inner, scale); });
