@@ -29,6 +29,14 @@ HuxiSize largeSize(const Case& c) {
   return size;
 }
 
+// The sizes of a case: of its table in the cache, or in memory. None where it has a size of its own that belongs to the
+// other.
+std::vector<HuxiSize> sizes(const Case& c, bool large) {
+  if (c.only.width == 0) return {large ? largeSize(c) : kSmall};
+  const bool isLarge = std::int64_t(c.only.width) * c.only.height * c.pixelBytes > (1 << 20);
+  return isLarge == large ? std::vector{c.only} : std::vector<HuxiSize>();
+}
+
 // What a case is timed against besides its peer: the C library moving as many bytes in one piece.
 enum class Limit { None, Memcpy, Memset };
 Limit limitOf(Shape shape) {
@@ -93,25 +101,25 @@ constexpr const char* kLimit = "limit";
 
 // The sides take turns, round after round, so that what else goes on in the machine meets them alike.
 void registerCase(const Case& c, int rounds) {
-  for (bool large : {false, true}) {
-    const HuxiSize size = large ? largeSize(c) : kSmall;
-    const std::string stem = c.name + "/" + std::to_string(size.width) + "x" + std::to_string(size.height) + "/";
-    const auto side = [&, size](const char* who, std::function<void()> Job::*work) {
-      benchmark::RegisterBenchmark((stem + who).c_str(), [&c, size, work](benchmark::State& state) {
-        Current& now = current(c, size);
-        if (!now.fault.empty()) return state.SkipWithError(now.fault.c_str());
-        measure(state, now.job.*work, now.job.bytes);
-      });
-    };
-    for (int round = 0; round < rounds; ++round) {
-      side(kOurs, &Job::hux);
-      if (!c.peerName.empty()) side(kPeer, &Job::peer);
-      if (const Limit limit = limitOf(c.shape); limit != Limit::None)
-        benchmark::RegisterBenchmark((stem + kLimit).c_str(), [&c, size, limit](benchmark::State& state) {
-          timeLimit(state, limit, current(c, size).job.bytes);
+  for (bool large : {false, true})
+    for (const HuxiSize size : sizes(c, large)) {
+      const std::string stem = c.name + "/" + std::to_string(size.width) + "x" + std::to_string(size.height) + "/";
+      const auto side = [&, size](const char* who, std::function<void()> Job::*work) {
+        benchmark::RegisterBenchmark((stem + who).c_str(), [&c, size, work](benchmark::State& state) {
+          Current& now = current(c, size);
+          if (!now.fault.empty()) return state.SkipWithError(now.fault.c_str());
+          measure(state, now.job.*work, now.job.bytes);
         });
+      };
+      for (int round = 0; round < rounds; ++round) {
+        side(kOurs, &Job::hux);
+        if (!c.peerName.empty()) side(kPeer, &Job::peer);
+        if (const Limit limit = limitOf(c.shape); limit != Limit::None)
+          benchmark::RegisterBenchmark((stem + kLimit).c_str(), [&c, size, limit](benchmark::State& state) {
+            timeLimit(state, limit, current(c, size).job.bytes);
+          });
+      }
     }
-  }
 }
 
 std::string duration(double ns) {
@@ -173,21 +181,21 @@ class Table : public benchmark::BenchmarkReporter {
               << "|---|---|---:|---:|---|---:|---:|---:|\n";
     int compared = 0;
     std::string behind;
-    for (const Case& c : cases()) {
-      const HuxiSize s = small ? kSmall : largeSize(c);
-      const std::string size = std::to_string(s.width) + "x" + std::to_string(s.height);
-      const auto found = measured_.find(c.name + "/" + size);
-      if (found == measured_.end()) continue;
-      auto& sides = found->second;
-      const auto medianOf = [&](const char* who) { return sides.contains(who) ? sides[who].median() : 0; };
-      const double ns = medianOf(kOurs), peer = medianOf(kPeer), limit = medianOf(kLimit);
-      const std::string against = peer ? ratio(peer / ns) : "";
-      std::cout << "| " << c.name << " | " << size << " | " << duration(ns) << " | " << ratio(sides[kOurs].bytes / ns)
-                << " | " << (peer ? c.peerName : "") << " | " << (peer ? duration(peer) : "") << " | " << against
-                << " | " << (limit ? ratio(limit / ns) : "") << " |\n";
-      compared += peer != 0;
-      if (peer && peer < ns) behind += (behind.empty() ? "" : "; ") + c.name + " " + against;
-    }
+    for (const Case& c : cases())
+      for (const HuxiSize s : sizes(c, !small)) {
+        const std::string size = std::to_string(s.width) + "x" + std::to_string(s.height);
+        const auto found = measured_.find(c.name + "/" + size);
+        if (found == measured_.end()) continue;
+        auto& sides = found->second;
+        const auto medianOf = [&](const char* who) { return sides.contains(who) ? sides[who].median() : 0; };
+        const double ns = medianOf(kOurs), peer = medianOf(kPeer), limit = medianOf(kLimit);
+        const std::string against = peer ? ratio(peer / ns) : "";
+        std::cout << "| " << c.name << " | " << size << " | " << duration(ns) << " | " << ratio(sides[kOurs].bytes / ns)
+                  << " | " << (peer ? c.peerName : "") << " | " << (peer ? duration(peer) : "") << " | " << against
+                  << " | " << (limit ? ratio(limit / ns) : "") << " |\n";
+        compared += peer != 0;
+        if (peer && peer < ns) behind += (behind.empty() ? "" : "; ") + c.name + " " + against;
+      }
     std::cout << "\nOf " << compared << " compared, behind the peer: " << (behind.empty() ? "none" : behind) << ".\n";
   }
 

@@ -164,6 +164,7 @@ struct Case {
   Shape shape;
   int pixelBytes;  // of all operands together
   std::function<Job(HuxiSize)> make;
+  HuxiSize only = {0, 0};  // where set: timed at this size alone
 };
 void add(Case);
 
