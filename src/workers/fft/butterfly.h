@@ -57,8 +57,6 @@ Split<V> turnedBySixteenths(Split<V> z) {
       return Split<V>{z.re + z.im, z.im - z.re} * half;
     else
       return Split<V>{z.re - z.im, z.im + z.re} * half;
-  } else if constexpr (K == 4) {
-    return addTurned<W>(Split<V>{}, z);
   } else if constexpr (K == 6) {
     if constexpr (W == Way::forward)
       return {(z.im - z.re) * half, (z.re + z.im) * -half};
@@ -86,10 +84,13 @@ struct Scaled {
 };
 
 // Four transforms become one of four times the length. They come in the order in which decimation in time leaves them:
-// of the numbers 0, 2, 1, 3 modulo 4. `scale` is applied to the first sums.
-template <Way W, class V, class Scale = Unscaled>
+// of the numbers 0, 2, 1, 3 modulo 4. `scale` is applied to the first sums. With QuarterTurn, b is turned by a quarter
+// first.
+template <Way W, bool QuarterTurn = false, class V, class Scale = Unscaled>
 HUX_INLINE inline void radix4(Split<V>& a, Split<V>& b, Split<V>& c, Split<V>& d, Scale scale = {}) {
-  const Split<V> p = scale(a + b), q = scale(a - b), r = scale(c + d), s = scale(c - d);
+  const Split<V> p = scale(QuarterTurn ? addTurned<W>(a, b) : a + b),
+                 q = scale(QuarterTurn ? subTurned<W>(a, b) : a - b);
+  const Split<V> r = scale(c + d), s = scale(c - d);
   a = p + r, c = p - r;
   b = addTurned<W>(q, s), d = subTurned<W>(q, s);
 }
@@ -112,10 +113,10 @@ HUX_INLINE inline void kernel(Split<V> (&z)[N], Scale scale = {}) {
     });
   if constexpr (N == 16)
     unrolled<4>([&](auto j) {
-      z[4 + j] = turnedBySixteenths<W, 2 * j>(z[4 + j]);
+      if constexpr (j != 2) z[4 + j] = turnedBySixteenths<W, 2 * j>(z[4 + j]);
       z[8 + j] = turnedBySixteenths<W, j>(z[8 + j]);
       z[12 + j] = turnedBySixteenths<W, 3 * j>(z[12 + j]);
-      radix4<W>(z[j], z[4 + j], z[8 + j], z[12 + j]);
+      radix4<W, j == 2>(z[j], z[4 + j], z[8 + j], z[12 + j]);
     });
 }
 

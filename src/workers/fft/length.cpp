@@ -186,22 +186,21 @@ int turnAt(const LengthPlan& plan) {
   return i;
 }
 
-// rows by columns to columns by rows.
+// rows by columns to columns by rows. The last square of a row or column covers some of the one before once more.
 void turnOver(const Hux32fc* src, Hux32fc* dst, Index rows, Index columns) {
-  Index r = 0;
-  for (; r + 4 <= rows; r += 4) {
-    Index c = 0;
-    for (; c + 8 <= columns; c += 8) {
-      Hux32fc* to[8];
-      for (int i = 0; i < 8; ++i) to[i] = dst + (c + i) * rows + r;
+  if (rows < 4 || columns < 8) {
+    for (Index r = 0; r < rows; ++r)
+      for (Index c = 0; c < columns; ++c) storeSplit(dst + c * rows + r, numberAt(src + r * columns + c));
+    return;
+  }
+  for (Index i = 0; i < rows; i += 4)
+    for (Index j = 0; j < columns; j += 8) {
+      const Index r = std::min(i, rows - 4), c = std::min(j, columns - 8);
       const Hux32fc* from = src + r * columns + c;
+      Hux32fc* to[8];
+      for (int k = 0; k < 8; ++k) to[k] = dst + (c + k) * rows + r;
       turnColumns({from, from + columns, from + 2 * columns, from + 3 * columns}, to);
     }
-    for (; c < columns; ++c)
-      for (Index i = 0; i < 4; ++i) std::memcpy(dst + c * rows + r + i, src + (r + i) * columns + c, sizeof(Hux32fc));
-  }
-  for (; r < rows; ++r)
-    for (Index c = 0; c < columns; ++c) std::memcpy(dst + c * rows + r, src + r * columns + c, sizeof(Hux32fc));
 }
 
 template <Way W>
