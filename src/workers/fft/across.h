@@ -49,14 +49,14 @@ void radix4Across(Columns<V> d, Index first, Index n, Index quarter, const Hux32
 
 // The passes behind kernels of `quarter` rows, up to n of them.
 template <Way W, class V, class Scale, class Out>
-void laterPassesAcross(Columns<V> d, Index first, Index n, Index quarter, const Hux32f* factors, Scale scale, Out out) {
+void cRadix4Across(Columns<V> d, Index first, Index n, Index quarter, const Hux32f* factors, Scale scale, Out out) {
   for (; 4 * quarter < n; factors += 6 * quarter, quarter *= 4)
     radix4Across<W>(d, first, n, quarter, factors, [&](Index r, Split<V> z) { d.set(r, z); });
   radix4Across<W>(d, first, n, quarter, factors, [&](Index r, Split<V> z) { out(r, scale(z)); });
 }
 
 template <Way W, class V, class Out>
-void radix2Across(Columns<V> d, Index first, Index half, const Hux32f* factors, Out out) {
+void cFft_Blk_R2Across(Columns<V> d, Index first, Index half, const Hux32f* factors, Out out) {
   const Index q = half / 2;
   for (Index j = 0; j < q; ++j) {
     const Split<V> w = splat<V>(factorAt(factors, 1, j, 0));
@@ -114,14 +114,14 @@ void transformAcross(const void* block, const PowerPlan& plan, Columns<V> d, In 
         kernels(eight, Unscaled{}, keep);
       else
         kernels(sixteen, Unscaled{}, keep);
-      return laterPassesAcross<W>(d, 0, n, Index(1) << kernelOrder(order), passes, scale, out);
+      return cRadix4Across<W>(d, 0, n, Index(1) << kernelOrder(order), passes, scale, out);
     }
     kernels(sixteen, Unscaled{}, keep);
     constexpr Index length = Index(1) << kBlockOrder;
-    for (Index r = n - length; r >= 0; r -= length) laterPassesAcross<W>(d, r, length, 16, passes, scale, keep);
-    if (order == kBlockOrder + 1) return radix2Across<W>(d, 0, length, merges, out);
-    for (Index r = 0; r < n; r += 2 * length) radix2Across<W>(d, r, length, merges, keep);
-    radix2Across<W>(d, 0, 2 * length, merges + length, out);
+    for (Index r = n - length; r >= 0; r -= length) cRadix4Across<W>(d, r, length, 16, passes, scale, keep);
+    if (order == kBlockOrder + 1) return cFft_Blk_R2Across<W>(d, 0, length, merges, out);
+    for (Index r = 0; r < n; r += 2 * length) cFft_Blk_R2Across<W>(d, r, length, merges, keep);
+    cFft_Blk_R2Across<W>(d, 0, 2 * length, merges + length, out);
   });
 }
 

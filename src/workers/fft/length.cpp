@@ -204,7 +204,7 @@ void turnOver(const Hux32fc* src, Hux32fc* dst, Index rows, Index columns) {
 }
 
 template <Way W>
-void byFactors(const void* block, const LengthPlan& plan, const Hux32fc* src, Hux32fc* dst, Hux32fc* work) {
+void cDft_PrimeFact(const void* block, const LengthPlan& plan, const Hux32fc* src, Hux32fc* dst, Hux32fc* work) {
   // One pass for each step and one to turn over, the last of which ends at dst.
   int left = plan.count + 1;
   const auto next = [&] { return --left % 2 ? work : dst; };
@@ -235,7 +235,7 @@ void byFactors(const void* block, const LengthPlan& plan, const Hux32fc* src, Hu
 
 // The same within one array. gather(n) gives number n of the sequence.
 template <Way W, class Gather>
-void byFactorsWithin(const void* block, const LengthPlan& plan, Hux32fc* d, Gather gather) {
+void rDft_PrimeFact(const void* block, const LengthPlan& plan, Hux32fc* d, Gather gather) {
   const Index n = plan.length;
   // The deepest parts are those of numbers that lie n / factor apart; their order is that of the digits of the place.
   const int last = plan.count - 1, f = plan.factor[last];
@@ -286,7 +286,7 @@ void sums(const Hux32f* matrix, Index n, const Hux32f* (&x)[Cosines + Sines], In
 }
 
 template <Way W>
-void directly(const Hux32f* matrix, Index n, const Hux32fc* src, Hux32fc* dst, Hux32f* work) {
+void cDft_Dir(const Hux32f* matrix, Index n, const Hux32fc* src, Hux32fc* dst, Hux32f* work) {
   const Index half = n / 2;
   Hux32f* part[4];
   for (int i = 0; i < 4; ++i) part[i] = work + i * half;
@@ -311,7 +311,7 @@ void directly(const Hux32f* matrix, Index n, const Hux32fc* src, Hux32fc* dst, H
   storeSplit(dst, all);
 }
 
-void directlyReal(const Hux32f* matrix, Index n, const Hux32f* src, Hux32f* dst, Hux32f* work) {
+void rDftFwd_Dir(const Hux32f* matrix, Index n, const Hux32f* src, Hux32f* dst, Hux32f* work) {
   const Index half = n / 2;
   const auto* x = elements(src);
   const Hux32f first = x[0];
@@ -332,7 +332,7 @@ void directlyReal(const Hux32f* matrix, Index n, const Hux32f* src, Hux32f* dst,
   d[0] = all;
 }
 
-void directlyToReal(const Hux32f* matrix, Index n, const Hux32f* src, Hux32f* dst, Hux32f* work) {
+void rDftInv_Dir(const Hux32f* matrix, Index n, const Hux32f* src, Hux32f* dst, Hux32f* work) {
   const Index half = n / 2;
   const auto* x = elements(src);
   const Hux32f first = x[0];
@@ -378,7 +378,7 @@ void convolve(const void* block, const LengthPlan& plan, Hux32fc* buffer) {
 
 // The inverse is the forward transform with the results but the first in the opposite order.
 template <Way W>
-void byChirp(const void* block, const LengthPlan& plan, const Hux32fc* src, Hux32fc* dst, Hux32fc* buffer) {
+void cDft_Conv(const void* block, const LengthPlan& plan, const Hux32fc* src, Hux32fc* dst, Hux32fc* buffer) {
   const Index n = plan.length;
   const Hux32fc* chirp = plan.chirp.in(block);
   multiply(src, chirp, buffer, n);
@@ -400,7 +400,7 @@ void scaleAll(Hux32f* p, Index n, Hux32f factor) {
 
 // The factors of a length whose transform is of mixed radix: fours, then a two ahead of them, then odd ones from the
 // least up. None where a factor would be above 150, or the length is prime.
-int factorsOf(Index n, Hux32s (&factor)[kMostFactors]) {
+int testDftPrimeFact(Index n, Hux32s (&factor)[kMostFactors]) {
   int count = 0;
   Index rest = n;
   for (; rest % 4 == 0; rest /= 4) factor[count++] = 4;
@@ -436,7 +436,7 @@ void LengthPlan::take(Arena& arena, bool kernels, Index longestDirect) {
     power.scaling = scaling;
     power.take(arena);
     work = workBytes(power.order);
-  } else if ((count = factorsOf(n, factor)) != 0) {
+  } else if ((count = testDftPrimeFact(n, factor)) != 0) {
     method = Method::factors;
     Index before = 1;
     int largest = 0;
@@ -537,13 +537,13 @@ void transform(const void* block, const LengthPlan& plan, const Hux32fc* src, Hu
       return;
     }
     case Method::factors:
-      byFactors<W>(block, plan, src, dst, numbers);
+      cDft_PrimeFact<W>(block, plan, src, dst, numbers);
       break;
     case Method::chirp:
-      byChirp<W>(block, plan, src, dst, numbers);
+      cDft_Conv<W>(block, plan, src, dst, numbers);
       break;
     case Method::direct:
-      directly<W>(plan.matrix.in(block), n, src, dst, reinterpret_cast<Hux32f*>(work));
+      cDft_Dir<W>(plan.matrix.in(block), n, src, dst, reinterpret_cast<Hux32f*>(work));
       break;
   }
   if (plan.scaling.on<W>()) scaleAll(reinterpret_cast<Hux32f*>(dst), 2 * n, plan.scaling.factor);
@@ -614,7 +614,7 @@ void transformReal(const void* block, const RealLengthPlan& plan, const Hux32f* 
   const bool scaled = plan.scaling.on<Way::forward>();
   if (n % 2 == 0) {
     transform<Way::forward>(block, inner, reinterpret_cast<const Hux32fc*>(src), reinterpret_cast<Hux32fc*>(dst), work);
-    recombine<Order::pack>(dst, dst, n, plan.recombineForward.in(block));
+    cRealRecombine<Order::pack>(dst, dst, n, plan.recombineForward.in(block));
   } else if (inner.method == Method::three) {
     Number z[3] = {{x[0], 0}, {x[1], 0}, {x[2], 0}};
     if (scaled)
@@ -625,7 +625,7 @@ void transformReal(const void* block, const RealLengthPlan& plan, const Hux32f* 
     d[0] = z[0].re, d[1] = z[1].re, d[2] = z[1].im;
     return;
   } else if (inner.method == Method::factors) {
-    byFactorsWithin<Way::forward>(block, inner, numbers, [=](Index i) { return Number{x[i], 0}; });
+    rDft_PrimeFact<Way::forward>(block, inner, numbers, [=](Index i) { return Number{x[i], 0}; });
     packHalf(numbers, dst, n);
   } else if (inner.method == Method::chirp) {
     const Hux32fc* chirp = inner.chirp.in(block);
@@ -634,7 +634,7 @@ void transformReal(const void* block, const RealLengthPlan& plan, const Hux32f* 
     multiply(numbers, chirp, numbers, n / 2 + 1);
     packHalf(numbers, dst, n);
   } else {
-    directlyReal(inner.matrix.in(block), n, src, dst, reinterpret_cast<Hux32f*>(work));
+    rDftFwd_Dir(inner.matrix.in(block), n, src, dst, reinterpret_cast<Hux32f*>(work));
   }
   if (scaled) scaleAll(dst, n, plan.scaling.factor);
 }
@@ -647,7 +647,7 @@ void transformToReal(const void* block, const RealLengthPlan& plan, const Hux32f
   auto* d = elements(dst);
   const bool scaled = plan.scaling.on<Way::inverse>();
   if (n % 2 == 0) {
-    separate<Order::pack>(src, dst, n, plan.recombineInverse.in(block));
+    cCcsRecombine<Order::pack>(src, dst, n, plan.recombineInverse.in(block));
     auto* half = reinterpret_cast<Hux32fc*>(dst);
     return transform<Way::inverse>(block, inner, half, half, work);
   } else if (inner.method == Method::three) {
@@ -659,7 +659,7 @@ void transformToReal(const void* block, const RealLengthPlan& plan, const Hux32f
     for (int i = 0; i < 3; ++i) d[i] = z[i].re;
     return;
   } else if (inner.method == Method::factors) {
-    byFactorsWithin<Way::inverse>(block, inner, numbers, [=](Index k) { return ofHalf(src, n, k); });
+    rDft_PrimeFact<Way::inverse>(block, inner, numbers, [=](Index k) { return ofHalf(src, n, k); });
     for (Index i = 0; i < n; ++i) d[i] = numbers[i].re;
   } else if (inner.method == Method::chirp) {
     const Hux32fc* chirp = inner.chirp.in(block);
@@ -667,7 +667,7 @@ void transformToReal(const void* block, const RealLengthPlan& plan, const Hux32f
     convolve(block, inner, numbers);
     for (Index i = 0; i < n; ++i) d[i ? n - i : 0] = numbers[i].re * chirp[i].re - numbers[i].im * chirp[i].im;
   } else {
-    directlyToReal(inner.matrix.in(block), n, src, dst, reinterpret_cast<Hux32f*>(work));
+    rDftInv_Dir(inner.matrix.in(block), n, src, dst, reinterpret_cast<Hux32f*>(work));
   }
   if (scaled) scaleAll(dst, n, plan.scaling.factor);
 }

@@ -99,7 +99,7 @@ void radix4Pass(Hux32f* d, Index n, Index quarter, const Hux32f* factors, Scale 
 
 // Radix 2: two halves of `half` numbers. The factors of the second quarter of them are a quarter turn on.
 template <Way W, class Out>
-void radix2Pass(Hux32f* d, Index half, const Hux32f* factors) {
+void cFft_Blk_R2(Hux32f* d, Index half, const Hux32f* factors) {
   const Index h = floats(half), q = h / 2;
   for (Index j = 0; j < q; j += floats(kLanes), factors += 2 * kLanes) {
     const Z w = loadParted<V>(factors);
@@ -114,7 +114,7 @@ void radix2Pass(Hux32f* d, Index half, const Hux32f* factors) {
 
 // The radix-4 passes behind the first, up to 2^order numbers.
 template <Way W, class Out, class Scale>
-void laterPasses(Hux32f* d, int order, const Hux32f* factors, Scale scale) {
+void cRadix4(Hux32f* d, int order, const Hux32f* factors, Scale scale) {
   const Index n = Index(1) << order;
   Index quarter = Index(1) << kernelOrder(order);
   for (; 4 * quarter < n; factors += 6 * quarter, quarter *= 4)
@@ -125,13 +125,13 @@ void laterPasses(Hux32f* d, int order, const Hux32f* factors, Scale scale) {
 // Everything behind the first pass, for orders 5 to 12.
 template <Way W, class Scale>
 void finish(Hux32f* d, int order, const Hux32f* passes, const Hux32f* merges, Scale scale) {
-  if (order <= kBlockOrder) return laterPasses<W, Joined>(d, order, passes, scale);
+  if (order <= kBlockOrder) return cRadix4<W, Joined>(d, order, passes, scale);
   const Index n = Index(1) << order;
   for (Index block = n - kBlock; block >= 0; block -= kBlock)
-    laterPasses<W, Parted>(d + floats(block), kBlockOrder, passes, scale);
-  if (order == kBlockOrder + 1) return radix2Pass<W, Joined>(d, kBlock, merges);
-  for (Index block = 0; block < n; block += 2 * kBlock) radix2Pass<W, Parted>(d + floats(block), kBlock, merges);
-  radix2Pass<W, Joined>(d, 2 * kBlock, merges + kBlock);
+    cRadix4<W, Parted>(d + floats(block), kBlockOrder, passes, scale);
+  if (order == kBlockOrder + 1) return cFft_Blk_R2<W, Joined>(d, kBlock, merges);
+  for (Index block = 0; block < n; block += 2 * kBlock) cFft_Blk_R2<W, Parted>(d + floats(block), kBlock, merges);
+  cFft_Blk_R2<W, Joined>(d, 2 * kBlock, merges + kBlock);
 }
 
 // --- Transforms that fit the cache.
@@ -201,7 +201,7 @@ void turnSquare(const Hux32fc* src, Index step, Hux32fc* square, Index columns) 
 
 // Swaps, or brings from one array to another, all numbers to their bit-reversed places, by squares of 8 by 8 whose
 // lines are whole in both.
-void reverseBits(const Hux32fc* src, Hux32fc* dst, int order) {
+void BitRev(const Hux32fc* src, Hux32fc* dst, int order) {
   const Index middles = Index(1) << (order - 6), high = Index(1) << (order - 3);
   const auto load = [&](Index middle, Hux32fc(&square)[64]) { turnSquare(src + middle * 8, high, square, 8); };
   const auto store = [&](Index middle, const Hux32fc(&square)[64]) {
@@ -296,8 +296,7 @@ __attribute__((noinline)) void columns(const void* block, const PowerPlan& plan,
         kernel<W>(z);
         for (int i = 0; i < N; ++i) held.set(r + i, z[i]);
       }
-      laterPassesAcross<W>(held, 0, rows, N, passes, Unscaled{},
-                           [&](Index row, Z z) { storeSplit(d + row * n + c, z); });
+      cRadix4Across<W>(held, 0, rows, N, passes, Unscaled{}, [&](Index row, Z z) { storeSplit(d + row * n + c, z); });
     }
   };
   if (s % 2)
@@ -308,13 +307,13 @@ __attribute__((noinline)) void columns(const void* block, const PowerPlan& plan,
 
 // From bit-reversed order.
 template <Way W>
-void fromReversed(const void* block, const PowerPlan& plan, Hux32fc* d, int order, int level, std::byte* work) {
+void cFft_BlkStep(const void* block, const PowerPlan& plan, Hux32fc* d, int order, int level, std::byte* work) {
   const int s = rowsOrder(order), inner = order - s;
   const Index n = Index(1) << inner;
   for (Index r = 0; r < Index(1) << s; ++r) {
     Hux32fc* row = d + r * n;
     if (inner > kMergeOrder) {
-      fromReversed<W>(block, plan, row, inner, level + 1, work);
+      cFft_BlkStep<W>(block, plan, row, inner, level + 1, work);
       continue;
     }
     const Index square = squareOf(inner);
@@ -331,19 +330,19 @@ void fromReversed(const void* block, const PowerPlan& plan, Hux32fc* d, int orde
 }
 
 template <Way W>
-void longest(const void* block, const PowerPlan& plan, const Hux32fc* src, Hux32fc* dst, std::byte* work) {
+void cFft_Large(const void* block, const PowerPlan& plan, const Hux32fc* src, Hux32fc* dst, std::byte* work) {
   if (src != dst && plan.order - rowsOrder(plan.order) <= kMergeOrder) {
     withScale<W>(plan.scaling, [&](auto scale) { gatheredRows<W>(block, plan, src, dst, scale); });
     return columns<W>(block, plan, dst, plan.order, 0, work);
   }
-  reverseBits(src, dst, plan.order);
-  fromReversed<W>(block, plan, dst, plan.order, 0, work);
+  BitRev(src, dst, plan.order);
+  cFft_BlkStep<W>(block, plan, dst, plan.order, 0, work);
 }
 
 // Orders from 3 up by the passes of the long ones.
 template <Way W>
 void byPasses(const void* block, const PowerPlan& plan, const Hux32fc* src, Hux32fc* dst, std::byte* work) {
-  if (plan.order > kMergeOrder) return longest<W>(block, plan, src, dst, work);
+  if (plan.order > kMergeOrder) return cFft_Large<W>(block, plan, src, dst, work);
   if (src == dst) return inPlace<W>(block, plan, dst);
   apart<W>(block, plan, src, dst);
 }
@@ -443,7 +442,7 @@ void facing(const Hux32f* src, Hux32f* dst, Index half, const Hux32f* table, Rul
 // The number in the middle of an even half faces itself: its factors are (0, 0) and (0, -1), and the rules turn them
 // into its conjugate, and twice that.
 template <Order O>
-void recombine(const Hux32f* src, Hux32f* dst, Index n, const Hux32f* table) {
+void cRealRecombine(const Hux32f* src, Hux32f* dst, Index n, const Hux32f* table) {
   constexpr int shift = O == Order::pack;
   const auto* x = elements(src);
   const Hux32f a = x[0], b = x[1];
@@ -458,7 +457,7 @@ void recombine(const Hux32f* src, Hux32f* dst, Index n, const Hux32f* table) {
 }
 
 template <Order O>
-void separate(const Hux32f* src, Hux32f* dst, Index n, const Hux32f* table) {
+void cCcsRecombine(const Hux32f* src, Hux32f* dst, Index n, const Hux32f* table) {
   constexpr int shift = O == Order::pack;
   const auto* x = elements(src);
   const Hux32f a = x[0], b = x[shift ? n - 1 : 1];
@@ -471,10 +470,10 @@ void separate(const Hux32f* src, Hux32f* dst, Index n, const Hux32f* table) {
   elements(dst)[1] = a - b;
 }
 
-template void recombine<Order::perm>(const Hux32f*, Hux32f*, Index, const Hux32f*);
-template void recombine<Order::pack>(const Hux32f*, Hux32f*, Index, const Hux32f*);
-template void separate<Order::perm>(const Hux32f*, Hux32f*, Index, const Hux32f*);
-template void separate<Order::pack>(const Hux32f*, Hux32f*, Index, const Hux32f*);
+template void cRealRecombine<Order::perm>(const Hux32f*, Hux32f*, Index, const Hux32f*);
+template void cRealRecombine<Order::pack>(const Hux32f*, Hux32f*, Index, const Hux32f*);
+template void cCcsRecombine<Order::perm>(const Hux32f*, Hux32f*, Index, const Hux32f*);
+template void cCcsRecombine<Order::pack>(const Hux32f*, Hux32f*, Index, const Hux32f*);
 
 template <Way W>
 void transform(const void* block, const PowerPlan& plan, const Hux32fc* src, Hux32fc* dst, std::byte* work) {
@@ -501,7 +500,7 @@ void transformReal(const void* block, const RealPlan& plan, const Hux32f* src, H
   }
   byPasses<Way::forward>(block, plan.half, reinterpret_cast<const Hux32fc*>(src), reinterpret_cast<Hux32fc*>(dst),
                          work);
-  recombine<O>(dst, dst, n, plan.recombineForward.in(block));
+  cRealRecombine<O>(dst, dst, n, plan.recombineForward.in(block));
 }
 
 template <Order O>
@@ -521,11 +520,11 @@ __attribute__((noinline)) void transformToReal(const void* block, const RealPlan
                             [&](auto scale) { smallestToReal(elements(perm), elements(dst), plan.order, scale); });
   } else if (plan.half.order <= kMergeOrder) {
     Aside aside;
-    separate<O>(src, aside.floats, n, table);
+    cCcsRecombine<O>(src, aside.floats, n, table);
     apart<Way::inverse>(block, plan.half, reinterpret_cast<const Hux32fc*>(aside.floats), numbers);
   } else {
-    separate<O>(src, dst, n, table);
-    longest<Way::inverse>(block, plan.half, numbers, numbers, work);
+    cCcsRecombine<O>(src, dst, n, table);
+    cFft_Large<Way::inverse>(block, plan.half, numbers, numbers, work);
   }
 }
 
@@ -588,7 +587,7 @@ void fillVector(Hux32f* to, Index first, Factor factor) {
     to[l] = w.re, to[l + kLanes] = w.im;
   }
 }
-void fillPasses(Hux32f* to, int order, const Waves& waves) {
+void initTabTwd_L1(Hux32f* to, int order, const Waves& waves) {
   int group = kernelOrder(order) + 2;
   for (; group <= order; group += 2)
     for (Index j = 0; j < Index(1) << (group - 2); j += kLanes)
@@ -637,7 +636,7 @@ void PowerPlan::fill(void* block, const Waves& waves) const {
   int inner = order;
   for (int level = 0; rowsOrder(inner); ++level) {
     const int s = rowsOrder(inner);
-    fillPasses(columnPasses[level].in(block), s, waves);
+    initTabTwd_L1(columnPasses[level].in(block), s, waves);
     Hux32f* to = crossings[level].in(block);
     for (Index c = 0; c < Index(1) << (inner - s); c += kLanes)
       for (Index r = 0; r < Index(1) << s; ++r, to += 2 * kLanes)
@@ -645,7 +644,7 @@ void PowerPlan::fill(void* block, const Waves& waves) const {
     inner -= s;
   }
   if (inner <= 4) return;
-  fillPasses(passes.in(block), std::min(inner, kBlockOrder), waves);
+  initTabTwd_L1(passes.in(block), std::min(inner, kBlockOrder), waves);
   Hux32f* to = merges.in(block);
   for (int length = kBlockOrder + 1; length <= inner; ++length)
     for (Index j = 0; j < Index(1) << (length - 2); j += kLanes, to += 2 * kLanes)

@@ -122,9 +122,9 @@ void fillRecombination(Hux32f* forward, Hux32f* inverse, Index n, Factor factor)
 // The spectrum of n real numbers, n even, from the transform of half as many complex ones, and back: src may be dst.
 // Whichever order the spectrum has, the half has its own.
 template <Order O>
-void recombine(const Hux32f* src, Hux32f* dst, Index n, const Hux32f* table);
+void cRealRecombine(const Hux32f* src, Hux32f* dst, Index n, const Hux32f* table);
 template <Order O>
-void separate(const Hux32f* src, Hux32f* dst, Index n, const Hux32f* table);
+void cCcsRecombine(const Hux32f* src, Hux32f* dst, Index n, const Hux32f* table);
 
 // --- Tables of passes, which the transforms across columns read as well.
 
