@@ -190,6 +190,193 @@ HUX_API HuxStatus huxiDFTInv_PackToR_32s8u_AC4RSfs(const Hux32s* pSrc, int srcSt
 
 /* ---- Packed spectra ---- */
 
+/* Operations on the packed spectra of real images, and the polar functions on complex images. The spectrum of a real
+ * image of W by H pixels lies in an image of W by H elements. With R(u, v) and I(u, v) the parts of its value at
+ * frequencies u along rows and v along columns, for W = 6 and H = 6:
+ *
+ *   R(0,0)  R(1,0) I(1,0)  R(2,0) I(2,0)  R(3,0)
+ *   R(0,1)  R(1,1) I(1,1)  R(2,1) I(2,1)  R(3,1)
+ *   I(0,1)  R(1,2) I(1,2)  R(2,2) I(2,2)  I(3,1)
+ *   R(0,2)  R(1,3) I(1,3)  R(2,3) I(2,3)  R(3,2)
+ *   I(0,2)  R(1,4) I(1,4)  R(2,4) I(2,4)  I(3,2)
+ *   R(0,3)  R(1,5) I(1,5)  R(2,5) I(2,5)  R(3,3)
+ *
+ * and for W = 5 and H = 5, which have no last column and no last row of their own:
+ *
+ *   R(0,0)  R(1,0) I(1,0)  R(2,0) I(2,0)
+ *   R(0,1)  R(1,1) I(1,1)  R(2,1) I(2,1)
+ *   I(0,1)  R(1,2) I(1,2)  R(2,2) I(2,2)
+ *   R(0,2)  R(1,3) I(1,3)  R(2,3) I(2,3)
+ *   I(0,2)  R(1,4) I(1,4)  R(2,4) I(2,4)
+ *
+ * The outer columns hold pairs one above the other, all others side by side; the corners of a column are real. What is
+ * not stored is the conjugate of F((W - u) mod W, (H - v) mod H). In images of several channels each has this layout of
+ * its own. Steps are in bytes and are not compared with the width; nothing tells a packed spectrum from another image.
+ */
+
+/* MulPack: the product of two packed spectra, (a + ib)(c + id) where the pair of the first is a + ib, and a * c of real
+ * elements: circular convolution of the images. MulPackConj: the first times the conjugate of the second, correlation.
+ * IR forms put the result where the second factor is; AC4 leaves the fourth channel of the destination as it is.
+ * Source and destination may be the same image.
+ * Integers: the exact parts times 2^-scaleFactor, rounded toward minus infinity, then saturated. Where a * d is the
+ * square of the lowest number (a and d both -32768, or -2^31), b * c is left out of a * d + b * c.
+ * Checks: null pointers (huxStsNullPtr), a step below 1 (huxStsBadStep), size (huxStsBadSize). */
+HUX_API HuxStatus huxiMulPack_32f_C1R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                      Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPack_32f_C1IR(const Hux32f* pSrc, int srcStep, Hux32f* pSrcDst, int srcDstStep,
+                                       HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPack_32f_C3R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                      Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPack_32f_C3IR(const Hux32f* pSrc, int srcStep, Hux32f* pSrcDst, int srcDstStep,
+                                       HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPack_32f_C4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                      Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPack_32f_C4IR(const Hux32f* pSrc, int srcStep, Hux32f* pSrcDst, int srcDstStep,
+                                       HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPack_32f_AC4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                       Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPack_32f_AC4IR(const Hux32f* pSrc, int srcStep, Hux32f* pSrcDst, int srcDstStep,
+                                        HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPackConj_32f_C1R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                          Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPackConj_32f_C1IR(const Hux32f* pSrc, int srcStep, Hux32f* pSrcDst, int srcDstStep,
+                                           HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPackConj_32f_C3R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                          Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPackConj_32f_C3IR(const Hux32f* pSrc, int srcStep, Hux32f* pSrcDst, int srcDstStep,
+                                           HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPackConj_32f_C4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                          Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPackConj_32f_C4IR(const Hux32f* pSrc, int srcStep, Hux32f* pSrcDst, int srcDstStep,
+                                           HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPackConj_32f_AC4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
+                                           Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPackConj_32f_AC4IR(const Hux32f* pSrc, int srcStep, Hux32f* pSrcDst, int srcDstStep,
+                                            HuxiSize roiSize);
+HUX_API HuxStatus huxiMulPack_16s_C1RSfs(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                         Hux16s* pDst, int dstStep, HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_16s_C1IRSfs(const Hux16s* pSrc, int srcStep, Hux16s* pSrcDst, int srcDstStep,
+                                          HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_16s_C3RSfs(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                         Hux16s* pDst, int dstStep, HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_16s_C3IRSfs(const Hux16s* pSrc, int srcStep, Hux16s* pSrcDst, int srcDstStep,
+                                          HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_16s_C4RSfs(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                         Hux16s* pDst, int dstStep, HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_16s_C4IRSfs(const Hux16s* pSrc, int srcStep, Hux16s* pSrcDst, int srcDstStep,
+                                          HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_16s_AC4RSfs(const Hux16s* pSrc1, int src1Step, const Hux16s* pSrc2, int src2Step,
+                                          Hux16s* pDst, int dstStep, HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_16s_AC4IRSfs(const Hux16s* pSrc, int srcStep, Hux16s* pSrcDst, int srcDstStep,
+                                           HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_32s_C1RSfs(const Hux32s* pSrc1, int src1Step, const Hux32s* pSrc2, int src2Step,
+                                         Hux32s* pDst, int dstStep, HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_32s_C1IRSfs(const Hux32s* pSrc, int srcStep, Hux32s* pSrcDst, int srcDstStep,
+                                          HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_32s_C3RSfs(const Hux32s* pSrc1, int src1Step, const Hux32s* pSrc2, int src2Step,
+                                         Hux32s* pDst, int dstStep, HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_32s_C3IRSfs(const Hux32s* pSrc, int srcStep, Hux32s* pSrcDst, int srcDstStep,
+                                          HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_32s_C4RSfs(const Hux32s* pSrc1, int src1Step, const Hux32s* pSrc2, int src2Step,
+                                         Hux32s* pDst, int dstStep, HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_32s_C4IRSfs(const Hux32s* pSrc, int srcStep, Hux32s* pSrcDst, int srcDstStep,
+                                          HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_32s_AC4RSfs(const Hux32s* pSrc1, int src1Step, const Hux32s* pSrc2, int src2Step,
+                                          Hux32s* pDst, int dstStep, HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMulPack_32s_AC4IRSfs(const Hux32s* pSrc, int srcStep, Hux32s* pSrcDst, int srcDstStep,
+                                           HuxiSize roiSize, int scaleFactor);
+
+/* MagnitudePack, PhasePack: magnitude and phase of the full spectrum, W by H elements, from a packed one, by the rules
+ * of huxsMagnitude and huxsPhase; the conjugate of the lowest integer saturates. Source and destination must not
+ * overlap.
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), a step below 1 (huxStsBadStep), memory for one row
+ * (huxStsNullPtr, not huxStsNoMem). */
+HUX_API HuxStatus huxiMagnitudePack_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize dstRoiSize);
+HUX_API HuxStatus huxiMagnitudePack_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize dstRoiSize);
+HUX_API HuxStatus huxiMagnitudePack_16s_C1RSfs(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                               HuxiSize dstRoiSize, int scaleFactor);
+HUX_API HuxStatus huxiMagnitudePack_16s_C3RSfs(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                               HuxiSize dstRoiSize, int scaleFactor);
+HUX_API HuxStatus huxiMagnitudePack_32s_C1RSfs(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                               HuxiSize dstRoiSize, int scaleFactor);
+HUX_API HuxStatus huxiMagnitudePack_32s_C3RSfs(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                               HuxiSize dstRoiSize, int scaleFactor);
+HUX_API HuxStatus huxiPhasePack_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                        HuxiSize dstRoiSize);
+HUX_API HuxStatus huxiPhasePack_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                        HuxiSize dstRoiSize);
+HUX_API HuxStatus huxiPhasePack_16s_C1RSfs(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                           HuxiSize dstRoiSize, int scaleFactor);
+HUX_API HuxStatus huxiPhasePack_16s_C3RSfs(const Hux16s* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                           HuxiSize dstRoiSize, int scaleFactor);
+HUX_API HuxStatus huxiPhasePack_32s_C1RSfs(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                           HuxiSize dstRoiSize, int scaleFactor);
+HUX_API HuxStatus huxiPhasePack_32s_C3RSfs(const Hux32s* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                           HuxiSize dstRoiSize, int scaleFactor);
+
+/* Magnitude, Phase: of each element of a complex image, by the rules of huxsMagnitude and huxsPhase (huxs.h).
+ * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), a step below 1 (huxStsBadStep). */
+HUX_API HuxStatus huxiMagnitude_32fc32f_C1R(const Hux32fc* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize roiSize);
+HUX_API HuxStatus huxiMagnitude_32fc32f_C3R(const Hux32fc* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                            HuxiSize roiSize);
+HUX_API HuxStatus huxiMagnitude_16sc16s_C1RSfs(const Hux16sc* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                               HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMagnitude_16sc16s_C3RSfs(const Hux16sc* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                               HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMagnitude_32sc32s_C1RSfs(const Hux32sc* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                               HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiMagnitude_32sc32s_C3RSfs(const Hux32sc* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                               HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiPhase_32fc32f_C1R(const Hux32fc* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiPhase_32fc32f_C3R(const Hux32fc* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
+HUX_API HuxStatus huxiPhase_16sc16s_C1RSfs(const Hux16sc* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                           HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiPhase_16sc16s_C3RSfs(const Hux16sc* pSrc, int srcStep, Hux16s* pDst, int dstStep,
+                                           HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiPhase_32sc32s_C1RSfs(const Hux32sc* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                           HuxiSize roiSize, int scaleFactor);
+HUX_API HuxStatus huxiPhase_32sc32s_C3RSfs(const Hux32sc* pSrc, int srcStep, Hux32s* pDst, int dstStep,
+                                           HuxiSize roiSize, int scaleFactor);
+
+/* PolarToCart: a complex image from one of magnitudes and one of phases, which share srcStep, by the rules of
+ * huxsPolarToCart applied to each row (huxs.h). Checks as above, then phaseFixedPoint outside 0..15 (16sc), 0..31
+ * (32sc) (huxStsBadSize). */
+HUX_API HuxStatus huxiPolarToCart_32fc_C1R(const Hux32f* pSrcMagn, const Hux32f* pSrcPhase, int srcStep,
+                                           HuxiSize roiSize, Hux32fc* pDst, int dstStep);
+HUX_API HuxStatus huxiPolarToCart_32fc_C3R(const Hux32f* pSrcMagn, const Hux32f* pSrcPhase, int srcStep,
+                                           HuxiSize roiSize, Hux32fc* pDst, int dstStep);
+HUX_API HuxStatus huxiPolarToCart_16sc_C1R(const Hux16s* pSrcMagn, const Hux16s* pSrcPhase, int srcStep,
+                                           int phaseFixedPoint, HuxiSize roiSize, Hux16sc* pDst, int dstStep);
+HUX_API HuxStatus huxiPolarToCart_16sc_C3R(const Hux16s* pSrcMagn, const Hux16s* pSrcPhase, int srcStep,
+                                           int phaseFixedPoint, HuxiSize roiSize, Hux16sc* pDst, int dstStep);
+HUX_API HuxStatus huxiPolarToCart_32sc_C1R(const Hux32s* pSrcMagn, const Hux32s* pSrcPhase, int srcStep,
+                                           int phaseFixedPoint, HuxiSize roiSize, Hux32sc* pDst, int dstStep);
+HUX_API HuxStatus huxiPolarToCart_32sc_C3R(const Hux32s* pSrcMagn, const Hux32s* pSrcPhase, int srcStep,
+                                           int phaseFixedPoint, HuxiSize roiSize, Hux32sc* pDst, int dstStep);
+
+/* CplxExtendToPack: the packed spectrum from a full one, of which columns 0 to W / 2 are read, and of the outer ones
+ * rows 0 to H / 2. PackToCplxExtend: the full spectrum from a packed one; real elements get an imaginary part of 0, the
+ * conjugate of the lowest integer saturates. Source and destination must not overlap. Checks as Magnitude. */
+HUX_API HuxStatus huxiCplxExtendToPack_32fc32f_C1R(const Hux32fc* pSrc, int srcStep, HuxiSize srcSize, Hux32f* pDst,
+                                                   int dstStep);
+HUX_API HuxStatus huxiCplxExtendToPack_32fc32f_C3R(const Hux32fc* pSrc, int srcStep, HuxiSize srcSize, Hux32f* pDst,
+                                                   int dstStep);
+HUX_API HuxStatus huxiCplxExtendToPack_32sc32s_C1R(const Hux32sc* pSrc, int srcStep, HuxiSize srcSize, Hux32s* pDst,
+                                                   int dstStep);
+HUX_API HuxStatus huxiCplxExtendToPack_32sc32s_C3R(const Hux32sc* pSrc, int srcStep, HuxiSize srcSize, Hux32s* pDst,
+                                                   int dstStep);
+HUX_API HuxStatus huxiCplxExtendToPack_16sc16s_C1R(const Hux16sc* pSrc, int srcStep, HuxiSize srcSize, Hux16s* pDst,
+                                                   int dstStep);
+HUX_API HuxStatus huxiCplxExtendToPack_16sc16s_C3R(const Hux16sc* pSrc, int srcStep, HuxiSize srcSize, Hux16s* pDst,
+                                                   int dstStep);
+HUX_API HuxStatus huxiPackToCplxExtend_32f32fc_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, Hux32fc* pDst,
+                                                   int dstStep);
+HUX_API HuxStatus huxiPackToCplxExtend_32s32sc_C1R(const Hux32s* pSrc, HuxiSize srcSize, int srcStep, Hux32sc* pDst,
+                                                   int dstStep);
+
 /* ---- Wavelets ---- */
 
 HUX_END_C
