@@ -87,9 +87,9 @@ void nearest(const ResizePlane& p) {
     // one.
     const Index runs = f.touched < f.stride ? 0 : n * pixelBytes / kLaneBytes * kWindows;
     Windows windows;
-    windows.build(runs, p.rowBytes(), 0, [&](Index lane, Index(&bytes)[kWindowBytes]) {
-      for (Index j = 0, at = lane * kWindowBytes; j < kWindowBytes; ++j, ++at)
-        bytes[j] = offsets[at / pixelBytes] + at % pixelBytes;
+    windows.build<1, 1>(runs, p.rowBytes(), 0, [&](Index byte) {
+      const auto pixel = unsigned(byte) / unsigned(pixelBytes);
+      return offsets[pixel] + Index(unsigned(byte) % unsigned(pixelBytes));
     });
     Walk rows(p.y);
     for (Index y = 0; y < p.y.count; ++y) {

@@ -22,13 +22,13 @@ constexpr Index padded(Index elements) { return (elements + kLaneBytes - 1) / kL
 // follow each other. No window leaves the row.
 class Windows {
  public:
-  // from(lane, bytes) tells where in the row the sixteen bytes of a lane come from; -1: nowhere, a 0. A row has
-  // `rowBytes`, of which `ahead` lie behind whatever is picked. Where the bytes of a lane lie too far apart, there are
-  // no windows.
-  template <class From>
-  void build(Index lanes, Index rowBytes, Index ahead, From from) {
+  // A lane has units of so many bytes, of which `Used` come from the row, the others are 0. at(unit) tells where in the
+  // row a unit comes from, for 16 / Unit of them in each lane. A row has `rowBytes`, of which `ahead` lie behind
+  // whatever is picked. Where the units of a lane lie too far apart, there are no windows.
+  template <int Unit, int Used, class At>
+  void build(Index lanes, Index rowBytes, Index ahead, At at) {
     for (perLane_ = kPicks ? 1 : 3; perLane_ <= 2; ++perLane_)
-      if (fits(lanes, rowBytes - ahead, from)) return;
+      if (fits<Unit, Used>(lanes, rowBytes - ahead, at)) return;
     perLane_ = 0;
   }
   // Windows per lane: 1 or 2, 0 where there are none.
@@ -52,22 +52,28 @@ class Windows {
   }
 
  private:
-  template <class From>
-  bool fits(Index lanes, Index rowBytes, From from) {
+  template <int Unit, int Used, class At>
+  bool fits(Index lanes, Index rowBytes, At at) {
+    constexpr int units = kWindowBytes / Unit;
+    using U = typename WordOf<Unit>::Type;
+    using Bytes = Lanes<Hux8u, kWindowBytes>;
+    Bytes inUnit{}, unused{};
+    for (int j = 0; j < kWindowBytes; ++j) inUnit[j] = Hux8u(j % Unit), unused[j] = j % Unit < Used ? 0 : 0x80;
     const Index width = perLane_ * kWindowBytes;
     for (Index lane = 0; lane < lanes; ++lane) {
-      Index bytes[kWindowBytes];
-      from(lane, bytes);
-      Index low = rowBytes - width, high = 0;
-      for (Index b : bytes)
-        if (b >= 0) low = std::min(low, b), high = std::max(high, b);
-      if (low < 0 || high >= low + width) return false;
+      Index low = rowBytes - width, high = 0, from[units];
+      for (int i = 0; i < units; ++i) {
+        from[i] = at(lane * units + i);
+        low = std::min(low, from[i]), high = std::max(high, from[i]);
+      }
+      if (low < 0 || high + Used > low + width) return false;
       at_[lane] = low;
-      for (int j = 0; j < kWindowBytes; ++j)
-        for (int w = 0; w < perLane_; ++w) {
-          const Index in = bytes[j] < 0 ? -1 : bytes[j] - low - w * kWindowBytes;
-          pick_[w][lane * kWindowBytes + j] = in >= 0 && in < kWindowBytes ? Hux8u(in) : 0x80;
-        }
+      Lanes<U, units> unit{};
+      for (int i = 0; i < units; ++i) unit[i] = U(U(from[i] - low) * U(0x01010101));
+      // The top bit of a byte tells that it lies in the other window, or nowhere.
+      const Bytes in = bitsAs<Bytes>(unit) + inUnit;
+      storeLanes(pick_[0] + lane * kWindowBytes, (in + Hux8u(0x70)) | unused);
+      storeLanes(pick_[1] + lane * kWindowBytes, (in - Hux8u(0x10)) | unused);
     }
     return true;
   }
@@ -144,13 +150,9 @@ class PairColumns {
   void finish(Index rowBytes) {
     for (const Index last = elements_ - 1, all = padded(elements_); elements_ < all;)
       add(first_[last], second_[last], q14_[last]);
-    windows_.build(elements_ / 4, rowBytes, 0, [&](Index lane, Index(&bytes)[kWindowBytes]) {
-      for (Index i = 0; i < 4; ++i) {
-        const Index e = groupOf(lane) * 4 + i;
-        const Index pair[4] = {first_[e], Rule::wide ? first_[e] + 1 : -1, second_[e],
-                               Rule::wide ? second_[e] + 1 : -1};
-        std::copy_n(pair, 4, bytes + 4 * i);
-      }
+    windows_.build<2, int(sizeof(T))>(elements_ / 4, rowBytes, 0, [&](Index unit) {
+      const Index e = groupOf(unit / 8) * 4 + unit % 8 / 2;
+      return unit % 2 ? second_[e] : first_[e];
     });
     for (Index lane = 0; lane < elements_ / 4; ++lane)
       for (Index i = 0; i < 4; ++i) {
@@ -259,9 +261,8 @@ class FloatColumns {
     // Vectors that hold taps outside the image stand before and behind those that do not.
     begin_ = std::min((begin_ + kLanes - 1) / kLanes * kLanes, elements_);
     end_ = std::max(end_ / kLanes * kLanes, begin_);
-    windows_.build(elements_ / 4, rowBytes, (Mode::taps - 1) * pixelBytes_, [&](Index lane, Index(&bytes)[16]) {
-      for (Index j = 0; j < 16; ++j) bytes[j] = j % 4 < Index(sizeof(T)) ? offset_[lane * 4 + j / 4] + j % 4 : -1;
-    });
+    windows_.build<4, int(sizeof(T))>(elements_ / 4, rowBytes, (Mode::taps - 1) * pixelBytes_,
+                                      [&](Index e) { return offset_[e]; });
   }
 
   void along(const std::byte* row, Hux32f* line) const {
@@ -305,7 +306,7 @@ class FloatColumns {
     for (Index e = from; e < to; e += kLanes) {
       Floats p[Mode::taps];
       for (int k = 0; k < Mode::taps; ++k)
-        p[k] = collected<Floats>(
+        p[k] = lanesOf<Floats>(
             [&](int i) { return Hux32f(T(*reinterpret_cast<const Element<T>*>(row + offset(e + i, k)))); });
       storeLanes(line + e, combined(p, e));
     }

@@ -49,9 +49,7 @@ void ownResizeYUY2nn(const Packed& p) {
     }
     const Index runs = 4 * n / kLaneBytes * kWindows;
     Windows windows;
-    windows.build(runs, 2 * p.srcWidth, 0, [&](Index lane, Index(&bytes)[kWindowBytes]) {
-      std::copy_n(from + lane * kWindowBytes, kWindowBytes, bytes);
-    });
+    windows.build<1, 1>(runs, 2 * p.srcWidth, 0, [&](Index byte) { return from[byte]; });
     Walk rows(p.rows);
     for (Index y = 0; y < p.rows.count; ++y) {
       const std::byte* row = p.src + rows.nextNearest() * p.srcStep;
@@ -114,8 +112,7 @@ void ownResizeYUY2cubic(const Packed& p) {
         const auto* bytes = reinterpret_cast<const Element<Hux8u>*>(p.src + row * p.srcStep);
         for (Index i = 0; i < padded(4 * n); i += lanesIn<Floats>) {
           Floats samples[4], w[3];
-          for (int k = 0; k < 4; ++k)
-            samples[k] = collected<Floats>([&](int j) { return Hux32f(bytes[at[k][i + j]]); });
+          for (int k = 0; k < 4; ++k) samples[k] = lanesOf<Floats>([&](int j) { return Hux32f(bytes[at[k][i + j]]); });
           for (int k = 0; k < 3; ++k) w[k] = loadLanes<Floats>(weights[k] + i);
           storeLanes(line + i, Cubic::along(samples, w));
         }

@@ -8,7 +8,6 @@
 #include <limits>
 
 #include "core/layout.h"
-#include "lanes/lanes.h"
 
 namespace hux {
 
@@ -68,14 +67,6 @@ class Walk {
   Axis axis_;
   Hux64f at_;
 };
-
-// Lanes with one(i) in lane i, by way of memory.
-template <class V, class One>
-V collected(One one) {
-  LaneType<V> lanes[lanesIn<V>];
-  for (int i = 0; i < lanesIn<V>; ++i) lanes[i] = one(i);
-  return loadLanes<V>(lanes);
-}
 
 // The samples of one position: as many as its mode has, from `first` on. Those that lie outside the image stand for the
 // nearest of its pixels.

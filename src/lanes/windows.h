@@ -30,7 +30,7 @@ inline WindowBytes loadWindows(const std::byte* row, const Index* at) {
 #if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512DQ__)
   const auto quad = [&](int w) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(row + at[w])); };
   const auto half = [&](int w) { return _mm256_inserti128_si256(_mm256_castsi128_si256(quad(w)), quad(w + 1), 1); };
-  return WindowBytes(_mm512_inserti64x4(_mm512_castsi256_si512(half(0)), half(2), 1));
+  return WindowBytes(_mm512_maskz_inserti64x4(__mmask8(~0), _mm512_castsi256_si512(half(0)), half(2), 1));
 #elif defined(__AVX2__)
   const auto quad = [&](int w) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(row + at[w])); };
   return WindowBytes(_mm256_inserti128_si256(_mm256_castsi128_si256(quad(0)), quad(1), 1));
@@ -42,7 +42,7 @@ inline WindowBytes loadWindows(const std::byte* row, const Index* at) {
 // Byte j of each window of the result is byte pick[j] of that window, or 0 where the pick has its top bit set.
 inline WindowBytes pickBytes(WindowBytes windows, WindowBytes pick) {
 #if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512DQ__)
-  return WindowBytes(_mm512_shuffle_epi8(__m512i(windows), __m512i(pick)));
+  return WindowBytes(_mm512_maskz_shuffle_epi8(~__mmask64(0), __m512i(windows), __m512i(pick)));
 #elif defined(__AVX2__)
   return WindowBytes(_mm256_shuffle_epi8(__m256i(windows), __m256i(pick)));
 #elif defined(__SSSE3__)
@@ -52,6 +52,23 @@ inline WindowBytes pickBytes(WindowBytes windows, WindowBytes pick) {
   for (int j = 0; j < kLaneBytes; ++j) v[j] = pick[j] & 0x80 ? 0 : windows[j / 16 * 16 + pick[j] % 16];
   return v;
 #endif
+}
+
+// The lanes lane(0), lane(1), ...
+template <class V, class Lane>
+V lanesOf(Lane lane) {
+  return [&]<std::size_t... I>(std::index_sequence<I...>) { return V{lane(int(I))...}; }
+  (std::make_index_sequence<std::size_t(lanesIn<V>)>{});
+}
+
+// The lanes base[at[i]], of 32 bits.
+template <class V>
+V gatherLanes(const LaneType<V>* base, Lanes<Hux32s, lanesIn<V>> at) {
+#if defined(__AVX2__)
+  if constexpr (sizeof(V) == 32)
+    return bitsAs<V>(_mm256_i32gather_epi32(reinterpret_cast<const int*>(base), __m256i(at), 4));
+#endif
+  return lanesOf<V>([&](int i) { return base[at[i]]; });
 }
 
 // In each 16 bytes the lanes of a, then those of b, limited to the range of 16-bit lanes.
