@@ -82,6 +82,27 @@ auto truncated(V v) {
   return integersOf<false>(v);
 }
 
+// The whole parts of lanes in double precision, if they fit 32 bits.
+template <class V>
+V wholeParts(V v) {
+  return convert<Hux64f>(convert<Hux32s>(v));
+}
+#if defined(__AVX512F__)
+inline Lanes<Hux64f, 8> wholeParts(Lanes<Hux64f, 8> v) {
+  return Lanes<Hux64f, 8>(_mm512_maskz_roundscale_pd(~0, __m512d(v), _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC));
+}
+#endif
+#if defined(__AVX__)
+inline Lanes<Hux64f, 4> wholeParts(Lanes<Hux64f, 4> v) {
+  return Lanes<Hux64f, 4>(_mm256_round_pd(__m256d(v), _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC));
+}
+#endif
+#if defined(__SSE4_1__)
+inline Lanes<Hux64f, 2> wholeParts(Lanes<Hux64f, 2> v) {
+  return Lanes<Hux64f, 2>(_mm_round_pd(__m128d(v), _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC));
+}
+#endif
+
 // Nearest integer, ties to even, of lanes of at most 2^22 (2^51 in double) either way, as the lowest 22 (51) bits of
 // the result: next to 1.5 * 2^23 (2^52) the lanes have no room for a fraction.
 template <class V>
