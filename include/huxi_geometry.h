@@ -389,6 +389,78 @@ HUX_API HuxStatus huxiResizeYUV422_8u_C2R(const Hux8u* pSrc, HuxiSize srcSize, i
 
 /* ---- Remap ---- */
 
+/* Remap: pixel (i, j) of the destination region is the source at (pxMap(i, j), pyMap(i, j)). The maps are images of
+ * 32-bit floats of the region's size, with row steps in bytes; their coordinates count pixels from pSrc, the source
+ * image's origin, whatever the source region. pDst addresses the first pixel of the destination region.
+ * Only places inside the source region are looked up, its first and last columns and rows included (compared in
+ * single precision); the pixel of any other, as of a NaN, stays as it was. Neighbours that interpolation needs come
+ * from the whole source image, and from nowhere else. Images and interpolation as in the warps above, without
+ * huxiInterSmoothEdge.
+ * Checks: null pointers, those of planes excepted (huxStsNullPtr); sizes of less than one row or column, srcRoi with
+ * x or y below 0 (huxStsBadSize); interpolation (huxStsBadInterpolation); steps below 1, of the maps too
+ * (huxStsBadStep); the source region's first pixel not one of the image (huxStsNoOverlapWarn); null plane pointers
+ * (huxStsNullPtr). */
+HUX_API HuxStatus huxiRemap_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                   const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep, Hux8u* pDst,
+                                   int dstStep, HuxiSize dstRoiSize, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                   const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep, Hux8u* pDst,
+                                   int dstStep, HuxiSize dstRoiSize, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep, Hux8u* pDst,
+                                    int dstStep, HuxiSize dstRoiSize, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                   const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep, Hux8u* pDst,
+                                   int dstStep, HuxiSize dstRoiSize, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                   const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep,
+                                   Hux8u* const pDst[3], int dstStep, HuxiSize dstRoiSize,
+                                   HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                   const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep,
+                                   Hux8u* const pDst[4], int dstStep, HuxiSize dstRoiSize,
+                                   HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep, Hux16u* pDst,
+                                    int dstStep, HuxiSize dstRoiSize, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep, Hux16u* pDst,
+                                    int dstStep, HuxiSize dstRoiSize, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                     const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep, Hux16u* pDst,
+                                     int dstStep, HuxiSize dstRoiSize, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep, Hux16u* pDst,
+                                    int dstStep, HuxiSize dstRoiSize, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep,
+                                    Hux16u* const pDst[3], int dstStep, HuxiSize dstRoiSize,
+                                    HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep,
+                                    Hux16u* const pDst[4], int dstStep, HuxiSize dstRoiSize,
+                                    HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep, Hux32f* pDst,
+                                    int dstStep, HuxiSize dstRoiSize, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep, Hux32f* pDst,
+                                    int dstStep, HuxiSize dstRoiSize, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                     const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep, Hux32f* pDst,
+                                     int dstStep, HuxiSize dstRoiSize, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep, Hux32f* pDst,
+                                    int dstStep, HuxiSize dstRoiSize, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep,
+                                    Hux32f* const pDst[3], int dstStep, HuxiSize dstRoiSize,
+                                    HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRemap_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep,
+                                    Hux32f* const pDst[4], int dstStep, HuxiSize dstRoiSize,
+                                    HuxiInterpolation interpolation);
+
 HUX_END_C
 
 #endif

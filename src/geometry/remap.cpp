@@ -1,0 +1,54 @@
+// Remap: every pixel of the destination from a place in the source that two maps tell.
+#include "core/stamp.h"
+#include "geometry/warp.h"
+#include "huxi_geometry.h"
+
+namespace hux {
+namespace {
+
+// Positions from a table for each coordinate.
+struct TableMap {
+  static constexpr int rows = 1;
+  static constexpr bool straight = false;
+  Rows<const Hux32f> xMap, yMap;
+  Index row = 0;
+  const Element<Hux32f>*x = nullptr, *y = nullptr;
+
+  void start(int, Index) { x = xMap.row(row), y = yMap.row(row), ++row; }
+  void fill(Positions (&block)[rows], Index n) {
+    for (Index k = 0; k < n; ++k) block[0].x[k] = x[k];
+    for (Index k = 0; k < n; ++k) block[0].y[k] = y[k];
+    x += n, y += n;
+  }
+};
+
+// Maps are compared with the region's ends in single precision.
+Box asFloats(const Box& b) { return {Hux32f(b.x1), Hux32f(b.y1), Hux32f(b.x2), Hux32f(b.y2)}; }
+
+HuxStatus remap(const Format& format, const Image<const std::byte>& src, HuxiSize srcSize, HuxiRect srcRoi,
+                const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep, const Image<std::byte>& dst,
+                HuxiSize dstRoiSize, HuxiInterpolation interpolation) {
+  // Planes come last here; the steps of the images, which are kept wide, are those of the call.
+  if (HuxStatus s =
+          check(pointers(src.argument, dst.argument, pxMap, pyMap), size(srcSize), rectangle(srcRoi), size(dstRoiSize),
+                interpolationMode(interpolation), steps(src.step, dst.step, xMapStep, yMapStep),
+                overlap(srcSize, srcRoi), planes(format, src, dst)))
+    return s;
+  const TableMap map{rows<C1>(pxMap, xMapStep), rows<C1>(pyMap, yMapStep)};
+  walkSpans(WholeRows({0, 0, dstRoiSize.width, dstRoiSize.height}), dst, format, map,
+            asFloats(cornersOf(commonPart(srcSize, srcRoi))), Sampler(format, src, srcSize, interpolation));
+  return huxStsOk;
+}
+
+}  // namespace
+}  // namespace hux
+
+#define EXPORT(t, l)                                                                                                 \
+  HuxStatus huxiRemap_##t##_##l##R(hux::Pixels<hux::l, const Hux##t> pSrc, HuxiSize srcSize, int srcStep,            \
+                                   HuxiRect srcRoi, const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap,          \
+                                   int yMapStep, hux::Pixels<hux::l, Hux##t> pDst, int dstStep, HuxiSize dstRoiSize, \
+                                   HuxiInterpolation interpolation) {                                                \
+    return hux::remap(hux::formatOf<hux::l, Hux##t>(), hux::image<hux::l>(pSrc, srcStep), srcSize, srcRoi, pxMap,    \
+                      xMapStep, pyMap, yMapStep, hux::image<hux::l>(pDst, dstStep), dstRoiSize, interpolation);      \
+  }
+HUX_STAMP(EXPORT, (8u, 16u, 32f), (C1, C3, AC4, C4, P3, P4))
