@@ -385,7 +385,762 @@ HUX_API HuxStatus huxiResizeYUV422_8u_C2R(const Hux8u* pSrc, HuxiSize srcSize, i
 
 /* ---- Affine warps, rotation and shear ---- */
 
+/* Warps: an image resampled through a map. The image of the source region in the destination is a quadrangle; each
+ * pixel of the destination region that lies in it, its edges included, takes the source's value at the place that the
+ * inverse map tells, and all others stay as they are. Positions are computed in 64-bit floats.
+ * pSrc and pDst address the origins of whole images, and all coordinates count pixels from there, x to the right and
+ * y downwards; pixels are points at integer coordinates. srcSize is the size of the source image, srcRoi the region
+ * of it that is warped, cut to the image; interpolation sees the whole image around it, and nothing outside. dstRoi
+ * is the region of the destination that may be written. Source and destination must not overlap.
+ * C1R, C3R, C4R: all channels. AC4R: alpha of the destination stays. P3R, P4R: arrays of three or four plane
+ * pointers, with one step for all planes; the arrays are only read.
+ * interpolation is one of
+ *   huxiInterNearest  the pixel at (x + 0.5, y + 0.5) truncated
+ *   huxiInterLinear   between the four neighbours; of 8u the result is rounded, of 16u it is truncated
+ *   huxiInterCubic    polynomials through the four by four neighbours, saturated
+ * An image of one row or column is sampled as by huxiInterNearest, one with fewer than four as by huxiInterLinear at
+ * most.
+ * huxiInterSmoothEdge may be added: then the pixels just outside the slanted edges of the quadrangle are blended with
+ * their neighbours inside, in all channels, alpha included. The Back forms ignore it.
+ * Checks of all warps: null pointers (huxStsNullPtr); srcSize, srcRoi, dstRoi of less than one row or column, or
+ * regions with x or y below 0 (huxStsBadSize); steps below 1 (huxStsBadStep); interpolation (huxStsBadInterpolation);
+ * null plane pointers (huxStsNullPtr); the map, as told for each; then the source region's first pixel not one of the
+ * image (huxStsNoOverlapWarn). The arrays of the map are not checked for null. huxStsQuadOutsideWarn tells that the
+ * quadrangle misses the destination region, or that there is no memory for its 8 bytes per row. With any of these
+ * nothing is written. */
+
+/* WarpAffine: x' = c00 x + c01 y + c02, y' = c10 x + c11 y + c12 carries the source to the destination. Checks, as
+ * above, and of the map: c00 c11 and c01 c10 equal, to a relative 1e-12 (huxStsBadQuad). Behind them: a source region
+ * of one row or column (huxStsBadRect), a quadrangle without extent (huxStsBadQuad). */
+HUX_API HuxStatus huxiWarpAffine_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                        int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                        HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                        int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                        HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                         int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                         HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                        int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                        HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                        Hux8u* const pDst[3], int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                        HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                        Hux8u* const pDst[4], int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                        HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                         Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                         HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                         Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                         HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                          HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                         Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                         HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                         Hux16u* const pDst[3], int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                         HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                         Hux16u* const pDst[4], int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                         HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                         Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                         HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                         Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                         HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                          HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                         Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                         HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                         Hux32f* const pDst[3], int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                         HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffine_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                         Hux32f* const pDst[4], int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                         HuxiInterpolation interpolation);
+
+/* WarpAffineBack: the coefficients carry the destination to the source. Checks as for WarpAffine, but huxStsBadRect;
+ * a source region of one row or column has a quadrangle without extent (huxStsBadQuad). */
+HUX_API HuxStatus huxiWarpAffineBack_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                            HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                            HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                             HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                            HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux8u* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                            const Hux64f coeffs[2][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux8u* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                            const Hux64f coeffs[2][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                             HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                             HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                              HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                             HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                             HuxiRect srcRoi, Hux16u* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                             const Hux64f coeffs[2][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                             HuxiRect srcRoi, Hux16u* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                             const Hux64f coeffs[2][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                             HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                             HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                              HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][3],
+                                             HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                             HuxiRect srcRoi, Hux32f* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                             const Hux64f coeffs[2][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineBack_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                             HuxiRect srcRoi, Hux32f* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                             const Hux64f coeffs[2][3], HuxiInterpolation interpolation);
+
+/* WarpAffineQuad: vertices 0, 1 and 2 of srcQuad go to those of dstQuad, each vertex being {x, y}. Where vertex 3
+ * does not follow, the image is warped by these three all the same and the result is huxStsQuadNotAffineWarn; then
+ * pixels whose place lies outside the source image stay as they are. What of srcQuad lies outside srcRoi is cut off.
+ * Checks, as above, and of the map: a quadrangle that is not convex or has three vertices in line (huxStsBadCoeffs).
+ * huxStsNoMem if there is no memory for the rows of a quadrangle that was cut. Edges are smoothed only of one that
+ * was not. */
+HUX_API HuxStatus huxiWarpAffineQuad_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            const Hux64f srcQuad[4][2], Hux8u* pDst, int dstStep, HuxiRect dstRoi,
+                                            const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            const Hux64f srcQuad[4][2], Hux8u* pDst, int dstStep, HuxiRect dstRoi,
+                                            const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             const Hux64f srcQuad[4][2], Hux8u* pDst, int dstStep, HuxiRect dstRoi,
+                                             const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            const Hux64f srcQuad[4][2], Hux8u* pDst, int dstStep, HuxiRect dstRoi,
+                                            const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            const Hux64f srcQuad[4][2], Hux8u* const pDst[3], int dstStep,
+                                            HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                            HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            const Hux64f srcQuad[4][2], Hux8u* const pDst[4], int dstStep,
+                                            HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                            HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             const Hux64f srcQuad[4][2], Hux16u* pDst, int dstStep, HuxiRect dstRoi,
+                                             const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             const Hux64f srcQuad[4][2], Hux16u* pDst, int dstStep, HuxiRect dstRoi,
+                                             const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              const Hux64f srcQuad[4][2], Hux16u* pDst, int dstStep, HuxiRect dstRoi,
+                                              const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             const Hux64f srcQuad[4][2], Hux16u* pDst, int dstStep, HuxiRect dstRoi,
+                                             const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                             HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux16u* const pDst[3],
+                                             int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                             HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                             HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux16u* const pDst[4],
+                                             int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                             HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             const Hux64f srcQuad[4][2], Hux32f* pDst, int dstStep, HuxiRect dstRoi,
+                                             const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             const Hux64f srcQuad[4][2], Hux32f* pDst, int dstStep, HuxiRect dstRoi,
+                                             const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              const Hux64f srcQuad[4][2], Hux32f* pDst, int dstStep, HuxiRect dstRoi,
+                                              const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             const Hux64f srcQuad[4][2], Hux32f* pDst, int dstStep, HuxiRect dstRoi,
+                                             const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                             HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux32f* const pDst[3],
+                                             int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                             HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpAffineQuad_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                             HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux32f* const pDst[4],
+                                             int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                             HuxiInterpolation interpolation);
+
+/* Rotate: x' = x cos a + y sin a + xShift, y' = -x sin a + y cos a + yShift, the angle in degrees: a positive one
+ * turns counter-clockwise on the screen. At 90, 180 and 270 degrees and all that differ from these by full turns,
+ * with shifts that are whole numbers, pixels are only moved; interpolation is then not looked at, regions may be of
+ * one row or column, and the result is huxStsNoOverlapWarn where the image of the source region misses the
+ * destination region. Otherwise as WarpAffine. */
+HUX_API HuxStatus huxiRotate_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                    int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift, Hux64f yShift,
+                                    HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                    int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift, Hux64f yShift,
+                                    HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                     int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift, Hux64f yShift,
+                                     HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                    int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift, Hux64f yShift,
+                                    HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    Hux8u* const pDst[3], int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift,
+                                    Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    Hux8u* const pDst[4], int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift,
+                                    Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux16u* pDst,
+                                     int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift, Hux64f yShift,
+                                     HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux16u* pDst,
+                                     int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift, Hux64f yShift,
+                                     HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux16u* pDst,
+                                      int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift, Hux64f yShift,
+                                      HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux16u* pDst,
+                                     int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift, Hux64f yShift,
+                                     HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                     Hux16u* const pDst[3], int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift,
+                                     Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                     Hux16u* const pDst[4], int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift,
+                                     Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux32f* pDst,
+                                     int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift, Hux64f yShift,
+                                     HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux32f* pDst,
+                                     int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift, Hux64f yShift,
+                                     HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux32f* pDst,
+                                      int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift, Hux64f yShift,
+                                      HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux32f* pDst,
+                                     int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift, Hux64f yShift,
+                                     HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                     Hux32f* const pDst[3], int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift,
+                                     Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotate_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                     Hux32f* const pDst[4], int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xShift,
+                                     Hux64f yShift, HuxiInterpolation interpolation);
+
+/* RotateCenter: the rotation that keeps the point (xCenter, yCenter) where it is. Otherwise as Rotate. */
+HUX_API HuxStatus huxiRotateCenter_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* pDst, int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xCenter,
+                                          Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* pDst, int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xCenter,
+                                          Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux8u* pDst, int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xCenter,
+                                           Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* pDst, int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xCenter,
+                                          Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* const pDst[3], int dstStep, HuxiRect dstRoi, Hux64f angle,
+                                          Hux64f xCenter, Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* const pDst[4], int dstStep, HuxiRect dstRoi, Hux64f angle,
+                                          Hux64f xCenter, Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* pDst, int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xCenter,
+                                           Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* pDst, int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xCenter,
+                                           Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux16u* pDst, int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xCenter,
+                                            Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* pDst, int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xCenter,
+                                           Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* const pDst[3], int dstStep, HuxiRect dstRoi, Hux64f angle,
+                                           Hux64f xCenter, Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* const pDst[4], int dstStep, HuxiRect dstRoi, Hux64f angle,
+                                           Hux64f xCenter, Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* pDst, int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xCenter,
+                                           Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* pDst, int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xCenter,
+                                           Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux32f* pDst, int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xCenter,
+                                            Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* pDst, int dstStep, HuxiRect dstRoi, Hux64f angle, Hux64f xCenter,
+                                           Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* const pDst[3], int dstStep, HuxiRect dstRoi, Hux64f angle,
+                                           Hux64f xCenter, Hux64f yCenter, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiRotateCenter_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* const pDst[4], int dstStep, HuxiRect dstRoi, Hux64f angle,
+                                           Hux64f xCenter, Hux64f yCenter, HuxiInterpolation interpolation);
+
+/* Shear: x' = x + xShear y + xShift, y' = yShear x + y + yShift. Otherwise as WarpAffine. */
+HUX_API HuxStatus huxiShear_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                   int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear, Hux64f xShift,
+                                   Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                   int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear, Hux64f xShift,
+                                   Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                    int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear, Hux64f xShift,
+                                    Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst,
+                                   int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear, Hux64f xShift,
+                                   Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                   Hux8u* const pDst[3], int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear,
+                                   Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                   Hux8u* const pDst[4], int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear,
+                                   Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux16u* pDst,
+                                    int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear, Hux64f xShift,
+                                    Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux16u* pDst,
+                                    int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear, Hux64f xShift,
+                                    Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux16u* pDst,
+                                     int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear, Hux64f xShift,
+                                     Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux16u* pDst,
+                                    int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear, Hux64f xShift,
+                                    Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    Hux16u* const pDst[3], int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear,
+                                    Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    Hux16u* const pDst[4], int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear,
+                                    Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux32f* pDst,
+                                    int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear, Hux64f xShift,
+                                    Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux32f* pDst,
+                                    int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear, Hux64f xShift,
+                                    Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux32f* pDst,
+                                     int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear, Hux64f xShift,
+                                     Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux32f* pDst,
+                                    int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear, Hux64f xShift,
+                                    Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    Hux32f* const pDst[3], int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear,
+                                    Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiShear_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                    Hux32f* const pDst[4], int dstStep, HuxiRect dstRoi, Hux64f xShear, Hux64f yShear,
+                                    Hux64f xShift, Hux64f yShift, HuxiInterpolation interpolation);
+
 /* ---- Bilinear and perspective warps ---- */
+
+/* WarpBilinear: x' = c00 x y + c01 x + c02 y + c03, y' = c10 x y + c11 x + c12 y + c13 carries the source to the
+ * destination. Arguments and checks as for the warps above; of the map none. Behind them: a source region of one row
+ * or column (huxStsBadRect), a quadrangle that is not convex or has three vertices in line (huxStsBadQuad). */
+HUX_API HuxStatus huxiWarpBilinear_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                          HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                          HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                          HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* const pDst[3], int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                          HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                          Hux8u* const pDst[4], int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                          HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                            HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                           const Hux64f coeffs[2][4], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux16u* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                           const Hux64f coeffs[2][4], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                            Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                            HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                           HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                           const Hux64f coeffs[2][4], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinear_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                           Hux32f* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                           const Hux64f coeffs[2][4], HuxiInterpolation interpolation);
+
+/* WarpBilinearBack: the coefficients carry the destination to the source. Every pixel of the destination region is
+ * looked up, and those stay as they are whose place lies outside the source region.
+ * Checks of the map: c01 c12 and c02 c11 equal, to a relative 1e-12 (huxStsBadQuad). Behind them: the image of the
+ * destination region in the source is not convex or has three vertices in line (huxStsBadQuad), or its bounding box
+ * misses the source region (huxStsQuadOutsideWarn). */
+HUX_API HuxStatus huxiWarpBilinearBack_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                              HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                              HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                               HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                              HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                              HuxiRect srcRoi, Hux8u* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                              const Hux64f coeffs[2][4], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                              HuxiRect srcRoi, Hux8u* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                              const Hux64f coeffs[2][4], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                               HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                               HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                                HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                               HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                               HuxiRect srcRoi, Hux16u* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                               const Hux64f coeffs[2][4], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                               HuxiRect srcRoi, Hux16u* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                               const Hux64f coeffs[2][4], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                               HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                               HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                                HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[2][4],
+                                               HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                               HuxiRect srcRoi, Hux32f* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                               const Hux64f coeffs[2][4], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearBack_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                               HuxiRect srcRoi, Hux32f* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                               const Hux64f coeffs[2][4], HuxiInterpolation interpolation);
+
+/* WarpBilinearQuad: the vertices of srcQuad go to those of dstQuad, each vertex being {x, y}. Of srcQuad only what
+ * lies in srcRoi is looked up.
+ * Checks of the map: a quadrangle that is not convex or has three vertices in line (huxStsBadCoeffs). Behind them:
+ * the bounding box of srcQuad misses the source region (huxStsQuadOutsideWarn). Edges are smoothed only if srcQuad
+ * lies wholly in the source region and its edges do not all run along the axes. */
+HUX_API HuxStatus huxiWarpBilinearQuad_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              const Hux64f srcQuad[4][2], Hux8u* pDst, int dstStep, HuxiRect dstRoi,
+                                              const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              const Hux64f srcQuad[4][2], Hux8u* pDst, int dstStep, HuxiRect dstRoi,
+                                              const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               const Hux64f srcQuad[4][2], Hux8u* pDst, int dstStep, HuxiRect dstRoi,
+                                               const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              const Hux64f srcQuad[4][2], Hux8u* pDst, int dstStep, HuxiRect dstRoi,
+                                              const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                              HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux8u* const pDst[3],
+                                              int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                              HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                              HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux8u* const pDst[4],
+                                              int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                              HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               const Hux64f srcQuad[4][2], Hux16u* pDst, int dstStep, HuxiRect dstRoi,
+                                               const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               const Hux64f srcQuad[4][2], Hux16u* pDst, int dstStep, HuxiRect dstRoi,
+                                               const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                const Hux64f srcQuad[4][2], Hux16u* pDst, int dstStep, HuxiRect dstRoi,
+                                                const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               const Hux64f srcQuad[4][2], Hux16u* pDst, int dstStep, HuxiRect dstRoi,
+                                               const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                               HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux16u* const pDst[3],
+                                               int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                               HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                               HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux16u* const pDst[4],
+                                               int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                               HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               const Hux64f srcQuad[4][2], Hux32f* pDst, int dstStep, HuxiRect dstRoi,
+                                               const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               const Hux64f srcQuad[4][2], Hux32f* pDst, int dstStep, HuxiRect dstRoi,
+                                               const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                const Hux64f srcQuad[4][2], Hux32f* pDst, int dstStep, HuxiRect dstRoi,
+                                                const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               const Hux64f srcQuad[4][2], Hux32f* pDst, int dstStep, HuxiRect dstRoi,
+                                               const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                               HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux32f* const pDst[3],
+                                               int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                               HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpBilinearQuad_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                               HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux32f* const pDst[4],
+                                               int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                               HuxiInterpolation interpolation);
+
+/* WarpPerspective: x' = (c00 x + c01 y + c02) / (c20 x + c21 y + c22), y' = (c10 x + c11 y + c12) / (the same)
+ * carries the source to the destination. Arguments and checks as for the warps above; of the map: c00 c11 and c01 c10
+ * equal, to a relative 1e-12, or c22 of 1e-200 or less in amount (huxStsBadQuad). Behind them: a source region of one
+ * row or column (huxStsBadRect), a quadrangle that is not convex or has three vertices in line (huxStsBadQuad). */
+HUX_API HuxStatus huxiWarpPerspective_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                             HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                             HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                              HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                             HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux8u* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                             const Hux64f coeffs[3][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                             Hux8u* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                             const Hux64f coeffs[3][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                              HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                              HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                               HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                              HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                              HuxiRect srcRoi, Hux16u* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                              const Hux64f coeffs[3][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                              HuxiRect srcRoi, Hux16u* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                              const Hux64f coeffs[3][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                              HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                              HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                               Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                               HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                              Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                              HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                              HuxiRect srcRoi, Hux32f* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                              const Hux64f coeffs[3][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspective_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                              HuxiRect srcRoi, Hux32f* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                              const Hux64f coeffs[3][3], HuxiInterpolation interpolation);
+
+/* WarpPerspectiveBack: the coefficients carry the destination to the source. Checks as for WarpPerspective but the
+ * last two: where the image of the source region is no convex quadrangle, because the map's horizon crosses the
+ * region or the region has no extent, every pixel of the destination region is looked up, and those stay as they are
+ * whose place lies outside the source region. huxStsQuadOutsideWarn then tells that the bounding box of the
+ * destination region's image misses the source region. */
+HUX_API HuxStatus huxiWarpPerspectiveBack_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                 Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                                 HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                 Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                                 HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                  Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                 Hux8u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                                 HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                                 HuxiRect srcRoi, Hux8u* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                                 const Hux64f coeffs[3][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                                 HuxiRect srcRoi, Hux8u* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                                 const Hux64f coeffs[3][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                  Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                  Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                   Hux16u* pDst, int dstStep, HuxiRect dstRoi,
+                                                   const Hux64f coeffs[3][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                  Hux16u* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                                  HuxiRect srcRoi, Hux16u* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                                  const Hux64f coeffs[3][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                                  HuxiRect srcRoi, Hux16u* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                                  const Hux64f coeffs[3][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                  Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                  Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                   Hux32f* pDst, int dstStep, HuxiRect dstRoi,
+                                                   const Hux64f coeffs[3][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                  Hux32f* pDst, int dstStep, HuxiRect dstRoi, const Hux64f coeffs[3][3],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                                  HuxiRect srcRoi, Hux32f* const pDst[3], int dstStep, HuxiRect dstRoi,
+                                                  const Hux64f coeffs[3][3], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveBack_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                                  HuxiRect srcRoi, Hux32f* const pDst[4], int dstStep, HuxiRect dstRoi,
+                                                  const Hux64f coeffs[3][3], HuxiInterpolation interpolation);
+
+/* WarpPerspectiveQuad: the vertices of srcQuad go to those of dstQuad, each vertex being {x, y}. Of srcQuad only what
+ * lies in srcRoi is looked up.
+ * Checks of the map: a quadrangle that is not convex or has three vertices in line (huxStsBadCoeffs). Behind them:
+ * the bounding box of srcQuad misses the source region (huxStsQuadOutsideWarn). Edges are smoothed only if srcQuad
+ * lies wholly in the source region. */
+HUX_API HuxStatus huxiWarpPerspectiveQuad_8u_C1R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                 const Hux64f srcQuad[4][2], Hux8u* pDst, int dstStep, HuxiRect dstRoi,
+                                                 const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_8u_C3R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                 const Hux64f srcQuad[4][2], Hux8u* pDst, int dstStep, HuxiRect dstRoi,
+                                                 const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_8u_AC4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                  const Hux64f srcQuad[4][2], Hux8u* pDst, int dstStep, HuxiRect dstRoi,
+                                                  const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_8u_C4R(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                 const Hux64f srcQuad[4][2], Hux8u* pDst, int dstStep, HuxiRect dstRoi,
+                                                 const Hux64f dstQuad[4][2], HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_8u_P3R(const Hux8u* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                                 HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux8u* const pDst[3],
+                                                 int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                                 HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_8u_P4R(const Hux8u* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                                 HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux8u* const pDst[4],
+                                                 int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                                 HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_16u_C1R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                  const Hux64f srcQuad[4][2], Hux16u* pDst, int dstStep,
+                                                  HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_16u_C3R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                  const Hux64f srcQuad[4][2], Hux16u* pDst, int dstStep,
+                                                  HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_16u_AC4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                   const Hux64f srcQuad[4][2], Hux16u* pDst, int dstStep,
+                                                   HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                                   HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_16u_C4R(const Hux16u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                  const Hux64f srcQuad[4][2], Hux16u* pDst, int dstStep,
+                                                  HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_16u_P3R(const Hux16u* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                                  HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux16u* const pDst[3],
+                                                  int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_16u_P4R(const Hux16u* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                                  HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux16u* const pDst[4],
+                                                  int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_32f_C1R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                  const Hux64f srcQuad[4][2], Hux32f* pDst, int dstStep,
+                                                  HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_32f_C3R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                  const Hux64f srcQuad[4][2], Hux32f* pDst, int dstStep,
+                                                  HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_32f_AC4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                   const Hux64f srcQuad[4][2], Hux32f* pDst, int dstStep,
+                                                   HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                                   HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_32f_C4R(const Hux32f* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi,
+                                                  const Hux64f srcQuad[4][2], Hux32f* pDst, int dstStep,
+                                                  HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_32f_P3R(const Hux32f* const pSrc[3], HuxiSize srcSize, int srcStep,
+                                                  HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux32f* const pDst[3],
+                                                  int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                                  HuxiInterpolation interpolation);
+HUX_API HuxStatus huxiWarpPerspectiveQuad_32f_P4R(const Hux32f* const pSrc[4], HuxiSize srcSize, int srcStep,
+                                                  HuxiRect srcRoi, const Hux64f srcQuad[4][2], Hux32f* const pDst[4],
+                                                  int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],
+                                                  HuxiInterpolation interpolation);
 
 /* ---- Remap ---- */
 

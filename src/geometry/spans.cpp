@@ -120,7 +120,8 @@ bool Spans::take(Index firstRow, Index lastRow) {
   const Index count = lastRow - firstRow + 1;
   release(table_);
   table_ = static_cast<Span*>(allocate(std::size_t(count) * sizeof(Span)));
-  if (!table_) return false;
+  noMemory_ = !table_;
+  if (noMemory_) return false;
   first = firstRow, last = lastRow;
   std::fill_n(table_, count, Span{0, -1});
   return true;

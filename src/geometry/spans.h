@@ -39,10 +39,12 @@ class Spans {
 
   // Takes memory for these rows, whose spans are empty; false where there is none.
   bool take(Index firstRow, Index lastRow);
+  bool noMemory() const { return noMemory_; }
   Span& operator[](Index row) const { return table_[row - first]; }
 
  private:
   Span* table_ = nullptr;
+  bool noMemory_ = false;
 };
 
 // Fills the spans of a clipped polygon: `first` is the ceiling of its smallest y, `last` the floor of its largest. A
