@@ -27,6 +27,7 @@ T* allocate(int width, int height, int* step);
 TOUR_ALLOCATE(8u, 1)
 TOUR_ALLOCATE(8u, 3)
 TOUR_ALLOCATE(8u, 4)
+TOUR_ALLOCATE(16s, 1)
 TOUR_ALLOCATE(32s, 1)
 TOUR_ALLOCATE(32f, 1)
 #undef TOUR_ALLOCATE

@@ -1,0 +1,143 @@
+// The tour's steps through neighbourhood filters.
+#include <vector>
+
+#include "tour.h"
+
+namespace tour {
+namespace {
+
+// Filters read the pixels around their region. Here these are the nearest ones, in a frame as wide as the largest mask
+// of the tour asks for.
+constexpr int kReach = 8;
+
+class Framed {
+ public:
+  explicit Framed(const Gray& inner) : image_(larger(inner.size())) {
+    HUX_DO(huxiCopyReplicateBorder_8u_C1R(inner.at(0, 0), inner.step(), inner.size(), image_.at(0, 0), image_.step(),
+                                          image_.size(), kReach, kReach));
+  }
+  const Hux8u* pixels() const { return image_.at(kReach, kReach); }
+  int step() const { return image_.step(); }
+
+ private:
+  static HuxiSize larger(HuxiSize s) { return {s.width + 2 * kReach, s.height + 2 * kReach}; }
+  Gray image_;
+};
+
+// The face in gray: its green channel.
+Gray grayFace(const Photos& in) {
+  Gray gray(kFace);
+  HUX_DO(huxiCopy_8u_C3C1R(face(in) + 1, in.raccoon.step(), gray.at(0, 0), gray.step(), kFace));
+  return gray;
+}
+
+// Calls filter(source, step, destination, step) with the framed picture and a new one.
+template <class Filter>
+Gray filtered(const Gray& gray, Filter filter) {
+  const Framed framed(gray);
+  Gray out(gray.size());
+  HUX_DO(filter(framed.pixels(), framed.step(), out.at(0, 0), out.step()));
+  return out;
+}
+
+// Slopes along rows and along columns, how steep they are together, and where the picture bends.
+Colour edges(const Photos& in) {
+  const Framed framed(grayFace(in));
+  Image<Hux16s, 1> vertical(kFace), horizontal(kFace);
+  Gray steep(kFace);
+  Colour out(kWhole);
+  HUX_DO(huxiFilterScharrVert_8u16s_C1R(framed.pixels(), framed.step(), vertical.at(0, 0), vertical.step(), kFace));
+  HUX_DO(
+      huxiFilterScharrHoriz_8u16s_C1R(framed.pixels(), framed.step(), horizontal.at(0, 0), horizontal.step(), kFace));
+  const auto lay = [&](Image<Hux16s, 1>& slopes, int i) {
+    HUX_DO(huxiAbs_16s_C1IR(slopes.at(0, 0), slopes.step(), kFace));
+    HUX_DO(huxiRShiftC_16s_C1IR(2, slopes.at(0, 0), slopes.step(), kFace));
+    HUX_DO(huxiConvert_16s8u_C1R(slopes.at(0, 0), slopes.step(), steep.at(0, 0), steep.step(), kFace));
+    show(steep, out, i);
+  };
+  lay(vertical, 0), lay(horizontal, 1);
+  HUX_DO(huxiAdd_16s_C1IRSfs(vertical.at(0, 0), vertical.step(), horizontal.at(0, 0), horizontal.step(), kFace, 0));
+  HUX_DO(huxiConvert_16s8u_C1R(horizontal.at(0, 0), horizontal.step(), steep.at(0, 0), steep.step(), kFace));
+  show(steep, out, 2);
+  HUX_DO(huxiFilterLaplace_8u_C1R(framed.pixels(), framed.step(), steep.at(0, 0), steep.step(), kFace, huxMskSize5x5));
+  show(steep, out, 3);
+  return out;
+}
+
+Colour sharpened(const Photos& in) {
+  const Gray gray = grayFace(in);
+  Colour out(kWhole);
+  show(gray, out, 0);
+  show(filtered(gray, [](auto... image) { return huxiFilterSharpen_8u_C1R(image..., kFace); }), out, 1);
+  show(filtered(gray, [](auto... image) { return huxiFilterGauss_8u_C1R(image..., kFace, huxMskSize5x5); }), out, 2);
+  // A kernel of one's own: light falls in from the upper left. The anchor is the tap over the pixel.
+  const Hux32s relief[9] = {2, 1, 0, 1, 1, -1, 0, -1, -2};
+  show(filtered(gray,
+                [&](auto... image) {
+                  return huxiFilter_8u_C1R(image..., kFace, relief, {3, 3}, {1, 1}, 1);
+                }),
+       out, 3);
+  return out;
+}
+
+Colour denoised(const Photos& in) {
+  Gray noisy = grayFace(in);
+  Hux32u seed = 1903;
+  HUX_DO(huxiAddRandGauss_Direct_8u_C1IR(noisy.at(0, 0), noisy.step(), kFace, 0, 18, &seed));
+  Colour out(kWhole);
+  show(noisy, out, 0);
+  const HuxiSize mask = {5, 5};
+  const HuxiPoint centre = {2, 2};
+  show(filtered(noisy, [&](auto... image) { return huxiFilterBox_8u_C1R(image..., kFace, mask, centre); }), out, 1);
+  show(filtered(noisy, [&](auto... image) { return huxiFilterMedian_8u_C1R(image..., kFace, mask, centre); }), out, 2);
+  // The strength of the noise is not given, so that the filter measures it.
+  int bytes;
+  HUX_DO(huxiFilterWienerGetBufferSize(kFace, mask, 1, &bytes));
+  std::vector<Hux8u> buffer(std::size_t(bytes), 0);
+  Hux32f noise = 0;
+  show(filtered(noisy,
+                [&](auto... image) {
+                  return huxiFilterWiener_8u_C1R(image..., kFace, mask, centre, &noise, buffer.data());
+                }),
+       out, 3);
+  return out;
+}
+
+// Black and white, and what goes when small grains, or small gaps, are taken away.
+Colour openedAndClosed(const Photos& in) {
+  Gray marks = grayFace(in);
+  HUX_DO(huxiThreshold_LTValGTVal_8u_C1IR(marks.at(0, 0), marks.step(), kFace, 110, 0, 109, 255));
+  const HuxiSize size = {7, 7};
+  const HuxiPoint centre = {3, 3};
+  std::vector<Hux8u> disc;
+  for (int y = -3; y <= 3; ++y)
+    for (int x = -3; x <= 3; ++x) disc.push_back(x * x + y * y <= 10);
+  const auto eroded = [&](const Gray& g) {
+    return filtered(g, [&](auto... image) { return huxiErode_8u_C1R(image..., kFace, disc.data(), size, centre); });
+  };
+  const auto dilated = [&](const Gray& g) {
+    return filtered(g, [&](auto... image) { return huxiDilate_8u_C1R(image..., kFace, disc.data(), size, centre); });
+  };
+  Colour out(kWhole);
+  show(marks, out, 0);
+  show(dilated(eroded(marks)), out, 1);
+  show(eroded(dilated(marks)), out, 2);
+  Gray outline = dilated(marks);
+  const Gray inside = eroded(marks);
+  HUX_DO(huxiSub_8u_C1IRSfs(inside.at(0, 0), inside.step(), outline.at(0, 0), outline.step(), kFace, 0));
+  show(outline, out, 3);
+  return out;
+}
+
+constexpr Step kSteps[] = {
+    {"edges", "slopes along rows, along columns, both; bends", edges},
+    {"sharpened", "as it is; sharpened, smoothed, in relief", sharpened},
+    {"denoised", "with noise; mean, median, Wiener filter", denoised},
+    {"opened-and-closed", "above 110; opened, closed; outlines", openedAndClosed},
+};
+
+}  // namespace
+
+std::span<const Step> filterSteps() { return kSteps; }
+
+}  // namespace tour
