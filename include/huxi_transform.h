@@ -188,6 +188,50 @@ HUX_API HuxStatus huxiDFTInv_PackToR_32s8u_AC4RSfs(const Hux32s* pSrc, int srcSt
 
 /* ---- Blocks of 8 by 8 ---- */
 
+/* The cosine transform of a block of 8 by 8 samples, u numbering rows of the result and v its columns:
+ *
+ *   forward  F(u, v) = c(u) c(v) / 4 * sum over y, x of f(y, x) cos((2x + 1) v pi / 16) cos((2y + 1) u pi / 16)
+ *
+ * with c(0) = 1 / sqrt(2) and c = 1 otherwise, and its inverse: no gain either way, so that a block of equal samples a
+ * has F(0, 0) = 8a. A block is 64 samples in rows of 8, one row behind the other; where a step is given, that side has
+ * rows at that distance in bytes. Source and destination may be the same block, and pointers any address.
+ *
+ * 32f works in single precision. 16s is a fixed-point transform in 32-bit arithmetic that wraps, rows first forward and
+ * columns first inverse, with 16 bits between the passes: results are the same everywhere and within a rounding of the
+ * true ones for samples of up to 12 bits.
+ * Checks: null pointers (huxStsNullPtr), where a step is given, a step below 1 (huxStsBadStep). */
+HUX_API HuxStatus huxiDCT8x8Fwd_32f_C1(const Hux32f* pSrc, Hux32f* pDst);
+HUX_API HuxStatus huxiDCT8x8Fwd_32f_C1I(Hux32f* pSrcDst);
+HUX_API HuxStatus huxiDCT8x8Inv_32f_C1(const Hux32f* pSrc, Hux32f* pDst);
+HUX_API HuxStatus huxiDCT8x8Inv_32f_C1I(Hux32f* pSrcDst);
+HUX_API HuxStatus huxiDCT8x8Fwd_16s_C1(const Hux16s* pSrc, Hux16s* pDst);
+HUX_API HuxStatus huxiDCT8x8Fwd_16s_C1I(Hux16s* pSrcDst);
+HUX_API HuxStatus huxiDCT8x8Inv_16s_C1(const Hux16s* pSrc, Hux16s* pDst);
+HUX_API HuxStatus huxiDCT8x8Inv_16s_C1I(Hux16s* pSrcDst);
+
+/* The same between blocks and images. Fwd_8u16s takes pixels as they are, FwdLS adds addVal to each in 16 bits that
+ * wrap; Inv_16s8u limits results to 0..255. InvLSClip adds addVal, then writes clipMin for what is below clipMin, and
+ * clipMax for what is not below clipMax. */
+HUX_API HuxStatus huxiDCT8x8Fwd_16s_C1R(const Hux16s* pSrc, int srcStep, Hux16s* pDst);
+HUX_API HuxStatus huxiDCT8x8Inv_16s_C1R(const Hux16s* pSrc, Hux16s* pDst, int dstStep);
+HUX_API HuxStatus huxiDCT8x8Fwd_8u16s_C1R(const Hux8u* pSrc, int srcStep, Hux16s* pDst);
+HUX_API HuxStatus huxiDCT8x8Inv_16s8u_C1R(const Hux16s* pSrc, Hux8u* pDst, int dstStep);
+HUX_API HuxStatus huxiDCT8x8FwdLS_8u16s_C1R(const Hux8u* pSrc, int srcStep, Hux16s* pDst, Hux16s addVal);
+HUX_API HuxStatus huxiDCT8x8InvLSClip_16s8u_C1R(const Hux16s* pSrc, Hux8u* pDst, int dstStep, Hux16s addVal,
+                                                Hux8u clipMin, Hux8u clipMax);
+
+/* The inverse of a block of which only the first 2 by 2, or 4 by 4, coefficients are looked at; the others count as 0.
+ * Results may differ from those of the whole inverse by a rounding. */
+HUX_API HuxStatus huxiDCT8x8Inv_2x2_16s_C1(const Hux16s* pSrc, Hux16s* pDst);
+HUX_API HuxStatus huxiDCT8x8Inv_2x2_16s_C1I(Hux16s* pSrcDst);
+HUX_API HuxStatus huxiDCT8x8Inv_4x4_16s_C1(const Hux16s* pSrc, Hux16s* pDst);
+HUX_API HuxStatus huxiDCT8x8Inv_4x4_16s_C1I(Hux16s* pSrcDst);
+
+/* Zigzag: the coefficients of a block along its antidiagonals, from the first to the last, (0,0) (0,1) (1,0) (2,0)
+ * (1,1) (0,2) ... in (row, column); Inv puts them back. Checks: null pointers (huxStsNullPtr). */
+HUX_API HuxStatus huxiZigzagFwd8x8_16s_C1(const Hux16s* pSrc, Hux16s* pDst);
+HUX_API HuxStatus huxiZigzagInv8x8_16s_C1(const Hux16s* pSrc, Hux16s* pDst);
+
 /* ---- Packed spectra ---- */
 
 /* Operations on the packed spectra of real images, and the polar functions on complex images. The spectrum of a real
