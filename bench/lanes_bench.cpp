@@ -48,7 +48,8 @@ constexpr const char* kName = "";
 NAME(8u)
 NAME(8s)
 NAME(16u)
-NAME(16s) NAME(32u) NAME(32s) NAME(64s) NAME(32f) NAME(64f)
+NAME(16s)
+NAME(32u) NAME(32s) NAME(64s) NAME(32f) NAME(64f)
 
     template <class To, class From>
     void addConversion() {

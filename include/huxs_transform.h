@@ -118,6 +118,54 @@ HUX_API HuxStatus huxsDFTInv_PackToR_32f(const Hux32f* pSrc, Hux32f* pDst, const
 
 /* ---- DCT ---- */
 
+/* The orthonormal cosine transform of N numbers, any N:
+ *
+ *   forward  X[0] = 1 / sqrt(N) * sum of x[n],  X[k] = sqrt(2 / N) * sum over n of x[n] * cos(pi (2n + 1) k / 2N)
+ *
+ * and its inverse. It is computed in single precision: lengths 1, 2, 4 and 8 as they stand; powers of two by repeated
+ * halves, whose errors grow with the root of N, or from 1024 on with hint huxHintAccurate by a Fourier transform, which
+ * takes longer; other lengths up to 100 by the sum, longer ones by a Fourier transform. No other hint has an effect.
+ * A context is made for one direction (Fwd, Inv) and one length, is only read from then on, and may serve any number of
+ * threads at once. */
+typedef struct HuxsDCTRecord HuxsDCTRecord;
+
+/* InitAlloc: makes a context, to be freed by the Free of its direction.
+ * Checks: ppCtx null (huxStsNullPtr), length below 1 (huxStsBadSize), memory (huxStsNoMem; also where GetSize would
+ * have to report more than a signed 32-bit number holds). On failure *ppCtx is as it was. */
+HUX_API HuxStatus huxsDCTFwdInitAlloc_32f(HuxsDCTRecord** ppCtx, int length, HuxAccuracyHint hint);
+HUX_API HuxStatus huxsDCTInvInitAlloc_32f(HuxsDCTRecord** ppCtx, int length, HuxAccuracyHint hint);
+
+/* GetSize: the bytes of a context in memory of the caller's (pSize), of the memory that only its making needs
+ * (pInitBufSize), and of the work buffer of a transform (pBufSize); the latter two may be 0.
+ * Checks: length below 1 (huxStsBadSize), null pointers (huxStsNullPtr), a size beyond a signed 32-bit number
+ * (huxStsNoMem). */
+HUX_API HuxStatus huxsDCTFwdGetSize_32f(int length, HuxAccuracyHint hint, int* pSize, int* pInitBufSize, int* pBufSize);
+HUX_API HuxStatus huxsDCTInvGetSize_32f(int length, HuxAccuracyHint hint, int* pSize, int* pInitBufSize, int* pBufSize);
+
+/* Init: makes a context in pMem, of the size that GetSize reports and at any address, and sets *ppCtx to it. pInitBuf
+ * is no longer needed afterwards, and not looked at where GetSize reports 0 for it. The context lives as long as pMem.
+ * Checks: ppCtx null (huxStsNullPtr), length below 1 (huxStsBadSize), pMem null, pInitBuf null where it is needed
+ * (huxStsNullPtr), a size that GetSize refuses (huxStsNoMem). */
+HUX_API HuxStatus huxsDCTFwdInit_32f(HuxsDCTRecord** ppCtx, int length, HuxAccuracyHint hint, Hux8u* pMem,
+                                     Hux8u* pInitBuf);
+HUX_API HuxStatus huxsDCTInvInit_32f(HuxsDCTRecord** ppCtx, int length, HuxAccuracyHint hint, Hux8u* pMem,
+                                     Hux8u* pInitBuf);
+
+/* Free: ends a context, and frees its memory if it came from InitAlloc. GetBufSize: the bytes of the work buffer of a
+ * transform, which may be 0.
+ * Checks: null pointers (huxStsNullPtr), a context of the other direction or of another kind (huxStsBadContext). */
+HUX_API HuxStatus huxsDCTFwdFree_32f(HuxsDCTRecord* pCtx);
+HUX_API HuxStatus huxsDCTInvFree_32f(HuxsDCTRecord* pCtx);
+HUX_API HuxStatus huxsDCTFwdGetBufSize_32f(const HuxsDCTRecord* pCtx, int* pSize);
+HUX_API HuxStatus huxsDCTInvGetBufSize_32f(const HuxsDCTRecord* pCtx, int* pSize);
+
+/* The transforms. pSrc and pDst hold N numbers each, at any address; they may be equal and must not overlap otherwise.
+ * pBuffer is work memory at any address, as large as GetBufSize tells, for this call alone; when it is null the call
+ * allocates its own where it needs any. Checks: pCtx null (huxStsNullPtr), a context of the other direction or of
+ * another kind (huxStsBadContext), pSrc or pDst null (huxStsNullPtr), memory (huxStsNoMem). */
+HUX_API HuxStatus huxsDCTFwd_32f(const Hux32f* pSrc, Hux32f* pDst, const HuxsDCTRecord* pCtx, Hux8u* pBuffer);
+HUX_API HuxStatus huxsDCTInv_32f(const Hux32f* pSrc, Hux32f* pDst, const HuxsDCTRecord* pCtx, Hux8u* pBuffer);
+
 HUX_END_C
 
 #endif

@@ -237,12 +237,12 @@ void expectMeasured(const char* name, int channels, Call call, Vector vector) {
 
 #define UNSCALED(f) [](auto s, int ss, auto d, int ds, HuxiSize roi, int) { return f(s, ss, d, ds, roi); }
 #define VECTOR(f) [](auto s, auto d, int n, int) { return f(s, d, n); }
-#define FLOATS(name, l) \
+#define MEASURED(name, l) \
   expectMeasured<Hux32fc>(#name "_32f", l.stride, UNSCALED(huxi##name##Pack_32f_##l##R), VECTOR(huxs##name##_32fc));
 #define SCALED(name, t, l) \
   expectMeasured<Hux##t##c>(#name "_" #t, l.stride, huxi##name##Pack_##t##_##l##RSfs, huxs##name##_##t##c_Sfs);
 #undef BOTH
-#define BOTH(_, l) FLOATS(Magnitude, l) FLOATS(Phase, l)
+#define BOTH(_, l) MEASURED(Magnitude, l) MEASURED(Phase, l)
 #define INTEGER(t, l) SCALED(Magnitude, t, l) SCALED(Phase, t, l)
 
 TEST(MagnitudePack, MeasuresTheFullSpectrum) {
