@@ -186,6 +186,48 @@ HUX_API HuxStatus huxiDFTInv_PackToR_32s8u_AC4RSfs(const Hux32s* pSrc, int srcSt
 
 /* ---- DCT ---- */
 
+/* The orthonormal cosine transform of an image of any size, and its inverse: those of huxs_transform.h on all rows,
+ * then on all columns, in single precision. A context is made for one direction (Fwd, Inv) and one size, is only read
+ * from then on, and may serve any number of threads at once; hint as there. */
+typedef struct HuxiDCTRecord HuxiDCTRecord;
+
+/* InitAlloc: makes a context, to be freed by the Free of its direction.
+ * Checks: ppSpec null (huxStsNullPtr), size (huxStsBadSize), memory (huxStsNoMem; also where GetBufSize would have to
+ * report more than a signed 32-bit number holds). On failure *ppSpec is as it was. */
+HUX_API HuxStatus huxiDCTFwdInitAlloc_32f(HuxiDCTRecord** ppSpec, HuxiSize roiSize, HuxAccuracyHint hint);
+HUX_API HuxStatus huxiDCTInvInitAlloc_32f(HuxiDCTRecord** ppSpec, HuxiSize roiSize, HuxAccuracyHint hint);
+
+/* Free: ends a context. GetBufSize: the bytes of the work buffer of a transform.
+ * Checks: null pointers (huxStsNullPtr), a context of the other direction or of another kind (huxStsBadContext). */
+HUX_API HuxStatus huxiDCTFwdFree_32f(HuxiDCTRecord* pSpec);
+HUX_API HuxStatus huxiDCTInvFree_32f(HuxiDCTRecord* pSpec);
+HUX_API HuxStatus huxiDCTFwdGetBufSize_32f(const HuxiDCTRecord* pSpec, int* pSize);
+HUX_API HuxStatus huxiDCTInvGetBufSize_32f(const HuxiDCTRecord* pSpec, int* pSize);
+
+/* The transforms of a region of the context's size, each channel by itself; AC4 leaves the fourth channel of the
+ * destination as it is. Source and destination may be the same image and must not overlap otherwise. pBuffer is work
+ * memory at any address, as large as GetBufSize tells, for this call alone; when it is null the call allocates its own,
+ * except for one channel of 8 by 8 with both steps 32, which needs none. Steps are in bytes and are not compared with
+ * the width.
+ * Checks: pSpec null (huxStsNullPtr), a context of the other direction or of another kind (huxStsBadContext), pSrc or
+ * pDst null (huxStsNullPtr), a step below 1 (huxStsBadStep), memory (huxStsNoMem). */
+HUX_API HuxStatus huxiDCTFwd_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                     const HuxiDCTRecord* pSpec, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDCTFwd_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                     const HuxiDCTRecord* pSpec, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDCTFwd_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                     const HuxiDCTRecord* pSpec, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDCTFwd_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                      const HuxiDCTRecord* pSpec, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDCTInv_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                     const HuxiDCTRecord* pSpec, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDCTInv_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                     const HuxiDCTRecord* pSpec, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDCTInv_32f_C4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                     const HuxiDCTRecord* pSpec, Hux8u* pBuffer);
+HUX_API HuxStatus huxiDCTInv_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,
+                                      const HuxiDCTRecord* pSpec, Hux8u* pBuffer);
+
 /* ---- Blocks of 8 by 8 ---- */
 
 /* The cosine transform of a block of 8 by 8 samples, u numbering rows of the result and v its columns:
