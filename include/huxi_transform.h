@@ -465,6 +465,79 @@ HUX_API HuxStatus huxiPackToCplxExtend_32s32sc_C1R(const Hux32s* pSrc, HuxiSize 
 
 /* ---- Wavelets ---- */
 
+/* One level of a separable wavelet transform with filters of the caller's, low-pass and high-pass, and its inverse.
+ * Filtering a sequence s with taps t[0..len-1] and anchor a,
+ *
+ *   decimated   D(s)(i) = sum over m of t[m] * s(2i + a - m)
+ *   stretched   U(s)(i) = sum over m of t[m] * u(i + a - m),  u(2j) = s(j), u(2j + 1) = 0
+ *
+ * the forward transform takes a region of 2 width by 2 height samples to four sub-bands of width by height: columns by
+ * the low filter, then rows by the low one (Approx) and the high one (DetailY); columns by the high filter, then rows
+ * by the low one (DetailX) and the high one (DetailXY), all decimated. The inverse stretches: the columns of Approx
+ * (low) and DetailX (high) added up, whose rows go through the low filter, and those of DetailY (low) and DetailXY
+ * (high), whose rows go through the high one; the sum is the image. It undoes the forward transform where the four
+ * filters are such that it can.
+ *
+ *        low along rows     high along rows
+ *     +------------------+------------------+
+ *     |      Approx      |     DetailY      |   low along columns
+ *     +------------------+------------------+
+ *     |     DetailX      |     DetailXY     |   high along columns
+ *     +------------------+------------------+
+ *
+ * Samples around the regions are read as they stand, and must be there. Forward: len - a - 1 rows and columns ahead of
+ * the region and a - 1 behind it (none for a = 0), the larger of both filters for columns. Inverse, around each
+ * sub-band: (len - a - 1) / 2 ahead and (a + 1) / 2 behind, of the filter that it goes through in that direction.
+ * Everything is in single precision; sums begin with the last tap. C3 treats each channel by itself. A state is made
+ * for one direction and one layout, is only read from then on, and may serve any number of threads at once. */
+typedef struct HuxiWTRecord HuxiWTRecord;
+
+/* InitAlloc: makes a state, which keeps the taps, to be freed by the Free of its kind.
+ * Checks: null pointers (huxStsNullPtr), lenLow or lenHigh below 2 (huxStsBadSize), an anchor outside 0..len-1
+ * (huxStsBadAnchor), memory (huxStsNoMem; also where GetBufSize would have to report more than a signed 32-bit number
+ * holds). On failure *ppState is as it was. */
+HUX_API HuxStatus huxiWTFwdInitAlloc_32f_C1R(HuxiWTRecord** ppState, const Hux32f* pTapsLow, int lenLow, int anchorLow,
+                                             const Hux32f* pTapsHigh, int lenHigh, int anchorHigh);
+HUX_API HuxStatus huxiWTFwdInitAlloc_32f_C3R(HuxiWTRecord** ppState, const Hux32f* pTapsLow, int lenLow, int anchorLow,
+                                             const Hux32f* pTapsHigh, int lenHigh, int anchorHigh);
+HUX_API HuxStatus huxiWTInvInitAlloc_32f_C1R(HuxiWTRecord** ppState, const Hux32f* pTapsLow, int lenLow, int anchorLow,
+                                             const Hux32f* pTapsHigh, int lenHigh, int anchorHigh);
+HUX_API HuxStatus huxiWTInvInitAlloc_32f_C3R(HuxiWTRecord** ppState, const Hux32f* pTapsLow, int lenLow, int anchorLow,
+                                             const Hux32f* pTapsHigh, int lenHigh, int anchorHigh);
+
+/* Free: ends a state. GetBufSize: the bytes of the work buffer of a transform.
+ * Checks: pState null (huxStsNullPtr), a state of another kind (huxStsBadContext), pSize null (huxStsNullPtr). */
+HUX_API HuxStatus huxiWTFwdFree_32f_C1R(HuxiWTRecord* pState);
+HUX_API HuxStatus huxiWTFwdFree_32f_C3R(HuxiWTRecord* pState);
+HUX_API HuxStatus huxiWTInvFree_32f_C1R(HuxiWTRecord* pState);
+HUX_API HuxStatus huxiWTInvFree_32f_C3R(HuxiWTRecord* pState);
+HUX_API HuxStatus huxiWTFwdGetBufSize_C1R(const HuxiWTRecord* pState, int* pSize);
+HUX_API HuxStatus huxiWTFwdGetBufSize_C3R(const HuxiWTRecord* pState, int* pSize);
+HUX_API HuxStatus huxiWTInvGetBufSize_C1R(const HuxiWTRecord* pState, int* pSize);
+HUX_API HuxStatus huxiWTInvGetBufSize_C3R(const HuxiWTRecord* pState, int* pSize);
+
+/* Fwd: dstRoiSize is the size of each sub-band. Inv: srcRoiSize likewise. pSrc and pDst point to the first sample of
+ * the region; source and destination must not overlap. pBuffer is work memory at any address, as large as GetBufSize
+ * tells, for this call alone. Steps are in bytes and are not compared with the width. Checks, Fwd: pState null
+ * (huxStsNullPtr), a state of another kind (huxStsBadContext), pBuffer, pSrc or a destination null (huxStsNullPtr),
+ * size (huxStsBadSize), a step below 1 (huxStsBadStep). Inv: the same, but a null pBuffer comes with a null pState. */
+HUX_API HuxStatus huxiWTFwd_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pApproxDst, int approxStep,
+                                    Hux32f* pDetailXDst, int detailXStep, Hux32f* pDetailYDst, int detailYStep,
+                                    Hux32f* pDetailXYDst, int detailXYStep, HuxiSize dstRoiSize,
+                                    const HuxiWTRecord* pState, Hux8u* pBuffer);
+HUX_API HuxStatus huxiWTFwd_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pApproxDst, int approxStep,
+                                    Hux32f* pDetailXDst, int detailXStep, Hux32f* pDetailYDst, int detailYStep,
+                                    Hux32f* pDetailXYDst, int detailXYStep, HuxiSize dstRoiSize,
+                                    const HuxiWTRecord* pState, Hux8u* pBuffer);
+HUX_API HuxStatus huxiWTInv_32f_C1R(const Hux32f* pApproxSrc, int approxStep, const Hux32f* pDetailXSrc,
+                                    int detailXStep, const Hux32f* pDetailYSrc, int detailYStep,
+                                    const Hux32f* pDetailXYSrc, int detailXYStep, HuxiSize srcRoiSize, Hux32f* pDst,
+                                    int dstStep, const HuxiWTRecord* pState, Hux8u* pBuffer);
+HUX_API HuxStatus huxiWTInv_32f_C3R(const Hux32f* pApproxSrc, int approxStep, const Hux32f* pDetailXSrc,
+                                    int detailXStep, const Hux32f* pDetailYSrc, int detailYStep,
+                                    const Hux32f* pDetailXYSrc, int detailXYStep, HuxiSize srcRoiSize, Hux32f* pDst,
+                                    int dstStep, const HuxiWTRecord* pState, Hux8u* pBuffer);
+
 HUX_END_C
 
 #endif
