@@ -19,6 +19,9 @@ C conjugate(C z) {
     return {z.re, -z.im};
 }
 
+// The arrangement of pairs in the opposite order.
+constexpr int mirroredPairAt(int i, int n) { return n - 2 - (i & ~1) + (i & 1); }
+
 template <class L, class C>
 class PackedSpectrum {
  public:
@@ -37,12 +40,26 @@ class PackedSpectrum {
         for (int c = 0; c < kChannels; ++c) to[u * kChannels + c] = pairAt(near, u, c);
     if (width_ % 2 == 0) outer(y, width_ - 1, to + width_ / 2 * kChannels);
     const auto* far = packed_.row(y ? height_ - y : 0);
-    for (Index u = pairs; u >= 1; --u)
+    Index u = 1;
+    if constexpr (kChannels == 1)
+      for (constexpr int n = laneCount<T> / 2; u + n <= pairs + 1; u += n)
+        storeLanes(to + width_ - u - n + 1, mirroredConjugates(loadLanes<Lanes<T, 2 * n>>(far + 2 * u - 1)));
+    for (; u <= pairs; ++u)
       for (int c = 0; c < kChannels; ++c) to[(width_ - u) * kChannels + c] = conjugate(pairAt(far, u, c));
   }
 
  private:
   static constexpr int kChannels = L::channels;
+
+  template <class V>
+  static V mirroredConjugates(V v) {
+    V negative;
+    if constexpr (std::is_integral_v<T>)
+      negative = subSaturated(V{}, v);
+    else
+      negative = -v;
+    return arranged<mirroredPairAt>(joinParts(v, negative), v);
+  }
 
   static C pairAt(const Element<T>* row, Index u, int c) {
     return {row[(2 * u - 1) * kChannels + c], row[2 * u * kChannels + c]};
