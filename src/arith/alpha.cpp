@@ -154,7 +154,7 @@ HuxStatus alphaComp(const T* const* pSrc1, int src1Step, const T* const* pSrc2, 
     return s;
   withComposition(type, [&](auto composition) {
     using C = decltype(composition);
-    using Operand = Stream<T, Fraction<T>::lanes>;
+    using Operand = FromRow<T, Fraction<T>::lanes>;
     forEachRow(roi, wordPlanes<4>(pSrc1, src1Step), wordPlanes<4>(pSrc2, src2Step), wordPlanes<4>(pDst, dstStep),
                [](auto A, auto B, auto dst, Index width) {
                  forPieces(width, kPiece, [&](Index x, Index n) {

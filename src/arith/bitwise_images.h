@@ -23,7 +23,7 @@ HuxStatus zipConstant(const T* pSrc, int srcStep, const T* pPixel, T* pDst, int 
   if (HuxStatus s = check(pointers(pSrc, pPixel, pDst), steps(srcStep, dstStep), size(roi))) return s;
   const Repeat<L, T, Rule::lanes> constants(elements(pPixel));
   forEachRow(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep),
-             [&](auto* s, auto* d, Index n) { applyRule<L>(d, n, Rule{}, constants, Stream<T, Rule::lanes>{s}); });
+             [&](auto* s, auto* d, Index n) { applyRule<L>(d, n, Rule{}, constants, FromRow<T, Rule::lanes>{s}); });
   return huxStsOk;
 }
 

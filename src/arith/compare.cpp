@@ -50,7 +50,7 @@ auto bytesOf(V holds) {
 // The rule that writes a test's result as bytes of 255 and 0.
 template <class T, class Test>
 struct Marks {
-  static constexpr int lanes = sizeof(T) < 4 ? streamLanes<T> : laneCount<T>;  // floats have far to narrow
+  static constexpr int lanes = sizeof(T) < 4 ? memoryLanes<T> : laneCount<T>;  // floats have far to narrow
   using V = Lanes<T, lanes>;
   Test test;
   auto operator()(V a, V b) const { return bytesOf(test(a, b)); }
@@ -108,7 +108,7 @@ void markAgainst(Test test, const T* pSrc, int srcStep, const T* pPixel, Hux8u* 
   const Repeat<L, T, Rule::lanes> constants(elements(pPixel));
   forEachRow(roi, rows<L>(pSrc, srcStep), rows<C1>(pDst, dstStep), [=](auto* src, auto* dst, Index n) {
     markRow<L>(dst, n, [=](auto* to, Index first, Index count) {
-      applyRule<C1>(elementsAs<Hux8s>(to), count, Rule{test}, Stream<T, Rule::lanes>{src + first}, constants);
+      applyRule<C1>(elementsAs<Hux8s>(to), count, Rule{test}, FromRow<T, Rule::lanes>{src + first}, constants);
     });
   });
 }

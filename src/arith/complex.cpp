@@ -36,7 +36,7 @@ HuxStatus zipComplexC(const C* pSrc, int srcStep, const C* pPixel, C* pDst, int 
     constexpr int lanes = decltype(rule)::lanes;
     const Constants<L, C, lanes> constants(words(pPixel));
     forEachRow(roi, complexRows<L>(pSrc, srcStep), complexRows<L>(pDst, dstStep), [&](auto* src, auto* dst, Index n) {
-      applyRule<L>(dst, n, rule, constants, Stream<WordOfComplex<C>, lanes>{src});
+      applyRule<L>(dst, n, rule, constants, FromRow<WordOfComplex<C>, lanes>{src});
     });
   });
   return huxStsOk;
@@ -99,7 +99,7 @@ HuxStatus divide(const C* pSrc1, int src1Step, const C* pSrc2, int src2Step, C* 
     return forEachRow(
         roi, divisors, src, dst, complexRows<L>(opaque.get(), 0), [&](auto* a, auto* b, auto* d, auto* copy, Index n) {
           if constexpr (alpha) mapRow<L>(a, copy, n, kColours);
-          const Stream<Hux32s, lanes> x{elementsAs<const Hux32s>(alpha ? copy : a), 1}, y{elementsAs<const Hux32s>(b)};
+          const FromRow<Hux32s, lanes> x{elementsAs<const Hux32s>(alpha ? copy : a), 1}, y{elementsAs<const Hux32s>(b)};
           const HuxStatus status = applyRule<C1>(results.row(), 2 * L::channels * n, rule, x, y).status();
           results.store(d, n);
           return status;
@@ -129,8 +129,8 @@ HuxStatus divideC(const C* pSrc, int srcStep, const C* pPixel, C* pDst, int dstS
     if (!results || !factors) return huxStsNoMem;
     fillRow<L>(factors, roi.width, [&](int c) { return reciprocal(constant(c)); });
     forEachRow(roi, src, dst, rows<L>(factors.get(), 0), [&](auto* b, auto* d, auto*, Index n) {
-      applyRule<C1>(results.row(), 2 * L::channels * n, rule, Stream<Hux64f, lanes>{words(factors.get())},
-                    Stream<Hux32s, lanes>{elementsAs<const Hux32s>(b)});
+      applyRule<C1>(results.row(), 2 * L::channels * n, rule, FromRow<Hux64f, lanes>{words(factors.get())},
+                    FromRow<Hux32s, lanes>{elementsAs<const Hux32s>(b)});
       results.store(d, n);
     });
   } else if constexpr (L::channels == 1) {

@@ -118,8 +118,9 @@ HuxStatus divC(const Hux16u* pSrc, int srcStep, const Hux16u* pPixel, Hux16u* pD
   withQuotient<Hux16u>(scaleFactor, [&](auto rule) {
     using Rule = decltype(rule);
     const Repeat<L, Hux16u, Rule::lanes> constants(elements(pPixel));
-    forEachRow(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep),
-               [&](auto* s, auto* d, Index n) { applyRule<L>(d, n, rule, constants, Stream<Hux16u, Rule::lanes>{s}); });
+    forEachRow(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep), [&](auto* s, auto* d, Index n) {
+      applyRule<L>(d, n, rule, constants, FromRow<Hux16u, Rule::lanes>{s});
+    });
   });
   return huxStsOk;
 }

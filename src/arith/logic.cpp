@@ -55,7 +55,7 @@ HuxStatus complement(Hux32s* pSrcDst, int srcDstStep, HuxiSize roi) {
 }  // namespace hux
 
 #define EXPORT_BITS(name, t, l)                                                                                      \
-  HUX_EXPORT_ARITH_IMAGES(name, t, l, , hux::zipImages<hux::l, hux::name<Hux##t, hux::streamLanes<Hux##t>>, Hux##t>) \
+  HUX_EXPORT_ARITH_IMAGES(name, t, l, , hux::zipImages<hux::l, hux::name<Hux##t, hux::memoryLanes<Hux##t>>, Hux##t>) \
   HUX_EXPORT_ARITH_CONSTANT(name##C, t, l, ,                                                                         \
                             hux::zipConstant<hux::l, hux::name<Hux##t, hux::laneCount<Hux##t>>, Hux##t>)
 #define EXPORT(t, l) EXPORT_BITS(And, t, l) EXPORT_BITS(Or, t, l) EXPORT_BITS(Xor, t, l)

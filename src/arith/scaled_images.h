@@ -57,7 +57,7 @@ HuxStatus combineC(const T* pSrc, int srcStep, const T* pPixel, T* pDst, int dst
     using Rule = decltype(rule);
     const Repeat<L, T, Rule::lanes> constants(elements(pPixel));
     forEachRow(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep),
-               [&](auto* s, auto* d, Index n) { applyRule<L>(d, n, rule, constants, Stream<T, Rule::lanes>{s}); });
+               [&](auto* s, auto* d, Index n) { applyRule<L>(d, n, rule, constants, FromRow<T, Rule::lanes>{s}); });
   };
   if constexpr (!kInteger<T>) {
     if (HuxStatus s = check(pointers(pSrc, pPixel, pDst), size(roi))) return s;

@@ -105,7 +105,7 @@ HuxStatus shift(const T* pSrc, int srcStep, const Hux32u* pPixel, T* pDst, int d
     using Rule = ShiftEach<Op, T>;
     const Repeat<L, T, Rule::lanes> each(elements(counts));
     forEachRow(roi, rows<L>(pSrc, srcStep), rows<L>(pDst, dstStep),
-               [&](auto* s, auto* d, Index n) { applyRule<L>(d, n, Rule{}, each, Stream<T, Rule::lanes>{s}); });
+               [&](auto* s, auto* d, Index n) { applyRule<L>(d, n, Rule{}, each, FromRow<T, Rule::lanes>{s}); });
     return huxStsOk;
   }
   if (counts[0] == 0) return copyAll<L>(pSrc, srcStep, pDst, dstStep, roi);

@@ -37,21 +37,21 @@ struct Order<Hux32s> {
 // The tests are written as they treat a NaN: it is not above, and not at least.
 template <class T>
 struct ReplaceAbove {
-  static constexpr int lanes = streamLanes<T>;
+  static constexpr int lanes = memoryLanes<T>;
   using V = Lanes<T, lanes>;
   Order<T> order;
   V operator()(V e, V threshold, V value) const { return order.key(e) > order.key(threshold) ? value : e; }
 };
 template <class T>
 struct ReplaceBelow {
-  static constexpr int lanes = streamLanes<T>;
+  static constexpr int lanes = memoryLanes<T>;
   using V = Lanes<T, lanes>;
   Order<T> order;
   V operator()(V e, V threshold, V value) const { return order.key(e) >= order.key(threshold) ? e : value; }
 };
 template <class T>
 struct ReplaceOutside {
-  static constexpr int lanes = streamLanes<T>;
+  static constexpr int lanes = memoryLanes<T>;
   using V = Lanes<T, lanes>;
   Order<T> lower, upper;
   V operator()(V e, V thresholdLT, V valueLT, V thresholdGT, V valueGT) const {
@@ -68,7 +68,7 @@ HuxStatus replace(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize roi
   using Constants = Repeat<L, E, lanes>;
   forEachRow(roi, rowsAs<L, E>(pSrc, wholeElements<T>(srcStep)), rowsAs<L, E>(pDst, wholeElements<T>(dstStep)),
              [=, ... constants = Constants(pPixel)](auto* src, auto* dst, Index n) {
-               applyRule<L>(dst, n, rule, Stream<E, lanes>{src}, constants...);
+               applyRule<L>(dst, n, rule, FromRow<E, lanes>{src}, constants...);
              });
   return huxStsOk;
 }

@@ -9,7 +9,7 @@ namespace {
 
 template <class T>
 struct Difference {
-  static constexpr int lanes = streamLanes<T>;
+  static constexpr int lanes = memoryLanes<T>;
   using V = Lanes<T, lanes>;
   V operator()(V pixel, V diagonal) const {
     if constexpr (std::is_floating_point_v<T>)

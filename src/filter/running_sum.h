@@ -48,7 +48,7 @@ HuxStatus runningSums5x5(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstS
           storeLanes(totals + x + i, total + entering);
           storeLanes(before(r) + i, entering);
         }
-        using Operand = Stream<Hux32f, Rule::lanes>;
+        using Operand = FromRow<Hux32f, Rule::lanes>;
         if (r >= 4)
           applyRule<L>(dst.row(r - 4) + x, (elements + N - 1) / N, rule, Operand{elementsAs<Hux32f>(totals + x)},
                        Operand{src.row(r - 4) + x});

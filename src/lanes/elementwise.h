@@ -1,10 +1,10 @@
 // Element-wise rows: one rule on lanes, applied along a row.
 //
 // A rule is a callable from operand lanes to result lanes, with `static constexpr int lanes`, the number of elements
-// that it takes at a time. Operands are rows (Stream) or constants per channel (Repeat). A rule sees each element once;
-// at the end of a row, lanes behind the last element hold the operand's `rest` and their results are dropped. Results
-// in lanes of integers wider than the destination's are limited to its range, several vectors at a time where that
-// costs less.
+// that it takes at a time. Operands are rows (FromRow) or constants per channel (Repeat). A rule sees each element
+// once; at the end of a row, lanes behind the last element hold the operand's `rest` and their results are dropped.
+// Results in lanes of integers wider than the destination's are limited to its range, several vectors at a time where
+// that costs less.
 #pragma once
 
 #include <algorithm>
@@ -16,7 +16,7 @@
 namespace hux {
 
 template <class T, int N>
-struct Stream {
+struct FromRow {
   static constexpr int period = 1;
   const Element<T>* row;
   T rest = T(0);
@@ -90,11 +90,11 @@ struct Same {
 // The usual shapes: n pixels of one row, or of two.
 template <class L, class T, class D, class Rule>
 Rule mapRow(const Element<T>* src, Element<D>* dst, Index n, Rule rule) {
-  return applyRule<L>(dst, n, rule, Stream<T, Rule::lanes>{src});
+  return applyRule<L>(dst, n, rule, FromRow<T, Rule::lanes>{src});
 }
 template <class L, class T, class U, class D, class Rule>
 Rule zipRow(const Element<T>* src1, const Element<U>* src2, Element<D>* dst, Index n, Rule rule) {
-  return applyRule<L>(dst, n, rule, Stream<T, Rule::lanes>{src1}, Stream<U, Rule::lanes>{src2});
+  return applyRule<L>(dst, n, rule, FromRow<T, Rule::lanes>{src1}, FromRow<U, Rule::lanes>{src2});
 }
 
 }  // namespace hux

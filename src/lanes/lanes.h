@@ -7,17 +7,17 @@
 
 namespace hux {
 
-// a + b where many selections and conversions stand around it: there are machines whose adders do those as well, while
-// the multipliers wait.
+// a + b, on the units that multiply where the machine has several: to be used where many selections and conversions
+// stand around it, which the adders do as well.
 template <class V>
-V addBeside(V a, V b) {
+V addOnMultiplier(V a, V b) {
   return a + b;
 }
 #if defined(__AVX512BW__) && defined(__AVX512VL__)
-inline Lanes<Hux32f, 16> addBeside(Lanes<Hux32f, 16> a, Lanes<Hux32f, 16> b) {
+inline Lanes<Hux32f, 16> addOnMultiplier(Lanes<Hux32f, 16> a, Lanes<Hux32f, 16> b) {
   return Lanes<Hux32f, 16>(_mm512_maskz_fmadd_ps(~0, __m512(a), _mm512_set1_ps(1), __m512(b)));
 }
-inline Lanes<Hux64f, 8> addBeside(Lanes<Hux64f, 8> a, Lanes<Hux64f, 8> b) {
+inline Lanes<Hux64f, 8> addOnMultiplier(Lanes<Hux64f, 8> a, Lanes<Hux64f, 8> b) {
   return Lanes<Hux64f, 8>(_mm512_maskz_fmadd_pd(~0, __m512d(a), _mm512_set1_pd(1), __m512d(b)));
 }
 #endif

@@ -40,7 +40,7 @@ inline constexpr int laneCount = kLaneBytes / int(sizeof(T));
 // The same for rules of so little work that memory sets the pace: vectors of 32 bytes are as fast as wider ones in the
 // cache, and a little faster beyond it.
 template <class T>
-inline constexpr int streamLanes = std::min(kLaneBytes, 32) / int(sizeof(T));
+inline constexpr int memoryLanes = std::min(kLaneBytes, 32) / int(sizeof(T));
 
 template <class V>
 using LaneType = std::remove_cvref_t<decltype(std::declval<V&>()[0])>;

@@ -109,7 +109,7 @@ template <class V>
 auto nearestEvenBits(V v) {
   using F = LaneType<V>;
   using I = std::conditional_t<sizeof(F) == 4, Hux32s, Hux64s>;
-  return bitsAs<Lanes<I, lanesIn<V>>>(addBeside(v, splat<V>(F(sizeof(F) == 4 ? 0x1.8p23 : 0x1.8p52))));
+  return bitsAs<Lanes<I, lanesIn<V>>>(addOnMultiplier(v, splat<V>(F(sizeof(F) == 4 ? 0x1.8p23 : 0x1.8p52))));
 }
 
 // 2^-scaleFactor as repeated doubling or halving of 1 gives it: infinity and zero past the ends of the type.

@@ -332,7 +332,7 @@ V zip(V a, V b) {
 
 // A vector whose lanes come from p, p + step, ...; one of the two widths above.
 template <class V>
-V loadLanes(const std::byte* p, Index step) {
+V loadQuads(const std::byte* p, Index step) {
   const auto lane = [&](Index i) {
     Quad q;
     std::memcpy(&q, p + i * step, sizeof q);

@@ -48,7 +48,7 @@ class Shuffles {
     for (int k = 0; k < vectors; ++k) permute_[k] = simd::PermuteBy(index[k]);
   }
 
-  enum Mode { Whole, Stream, Part };
+  enum Mode { Whole, PastCache, Part };
 
   // Moves a group, or its first `left` pixels. It is read as a whole before it is written: source and destination may
   // be one image.
@@ -64,7 +64,7 @@ class Shuffles {
       auto* to = advance(dst, k * simd::kBytes);
       if constexpr (M == Part)
         simd::store(to, out[k], kWritten & simd::lowBytes(bytes - k * simd::kBytes));
-      else if constexpr (M == Stream)
+      else if constexpr (M == PastCache)
         simd::stream(to, out[k]);
       else if constexpr (whole)
         simd::store(to, out[k]);
@@ -103,7 +103,7 @@ void swapRow(const Element<W>* src, Element<W>* dst, Index n, const Shuffles<L, 
       if (head >= 0 && head <= n) {
         if (head > 0) move(part, head);
         for (i = head; i + S::pixels <= n; i += S::pixels)
-          move(std::integral_constant<typename S::Mode, S::Stream>{}, S::pixels);
+          move(std::integral_constant<typename S::Mode, S::PastCache>{}, S::pixels);
       }
     }
     for (; i + S::pixels <= n; i += S::pixels) move(std::integral_constant<typename S::Mode, S::Whole>{}, S::pixels);

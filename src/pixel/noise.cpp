@@ -175,7 +175,7 @@ class GaussNoise {
     while (n > 0) {
       while (used_ == count_) refill();
       const Index count = std::min<Index>(n, 2 * (count_ - used_));
-      applyRule<C1>(row, count, rule_, Stream<T, kLanes>{row}, Deviates{pairs_ + used_, factors_ + used_});
+      applyRule<C1>(row, count, rule_, FromRow<T, kLanes>{row}, Deviates{pairs_ + used_, factors_ + used_});
       row += count, n -= count, used_ += int(count + 1) / 2;
     }
   }

@@ -47,13 +47,13 @@ struct Square {
     }
   };
 
-  template <bool Before, bool Stream>
+  template <bool Before, bool PastCache>
   static void move(const std::byte* src, Index srcStep, std::byte* dst, Index dstStep) {
     V column[columns][Groups];
     for (int g = 0; g < Groups; ++g) {
       [[maybe_unused]] V v[columns], t[columns];
       for (int i = 0; i < columns; ++i) {
-        v[i] = simd::loadLanes<V>(src + (g * groupRows + i) * srcStep - (Before ? rest : 0), columns * srcStep);
+        v[i] = simd::loadQuads<V>(src + (g * groupRows + i) * srcStep - (Before ? rest : 0), columns * srcStep);
         if constexpr (cell != Bytes) v[i] = simd::permute<Open<Before>, 1>(&v[i]);
       }
       if constexpr (columns > 1) {
@@ -70,7 +70,7 @@ struct Square {
     for (int x = 0; x < columns; ++x) {
       std::byte* to = dst + x * dstStep;
       const auto put = [&](int k, V v) {
-        if constexpr (Stream)
+        if constexpr (PastCache)
           simd::stream(to + k * sizeof v, v);
         else
           std::memcpy(to + k * sizeof v, &v, std::min(sizeof v, std::size_t(rows * Bytes)));
@@ -88,14 +88,14 @@ struct Square {
   }
 
   // A source region `rows` high. The last columns may be moved twice, so that all are moved in registers.
-  template <bool Stream>
+  template <bool PastCache>
   static void strip(const std::byte* src, Index srcStep, std::byte* dst, Index dstStep, Index width) {
     for (Index next = 0; next < width; next += columns) {
       const Index x = std::min(next, width - columns);
       if (x * Bytes + 16 <= width * Bytes)
-        move<false, Stream>(src + x * Bytes, srcStep, dst + x * dstStep, dstStep);
+        move<false, PastCache>(src + x * Bytes, srcStep, dst + x * dstStep, dstStep);
       else
-        move<true, Stream>(src + x * Bytes, srcStep, dst + x * dstStep, dstStep);
+        move<true, PastCache>(src + x * Bytes, srcStep, dst + x * dstStep, dstStep);
     }
   }
 };
@@ -107,19 +107,19 @@ using WideSquare = Square<Bytes, simd::Vec, kThirds<Bytes> ? 4 : 1>;
 template <int Bytes>
 using NarrowSquare = Square<Bytes, std::conditional_t<kThirds<Bytes>, simd::Vec, simd::Quad>>;
 
-// The source region of `width` by `height` pixels at src, transposed to dst, which lies elsewhere. With Stream, columns
-// of the destination are vectors and so many.
-template <int Bytes, bool Stream = false>
+// The source region of `width` by `height` pixels at src, transposed to dst, which lies elsewhere. With PastCache,
+// columns of the destination are vectors and so many.
+template <int Bytes, bool PastCache = false>
 void transposeBlock(const std::byte* src, Index srcStep, std::byte* dst, Index dstStep, Index width, Index height) {
   const auto inStrips = [&]<class S>(S) {
     for (Index next = 0; next < height; next += S::rows) {
       const Index y = std::min(next, height - S::rows);
-      S::template strip<Stream>(src + y * srcStep, srcStep, dst + y * Bytes, dstStep, width);
+      S::template strip<PastCache>(src + y * srcStep, srcStep, dst + y * Bytes, dstStep, width);
     }
   };
   if ((simd::kPermutes || !kThirds<Bytes>)&&width * Bytes >= 16) {
     if (height >= WideSquare<Bytes>::rows) return inStrips(WideSquare<Bytes>{});
-    if constexpr (!Stream)
+    if constexpr (!PastCache)
       if (height >= NarrowSquare<Bytes>::rows) return inStrips(NarrowSquare<Bytes>{});
   }
   for (Index x = 0; x < width; ++x)
@@ -131,15 +131,15 @@ void transposeBlock(const std::byte* src, Index srcStep, std::byte* dst, Index d
 // far apart that their lines compete for few places. Where a vector is less than a line, a tile is as narrow as a line
 // of the source, since the rest of each line of the destination is written when as many lines have been begun as the
 // tile has columns.
-template <int Bytes, bool Stream>
+template <int Bytes, bool PastCache>
 void transposeTiles(Plane<Bytes> src, Plane<Bytes> dst, Index width, Index top, Index bottom) {
-  constexpr Index tileHeight = 512, tileWidth = simd::kBytes < 64      ? std::max(64 / Bytes, 4)
-                                                : Stream || Bytes <= 4 ? 512
-                                                                       : 256 / Bytes;
+  constexpr Index tileHeight = 512, tileWidth = simd::kBytes < 64         ? std::max(64 / Bytes, 4)
+                                                : PastCache || Bytes <= 4 ? 512
+                                                                          : 256 / Bytes;
   for (Index y = top; y < bottom; y += tileHeight)
     for (Index x = 0; x < width; x += tileWidth)
-      transposeBlock<Bytes, Stream>(src.at(x, y), src.step, dst.at(y, x), dst.step, std::min(tileWidth, width - x),
-                                    std::min(tileHeight, bottom - y));
+      transposeBlock<Bytes, PastCache>(src.at(x, y), src.step, dst.at(y, x), dst.step, std::min(tileWidth, width - x),
+                                       std::min(tileHeight, bottom - y));
 }
 
 template <int Bytes>

@@ -28,7 +28,7 @@ HuxStatus combineC(const Hux32f* pSrc, Hux32f value, Hux32f* pDst, int len) {
   using Rule = Float<Op, Hux32f>;
   const Element<Hux32f> pixel = {value};
   applyRule<C1>(elements(pDst), len, Rule{}, Repeat<C1, Hux32f, Rule::lanes>(&pixel),
-                Stream<Hux32f, Rule::lanes>{elements(pSrc)});
+                FromRow<Hux32f, Rule::lanes>{elements(pSrc)});
   return huxStsOk;
 }
 

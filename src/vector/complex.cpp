@@ -26,7 +26,7 @@ HuxStatus combineC(const C* pSrc, C value, C* pDst, int len, int scaleFactor = 0
   withComplexRule<Op, C>(scaleFactor, [&](auto rule) {
     using Rule = decltype(rule);
     applyRule<C1>(words(pDst), len * kWords<C>, rule, Constants<C1, C, Rule::lanes>(words(&value)),
-                  Stream<WordOfComplex<C>, Rule::lanes>{words(pSrc)});
+                  FromRow<WordOfComplex<C>, Rule::lanes>{words(pSrc)});
   });
   return huxStsOk;
 }

@@ -7,7 +7,7 @@ namespace {
 
 template <class T>
 struct Magnitude {
-  static constexpr int lanes = streamLanes<T>;
+  static constexpr int lanes = memoryLanes<T>;
   using V = Lanes<T, lanes>;
   V operator()(V v) const {
     if constexpr (std::is_integral_v<T>) {

@@ -338,7 +338,7 @@ template <class L, class C, class W>
 HuxStatus divideRow(const Element<W>* divisors, const Element<W>* src, Element<W>* dst, Index n, int scaleFactor) {
   const auto rule = quotientRule<C>(scaleFactor);
   constexpr int lanes = decltype(rule)::lanes;
-  return applyRule<L>(dst, n, rule, Divisors<L, C, lanes>{divisors}, Stream<W, lanes>{src}).status();
+  return applyRule<L>(dst, n, rule, Divisors<L, C, lanes>{divisors}, FromRow<W, lanes>{src}).status();
 }
 
 // Constants as divisors. The squared norm is that of integers in double precision, of floats in single.
@@ -374,7 +374,7 @@ void divideRowC(const Element<W>* src, Hux32fc value, Element<W>* dst, Index n, 
   const Hux32fc factor = reciprocal(value);
   const auto rule = onWords<Hux32fc>(FloatProduct<Hux32f>{});
   constexpr int lanes = decltype(rule)::lanes;
-  applyRule<C1>(dst, n, rule, Constants<C1, Hux32fc, lanes>(words(&factor)), Stream<W, lanes>{src});
+  applyRule<C1>(dst, n, rule, Constants<C1, Hux32fc, lanes>(words(&factor)), FromRow<W, lanes>{src});
 }
 
 }  // namespace hux

@@ -203,7 +203,7 @@ auto withQuotient(int scaleFactor, Run&& run) {
 // One row of n pixels; the denominators behind its end are 1. Zeros are noted in the channels that Noted processes.
 template <class L, class T, class Noted = L, class Rule>
 HuxStatus ownDiv(const Element<T>* denominators, const Element<T>* numerators, Element<T>* dst, Index n, Rule rule) {
-  return applyRule<L>(dst, n, rule, Stream<T, Rule::lanes>{denominators, T(1)}, Stream<T, Rule::lanes>{numerators})
+  return applyRule<L>(dst, n, rule, FromRow<T, Rule::lanes>{denominators, T(1)}, FromRow<T, Rule::lanes>{numerators})
       .template status<Noted>();
 }
 

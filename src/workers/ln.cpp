@@ -99,9 +99,9 @@ HuxStatus Ln<T>::operator()(const Element<T>* src, Element<T>* dst, Index n) con
     ByteTables<C1>(kTables[std::size_t(table)].data()).map(src, dst, n);
     return zero ? huxStsLogZeroWarn : huxStsOk;
   } else if constexpr (std::is_same_v<T, Hux16s>) {
-    return applyRule<C1>(dst, n, LnShort(scaleFactor), Stream<T, LnShort::lanes>{src, 1}).status;
+    return applyRule<C1>(dst, n, LnShort(scaleFactor), FromRow<T, LnShort::lanes>{src, 1}).status;
   } else {
-    return applyRule<C1>(dst, n, LnFloat{}, Stream<T, LnFloat::lanes>{src, 1}).status;
+    return applyRule<C1>(dst, n, LnFloat{}, FromRow<T, LnFloat::lanes>{src, 1}).status;
   }
 }
 template struct Ln<Hux8u>;

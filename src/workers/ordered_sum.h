@@ -146,7 +146,7 @@ class OrderedSums {
           // anyway.
           const Bits low = lesser(magnitude, limits[phase]);
           const Floats limit = bitsAs<Floats>(limits[phase]);
-          inexact[phase] |= bitsAs<Bits>(Floats(addBeside(bitsAs<Floats>(low), limit) - limit)) ^ low;
+          inexact[phase] |= bitsAs<Bits>(Floats(addOnMultiplier(bitsAs<Floats>(low), limit) - limit)) ^ low;
         } else {
           least[phase] = lesser(least[phase], magnitude - 1);  // makes 0 the largest
         }

@@ -113,7 +113,7 @@ struct MulOp {
 // scaleFactor 0.
 template <class Op, class T>
 struct Plain {
-  static constexpr int lanes = std::is_same_v<Op, MulOp> && sizeof(T) != 2 ? laneCount<Wide<T>> : streamLanes<T>;
+  static constexpr int lanes = std::is_same_v<Op, MulOp> && sizeof(T) != 2 ? laneCount<Wide<T>> : memoryLanes<T>;
   using V = Lanes<T, lanes>;
   auto operator()(V a, V b) const { return Op::template saturated<T>(a, b); }
 };
@@ -211,7 +211,7 @@ void withRule(int scaleFactor, Run&& run) {
 // The same operations on floats: one operation in the precision of the element.
 template <class Op, class T>
 struct Float {
-  static constexpr int lanes = streamLanes<T>;
+  static constexpr int lanes = memoryLanes<T>;
   using V = Lanes<T, lanes>;
   V operator()(V a, V b) const { return Op::exact(a, b); }
 };

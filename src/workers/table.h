@@ -18,7 +18,7 @@ class ByteTables {
   explicit ByteTables(const Hux8u* tables)
       : rule_(tables, std::make_index_sequence<L::processed>{}), channels_(kChannels) {}
   void map(const Element<Hux8u>* src, Element<Hux8u>* dst, Index n) const {
-    applyRule<L>(dst, n, rule_, channels_, Stream<Hux8u, Rule::lanes>{src});
+    applyRule<L>(dst, n, rule_, channels_, FromRow<Hux8u, Rule::lanes>{src});
   }
 
  private:
@@ -69,7 +69,7 @@ template <class Rule, class... Constants>
 void tabulate(Hux8u* table, Rule rule, Constants... constants) {
   Element<Hux8u> bytes[256];
   for (int i = 0; i < 256; ++i) bytes[i] = Hux8u(i);
-  applyRule<C1>(elements(table), 256, rule, constants..., Stream<Hux8u, Rule::lanes>{bytes});
+  applyRule<C1>(elements(table), 256, rule, constants..., FromRow<Hux8u, Rule::lanes>{bytes});
 }
 
 }  // namespace hux
