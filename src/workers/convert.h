@@ -27,6 +27,8 @@ struct Converted {
 // of F, truncating, and going back by one from an odd result where the sum was exact. Otherwise towards zero.
 template <class F, class D, bool Near>
 struct FromFloat {
+  static_assert(std::numeric_limits<D>::digits <= std::numeric_limits<F>::digits && sizeof(D) <= sizeof(Hux32s),
+                "the ends of D are limits that F must hold exactly");
   static constexpr int lanes = laneCount<F>;
   auto operator()(Lanes<F, lanes> v) const {
     using V = Lanes<F, lanes>;
