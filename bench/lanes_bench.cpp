@@ -50,7 +50,8 @@ NAME(8s)
 NAME(16u)
 NAME(16s)
 NAME(32u)
-NAME(32s) NAME(64s) NAME(32f) NAME(64f)
+NAME(32s)
+NAME(64s) NAME(32f) NAME(64f)
 
     template <class To, class From>
     void addConversion() {

@@ -8,6 +8,7 @@
 #include "lanes/lanes_math.h"
 #include "workers/logarithm.h"
 #include "workers/move.h"
+#include "workers/nearest.h"
 
 namespace hux {
 namespace {
@@ -202,11 +203,9 @@ class GaussNoise {
     Hux64f mean, stdDev;
     Lanes<T, lanes> operator()(Lanes<T, lanes> e, Deviates::Numbers d) const {
       const auto sum = [&](Doubles factors) { return settled<T>(e, d.units * factors + mean); };
-      auto low = sum(d.factors * (1 - kFactorError));
-      const auto high = sum(d.factors * (1 + kFactorError));
-      if (any(low != high)) [[unlikely]]
-        low = settled<T>(e, byLibrary(d.pairs, d.count));
-      return added<T>(e, low);
+      const auto noise = decided(sum(d.factors * (1 - kFactorError)), sum(d.factors * (1 + kFactorError)),
+                                 [&] { return settled<T>(e, byLibrary(d.pairs, d.count)); });
+      return added<T>(e, noise);
     }
     [[gnu::noinline]] Doubles byLibrary(const std::uint64_t* pairs, int count) const {
       Doubles noise = {};

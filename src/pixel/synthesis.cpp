@@ -11,6 +11,7 @@
 #include "lanes/elementwise.h"
 #include "lanes/lanes_math.h"
 #include "workers/move.h"
+#include "workers/nearest.h"
 #include "workers/pattern.h"
 
 namespace hux {
@@ -177,9 +178,8 @@ struct Chirp {
     const Doubles z = angle(convert<Hux64f>(x) - centre), s = sine(z);
     const auto low = levelOf<T>(greater(s - kSineError, splat<Doubles>(-1)));
     const auto high = levelOf<T>(lesser(s + kSineError, splat<Doubles>(1)));
-    if (far || any(low != high)) [[unlikely]]
-      return convert<T>(levelOf<T>(byLibrary(z)));
-    return convert<T>(low);
+    const auto library = [=] { return levelOf<T>(byLibrary(z)); };
+    return convert<T>(far ? library() : decided(low, high, library));
   }
   [[gnu::noinline]] static Doubles byLibrary(Doubles z) {
     for (int i = 0; i < lanes; ++i) z[i] = std::sin(z[i]);

@@ -9,6 +9,7 @@
 #include "lanes/lanes_math.h"
 #include "lanes/round.h"
 #include "workers/complex.h"
+#include "workers/nearest.h"
 
 namespace hux {
 namespace {
@@ -100,12 +101,11 @@ struct Phase {
   Floats operator()(ComplexLanes<C> v) const {
     const DoubleParts<C> z(v);
     const Doubles a = angle(z.im, z.re);
-    Floats low = convert<Hux32f>(a * (1 - 0x1p-42));
-    const Floats high = convert<Hux32f>(a * (1 + 0x1p-42));
-    if (any(low != high)) [[unlikely]]
-      for (int i = 0; i < kLanes; ++i)
-        if (low[i] != high[i]) low[i] = Hux32f(std::atan2(z.im[i], z.re[i]));
-    return low;
+    return decided(convert<Hux32f>(a * (1 - 0x1p-42)), convert<Hux32f>(a * (1 + 0x1p-42)), [&] {
+      Floats phases{};
+      for (int i = 0; i < kLanes; ++i) phases[i] = Hux32f(std::atan2(z.im[i], z.re[i]));
+      return phases;
+    });
   }
 };
 
@@ -226,20 +226,15 @@ struct LibraryCartesian {
     };
     const auto odd = (quadrant & 1) != 0;
     const Doubles error = phase == 0 ? Doubles{} : absolute(m) * 0x1p-47;
-    Ints open{};
-    const auto product = [&](Doubles v) {
-      const Ints low = fromDouble<Hux32s>(m * v - error);
-      open |= low != fromDouble<Hux32s>(m * v + error);
-      return low;
+    const auto product = [&](Doubles v, Hux32s Hux32sc::*part) {
+      return decided(fromDouble<Hux32s>(m * v - error), fromDouble<Hux32s>(m * v + error), [&] {
+        Ints parts{};
+        for (int i = 0; i < kLanes; ++i) parts[i] = cartesian<Hux32sc>(magnitudes[i], phases[i], factor).*part;
+        return parts;
+      });
     };
-    Ints re = product(turned(odd ? s : c, quadrant + 1)), im = product(turned(odd ? c : s, quadrant));
-    if (any(open)) [[unlikely]]
-      for (int i = 0; i < kLanes; ++i)
-        if (open[i]) {
-          const auto z = cartesian<Hux32sc>(magnitudes[i], phases[i], factor);
-          re[i] = z.re, im[i] = z.im;
-        }
-    return joinLanes<Hux32sc>(re, im);
+    return joinLanes<Hux32sc>(product(turned(odd ? s : c, quadrant + 1), &Hux32sc::re),
+                              product(turned(odd ? c : s, quadrant), &Hux32sc::im));
   }
 };
 
