@@ -105,8 +105,9 @@ Colour denoised(const Photos& in) {
 
 // Black and white, and what goes when small grains, or small gaps, are taken away.
 Colour openedAndClosed(const Photos& in) {
-  Gray marks = grayFace(in);
-  HUX_DO(huxiThreshold_LTValGTVal_8u_C1IR(marks.at(0, 0), marks.step(), kFace, 110, 0, 109, 255));
+  const Gray gray = grayFace(in);
+  Gray marks(kFace);
+  HUX_DO(huxiCompareC_8u_C1R(gray.at(0, 0), gray.step(), 110, marks.at(0, 0), marks.step(), kFace, huxCmpGreater));
   const HuxiSize size = {7, 7};
   const HuxiPoint centre = {3, 3};
   std::vector<Hux8u> disc;
