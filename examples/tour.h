@@ -41,5 +41,7 @@ struct Step {
 // The steps, by rooms of the library.
 std::span<const Step> pixelSteps();
 std::span<const Step> filterSteps();
+std::span<const Step> transformSteps();
+std::span<const Step> geometrySteps();
 
 }  // namespace tour
