@@ -260,8 +260,9 @@ void lay(Filter& f, Arena& arena, int length, int anchor) {
     f.all = {arena.take<Hux32f>(length), length};
   } else {
     f.ahead = (length - anchor - 1) / 2, f.behind = (anchor + 1) / 2;
-    f.parity[0] = {arena.take<Hux32f>((length + 1) / 2), (length + 1) / 2};
-    f.parity[1] = {arena.take<Hux32f>(length / 2), length / 2};
+    const int odd = length / 2, even = length - odd;
+    f.parity[0] = {arena.take<Hux32f>(even), even};
+    f.parity[1] = {arena.take<Hux32f>(odd), odd};
   }
 }
 

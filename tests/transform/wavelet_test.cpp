@@ -225,6 +225,13 @@ TEST(Wavelet, ChecksInOrder) {
                                EXPECT_EQ(record, nullptr);
                              });
       m.free[inverse](record);
+      // Work memory of more than a signed 32-bit number of bytes; the taps are not looked at.
+      constexpr int most = std::numeric_limits<int>::max();
+      for (const int anchor : {0, most / 2, most - 1}) {
+        record = nullptr;
+        EXPECT_EQ(m.initAlloc[inverse](&record, pLow, most, anchor, pHigh, 2, 1), huxStsNoMem);
+        EXPECT_EQ(record, nullptr);
+      }
 
       const Record* state = good;
       int bytes = 0, *pSize = &bytes;
