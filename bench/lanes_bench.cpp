@@ -44,17 +44,20 @@ template <class T>
 constexpr const char* kName = "";
 #define NAME(t) \
   template <>   \
-  constexpr const char* kName<Hux##t> = #t;
-NAME(8u)
-NAME(8s)
-NAME(16u)
-NAME(16s)
-NAME(32u)
-NAME(32s)
-NAME(64s) NAME(32f) NAME(64f)
+  constexpr const char* kName<Hux##t> = #t
+NAME(8u);
+NAME(8s);
+NAME(16u);
+NAME(16s);
+NAME(32u);
+NAME(32s);
+NAME(64s);
+NAME(32f);
+NAME(64f);
+#undef NAME
 
-    template <class To, class From>
-    void addConversion() {
+template <class To, class From>
+void addConversion() {
   using V = Lanes<From, std::min(laneCount<To>, laneCount<From>)>;
   const std::string pair = std::string(kName<From>) + kName<To>;
   time<V>("convert/" + pair, [](V v) { return convert<To>(v); });
