@@ -11,14 +11,16 @@ HUX_BEGIN_C
 /* Where a rectangle of pixels goes. Pixels are points at integer coordinates, counted from the image's origin, x to the
  * right and y downwards. srcRoi stands for its inclusive corners x, y and x + width - 1, y + height - 1. A quadrangle
  * has its vertices in the order top left, top right, bottom right, bottom left of the rectangle, each as {x, y}; a
- * bound is {smallest x, smallest y}, {largest x, largest y} of the four. All numbers are 64-bit floats. affine       x'
- * = c00 x + c01 y + c02, y' = c10 x + c11 y + c12 bilinear     x' = c00 x y + c01 x + c02 y + c03, y' = c10 x y + c11 x
- * + c12 y + c13 perspective  x' = (c00 x + c01 y + c02) / (c20 x + c21 y + c22), y' = (c10 x + c11 y + c12) / (the
- * same) shear        x' = x + xShear y + xShift, y' = yShear x + y + yShift rotation     x' = x cos a + y sin a +
- * xShift, y' = -x sin a + y cos a + yShift: a positive angle, in degrees, turns counter-clockwise on the screen; at 90,
- * 180 and 270 the coefficients are exact Checks: an x or y of srcRoi below 0, a width or height below 1 (huxStsBadSize;
- * nothing is written). A quadrangle that is not convex, or has three vertices in line, gives huxStsBadQuad with quad or
- * bound written all the same; a rotation is not tested for that. Pointers are not checked. */
+ * bound is {smallest x, smallest y}, {largest x, largest y} of the four. All numbers are 64-bit floats.
+ *   affine       x' = c00 x + c01 y + c02, y' = c10 x + c11 y + c12
+ *   bilinear     x' = c00 x y + c01 x + c02 y + c03, y' = c10 x y + c11 x + c12 y + c13
+ *   perspective  x' = (c00 x + c01 y + c02) / (c20 x + c21 y + c22), y' = (c10 x + c11 y + c12) / (the same)
+ *   shear        x' = x + xShear y + xShift, y' = yShear x + y + yShift
+ *   rotation     x' = x cos a + y sin a + xShift, y' = -x sin a + y cos a + yShift: a positive angle, in degrees,
+ *                turns counter-clockwise on the screen; at 90, 180 and 270 the coefficients are exact
+ * Checks: an x or y of srcRoi below 0, a width or height below 1 (huxStsBadSize; nothing is written). A quadrangle that
+ * is not convex, or has three vertices in line, gives huxStsBadQuad with quad or bound written all the same; a rotation
+ * is not tested for that. Pointers are not checked. */
 HUX_API HuxStatus huxiGetAffineQuad(HuxiRect srcRoi, Hux64f quad[4][2], const Hux64f coeffs[2][3]);
 HUX_API HuxStatus huxiGetAffineBound(HuxiRect srcRoi, Hux64f bound[2][2], const Hux64f coeffs[2][3]);
 HUX_API HuxStatus huxiGetBilinearQuad(HuxiRect srcRoi, Hux64f quad[4][2], const Hux64f coeffs[2][4]);
@@ -57,13 +59,16 @@ HUX_API HuxStatus huxiAddRotateShift(Hux64f xCenter, Hux64f yCenter, Hux64f angl
  * least half a pixel, is one.
  * Interpolation, and where the source pixel of destination column j lies, from srcRoi.x; rows likewise:
  *   huxiInterNearest    (j + 1/2) / xFactor, truncated: whole pixels are copied
- *   huxiInterLinear, huxiInterCubic, huxiInterLanczos (six pixels)   j (W - 1) / (W xFactor - 1): the first and the
- * last pixels coincide; all on the first where W xFactor is at most 1 huxiInterSuper      factors of at most 1 only:
- * the mean of all that the pixel covers, by area Positions are sums of steps in double precision; 1e-7 is added before
- * they are truncated. Beyond the last pixel they stand for it. A small image (the whole of it counts) makes Lanczos
- * cubic (a side below 8), cubic linear (below 4) and anything nearest (below 2). Arithmetic: linear 8u and 16u in
- * integers with weights of 2^-14, along columns first, rounded in each of the two directions; all else in single
- * precision, cubic by Newton's form, and 8u and 16u rounded and limited at the end; means in double precision.
+ *   huxiInterLinear, huxiInterCubic, huxiInterLanczos (six pixels)
+ *                       j (W - 1) / (W xFactor - 1): the first and the last pixels coincide; all on the first where
+ *                       W xFactor is at most 1
+ *   huxiInterSuper      factors of at most 1 only: the mean of all that the pixel covers, by area
+ * Positions are sums of steps in double precision; 1e-7 is added before they are truncated. Beyond the last pixel they
+ * stand for it. A small image (the whole of it counts) makes Lanczos cubic (a side below 8), cubic linear (below 4) and
+ * anything nearest (below 2).
+ * Arithmetic: linear 8u and 16u in integers with weights of 2^-14, along columns first, rounded in each of the two
+ * directions; all else in single precision, cubic by Newton's form, and 8u and 16u rounded and limited at the end;
+ * means in double precision.
  *
  * ResizeCenter: the point (xCenter, yCenter) of the source comes to the middle of the destination dstRoiSize, of which
  * the part that the region covers is written. Mode huxiInterSuper starts at a whole source pixel.

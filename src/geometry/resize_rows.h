@@ -125,9 +125,8 @@ std::array<Index, Mode::taps> rowsOf(const Axis& axis, Tap tap) {
 
 // Integers in linear mode: lines of 16 bits, products of two pixels at a time.
 //   8u   (w1 p1 + w0 p0 + 128) >> 8 along, (b f + a (16384 - f) + 0x80000) >> 20 across
-//   16u  (w1 p1 + w0 p0 + 8192) >> 14 in both; pixels and lines count from the middle of their range, which the
-//   weights,
-//        16384 together, leave where it is
+//   16u  (w1 p1 + w0 p0 + 8192) >> 14 in both
+// 16-bit pixels and lines count from the middle of their range, which the weights, 16384 together, leave where it is.
 template <class T>
 struct PairRule {
   static constexpr bool wide = sizeof(T) == 2;

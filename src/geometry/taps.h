@@ -34,9 +34,8 @@ struct Position {
 };
 
 // The positions of destination pixels, first to last. Accumulated ones grow by additions, and their whole part is that
-// of a number a little above. Those computed afresh are the centres of squares: pixel i lies at (i + 0.5) / factor -
-// 0.5
-// - shift / factor, from half a pixel before the image to half a pixel behind it.
+// of a number a little above. Those computed afresh are the centres of squares, from half a pixel before the image to
+// half a pixel behind it: pixel i lies at (i + 0.5) / factor - 0.5 - shift / factor.
 class Walk {
  public:
   explicit Walk(const Axis& axis) : axis_(axis), at_(axis.afresh ? axis.origin : axis.start) {}
