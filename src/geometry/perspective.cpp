@@ -44,7 +44,7 @@ struct PerspectiveMap {
 };
 
 HuxStatus regular(const PerspectiveCoeffs& c) {
-  return failUnless(differ(c.c00 * c.c11, c.c01 * c.c10) && std::fabs(c.c22) > 1e-200, huxStsBadQuad);
+  return failUnless(differ(c.c00 * c.c11, c.c01 * c.c10) && !(std::fabs(c.c22) <= 1e-200), huxStsBadQuad);
 }
 
 PerspectiveCoeffs product(const PerspectiveCoeffs& a, const PerspectiveCoeffs& b) {

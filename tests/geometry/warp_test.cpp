@@ -578,6 +578,9 @@ TEST(Warp, ChecksArgumentsThenTheMapThenTheRegions) {
         if (k != perspective && !back) o.breaks(huxStsQuadOutsideWarn, to.x, 9);
         o.run(picture.memory);
       }
+    // No number is no small one: the map passes, and no position that it gives is looked up.
+    p.c22 = std::numeric_limits<Hux64f>::quiet_NaN();
+    EXPECT_EQ(f.back[perspective](src, size, srcStep, part, dst, dstStep, to, coeffs[perspective], mode), huxStsOk);
     for (Kind k : kKinds) {
       CheckOrder o = order(
           [&] { return f.quads[k](src, size, srcStep, part, numbers(quad), dst, dstStep, to, numbers(other), mode); },
