@@ -106,7 +106,11 @@ struct Hamming {
   explicit Hamming(int length)
       : step_(Angle::of(Twofold{2 * std::numbers::pi, 0x1.1a62633145c07p-52} / (length - 1.0))) {}
   Hux64f next() {
-    const Twofold value = Twofold{0.54, 0} + Twofold{-0.46, 0} * angle_.cosine;
+    // At a cosine of 1/2 the value lies in the middle between two doubles: what is left of it is error, and would
+    // choose.
+    Twofold cosine = angle_.cosine;
+    if (std::fabs(cosine.low) < 0x1p-75) cosine.low = 0;
+    const Twofold value = Twofold{0.54, 0} + Twofold{-0.46, 0} * cosine;
     angle_ = angle_ + step_;
     return value.high;
   }

@@ -119,6 +119,18 @@ TEST(Windows, Vectors) {
     }
 }
 
+// Where the cosine is 1/2 the weight lies in the middle between two doubles. The even one is the nearest, for any
+// length; this value tells it from the other.
+TEST(Windows, TiesOfWeights) {
+  for (int k = 1; k < 3000; ++k) {
+    const Hux32f value = 0x1.bbb66ep+3f;
+    std::vector<Hux32f> values(std::size_t(6 * k + 1), value);
+    ASSERT_EQ(huxsWinHamming_32f_I(values.data(), 6 * k + 1), huxStsOk);
+    ASSERT_EQ(values[std::size_t(k)], Hux32f(value * 0x1.3d70a3d70a3d8p-2)) << k;
+    ASSERT_EQ(values[std::size_t(5 * k)], values[std::size_t(k)]) << k;
+  }
+}
+
 TEST(Windows, ChecksInOrderAndMemory) {
   Rng rng(2);
   const Image image(rng, 16, 8, 4);
