@@ -23,8 +23,9 @@ HUX_BEGIN_C
  *                          area of 3 has (2731, 13), of 9 (3641, 15), of 256 (2049, 20). An image of one value keeps it
  *   8u, larger             s * recip + 9e-6f, truncated
  *   16s                    the same of the pixels plus 32768, and 32768 less: the floor of the mean. C1, C3 and AC4
- * keep s in 32 bits that wrap, read as signed: beyond 32768 cells bright images may turn negative. C4 adds s up in
- * single precision, and 9e-6 in double precision 32f                    s * recip
+ *                          keep s in 32 bits that wrap, read as signed: beyond 32768 cells bright images may turn
+ *                          negative. C4 adds s up in single precision, and 9e-6 in double precision
+ *   32f                    s * recip
  *
  * Float sums (32f, 16s C4, 8u of areas above 65793 or so) are running sums whose order of additions is part of the
  * result: s = (s + entering column) - leaving column along a row, where a column's sum moves on by
@@ -137,21 +138,24 @@ HUX_API HuxStatus huxiSumWindowColumn_16s32f_C4R(const Hux16s* pSrc, int srcStep
  * 16s and 32f move from row to row in whole elements. The work is shared among threads; the result is the same for any
  * number of them. Of all these functions only those of 16s with integer taps take memory.
  *
- * 8u, taps and divisor of integers: the sum is taken in 32 bits that wrap. It is divided, rounded half up, and limited
- * to 0..255. A divisor of 1 or of another power of two is exact; any other multiplies the sum, as a float, by 1 /
- * divisor in single precision. A negative divisor makes negative sums positive. 16s, taps and divisor of integers: as
- * with float taps, after each tap was multiplied by 1 / divisor in single precision. 32f, and float taps on 8u and 16s
- * (Filter32f and its kin): the sum is taken in single precision from 0 on, each product and each addition rounded, in
- * the order of the source pixels, row by row and left to right. 32f stores it as it is. 8u adds 0.5 to a positive sum
- * and truncates, within 0..255, a NaN as 0; 16s rounds likewise, but half away from zero, within -32768..32767, a NaN
- * as -32768.
+ * Integer taps and divisor on 8u: the sum is taken in 32 bits that wrap. It is divided, rounded half up, and limited to
+ * 0..255. A divisor of 1 or of another power of two is exact; any other multiplies the sum, as a float, by 1 / divisor
+ * in single precision. A negative divisor makes negative sums positive.
+ *
+ * Integer taps and divisor on 16s: as with float taps, after each tap was multiplied by 1 / divisor in single
+ * precision.
+ *
+ * 32f, and float taps on 8u and 16s (Filter32f and its kin): the sum is taken in single precision from 0 on, each
+ * product and each addition rounded, in the order of the source pixels, row by row and left to right. 32f stores it as
+ * it is. 8u adds 0.5 to a positive sum and truncates, within 0..255, a NaN as 0; 16s rounds likewise, but half away
+ * from zero, within -32768..32767, a NaN as -32768.
  *
  * Checks of all but 16s with integer taps: null pointers (huxStsNullPtr), the sizes of region and kernel
- * (huxStsBadSize), divisor of 0 (huxStsBadDivisor), srcStep below the bytes of the row that is read, of
- * dstRoiSize.width + kernelSize.width
- * - 1 pixels, or in FilterColumn of dstRoiSize.width, then dstStep below those of a row of dstRoiSize.width
- * (huxStsBadStep). 16s with integer taps: pKernel, the size of the kernel, divisor, memory (huxStsNoMem), and then all
- * of the others. The width of the region is looked at before all else in FilterColumn of C3 and C4. */
+ * (huxStsBadSize), divisor of 0 (huxStsBadDivisor), srcStep below the bytes of the row that is read, of as many pixels
+ * as the region and the kernel are wide together less 1, or in FilterColumn as the region is wide, then dstStep below
+ * those of a row of the region (huxStsBadStep). 16s with integer taps: pKernel, the size of the kernel, divisor, memory
+ * (huxStsNoMem), and then all of the others. The width of the region is looked at before all else in FilterColumn of C3
+ * and C4. */
 HUX_API HuxStatus huxiFilter_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize dstRoiSize,
                                     const Hux32s* pKernel, HuxiSize kernelSize, HuxiPoint anchor, Hux32s divisor);
 HUX_API HuxStatus huxiFilter_8u_C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize dstRoiSize,
