@@ -340,6 +340,8 @@ Sampler::Sampler(const Format& format, const Image<const std::byte>& image, Huxi
 void Sampler::operator()(const Hux64f* x, const Hux64f* y, Index n, const std::array<std::byte*, 4>& dst) const {
   Places places;
   locate_(extent_, x, y, n, places);
+  // Pixels are fetched four at a time, however many places there are to a vector: those behind the last are its own.
+  std::fill(places.offset + n, places.offset + (n + 3) / 4 * 4, places.offset[n - 1]);
   for (int c = 0; c < planes_; ++c) fetch_(image_.plane[c], image_.step, places, dst[c], n);
 }
 
