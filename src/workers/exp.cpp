@@ -98,7 +98,7 @@ struct ExpFloat {
     const U below = bitsAs<U>(x) - std::bit_cast<Hux32u>(-87.0f);
     const bool subnormal = anyBelow(below, splat<U>(std::bit_cast<Hux32u>(-104.0f) - std::bit_cast<Hux32u>(-87.0f)));
     V result = joined(convert<Hux32f>(low), convert<Hux32f>(high));
-    if (subnormal | anyOpen<kErrorBits>(low) | anyOpen<kErrorBits>(high)) [[unlikely]]
+    if (subnormal || anyOpen<kErrorBits>(low) || anyOpen<kErrorBits>(high)) [[unlikely]]
       result = joined(careful(half<0>(x)), careful(half<1>(x)));
     return v == v ? result : splat<V>(huxConstantOfNAN_32f);
   }
