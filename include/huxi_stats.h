@@ -6,11 +6,12 @@
 
 HUX_BEGIN_C
 
-/* Sum: the sum of each channel, 1 (C1), 3 (C3, AC4) or 4 (C4) values; alpha of AC4 is not read. Integer pixels are
- * added up in 32 bits that wrap silently: 8u row by row, 16s and 16u in blocks of 65536 pixels of a row, each total
- * taken as a signed number (on 16u too, where a block of more than 32768 bright pixels turns negative), and the
- * totals in double precision. 32f is summed in double precision. hint is not read.
- * Checks: null pointers (huxStsNullPtr), step (huxStsBadStep), size (huxStsBadSize). */
+/* Sum: the sum of each channel, 1 (C1), 3 (C3, AC4) or 4 (C4) values; alpha of AC4 is not read.
+ * Integer pixels are added up in 32 bits that wrap silently: 8u row by row, 16s and 16u in blocks of 65536 pixels of a
+ * row, each total taken as a signed number (on 16u too, where a block of more than 32768 bright pixels turns
+ * negative), and the totals in double precision. 32f is summed in double precision. hint is not read.
+ * Checks, in order: null pointers (huxStsNullPtr), srcStep below 1 (huxStsBadStep), width or height below 1
+ * (huxStsBadSize). */
 HUX_API HuxStatus huxiSum_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pSum);
 HUX_API HuxStatus huxiSum_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[3]);
 HUX_API HuxStatus huxiSum_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[3]);
@@ -32,9 +33,11 @@ HUX_API HuxStatus huxiSum_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roi
 HUX_API HuxStatus huxiSum_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pSum[4],
                                   HuxAccuracyHint hint);
 
-/* Mean: the sum of each channel, as by Sum, over width * height, a product of 32 bits that wraps. C1 divides; the
- * other layouts multiply by the reciprocal.
- * Checks: pMean null (huxStsNullPtr), then those of Sum. A failed call leaves pMean unwritten. */
+/* Mean: the mean of each channel, 1 (C1), 3 (C3, AC4) or 4 (C4) values; alpha of AC4 is not read.
+ * The sum, as by Sum, over width * height, a product of 32 bits that wraps. C1 divides; the other layouts multiply by
+ * the reciprocal. hint is not read.
+ * Checks, in order: null pointers (huxStsNullPtr), srcStep below 1 (huxStsBadStep), width or height below 1
+ * (huxStsBadSize). A failed call leaves pMean unwritten. */
 HUX_API HuxStatus huxiMean_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pMean);
 HUX_API HuxStatus huxiMean_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[3]);
 HUX_API HuxStatus huxiMean_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[3]);
@@ -56,10 +59,12 @@ HUX_API HuxStatus huxiMean_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize ro
 HUX_API HuxStatus huxiMean_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pMean[4],
                                    HuxAccuracyHint hint);
 
-/* Min, Max, MinMax: the smallest and the largest element of each channel, 1, 3 (C3, AC4) or 4 values. With a NaN
- * among 32f pixels: in Min and Max it displaces the running value and is displaced by the next pixel; in MinMax it
- * counts as a maximum until the next pixel that does not lower the minimum.
- * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), step (huxStsBadStep). */
+/* Min, Max, MinMax: the smallest and the largest element of each channel, 1, 3 (C3, AC4) or 4 values; alpha of AC4 is
+ * not read.
+ * With a NaN among 32f pixels: in Min and Max it displaces the running value and is displaced by the next pixel; in
+ * MinMax it counts as a maximum until the next pixel that does not lower the minimum.
+ * Checks, in order: null pointers (huxStsNullPtr), width or height below 1 (huxStsBadSize), srcStep below 1
+ * (huxStsBadStep). */
 HUX_API HuxStatus huxiMin_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u* pMin);
 HUX_API HuxStatus huxiMin_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMin[3]);
 HUX_API HuxStatus huxiMin_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u pMin[3]);
@@ -99,8 +104,17 @@ HUX_API HuxStatus huxiMinMax_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize 
                                       Hux32f pMax[3]);
 HUX_API HuxStatus huxiMinMax_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMin[4], Hux32f pMax[4]);
 
-/* MinIndx, MaxIndx: the smallest or largest element of each channel and the column and row of the first pixel, rows
- * top to bottom, that holds it. On 32f a NaN in the first pixel stays, a later one is never taken. Checks as for Min.
+/* MinIndx, MaxIndx: the smallest or largest element of each channel, and the column and row of the first pixel that
+ * holds it.
+ * Rows are gone through from top to bottom; columns and rows count from 0 in the region. Each result is an array of 1,
+ * 3 (C3, AC4) or 4 values; alpha of AC4 is not read. On 32f a NaN in the first pixel stays, a later one is never
+ * taken.
+ * Checks, in order: null pointers (huxStsNullPtr), width or height below 1 (huxStsBadSize), srcStep below 1
+ * (huxStsBadStep).
+ * Example:
+ *   Hux8u brightest;
+ *   int x, y;
+ *   huxiMaxIndx_8u_C1R(src, srcStep, size, &brightest, &x, &y);
  */
 HUX_API HuxStatus huxiMinIndx_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux8u* pMin, int* pIndexX,
                                      int* pIndexY);
@@ -151,9 +165,11 @@ HUX_API HuxStatus huxiMaxIndx_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize
 HUX_API HuxStatus huxiMaxIndx_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux32f pMax[4], int pIndexX[4],
                                       int pIndexY[4]);
 
-/* CountInRange: how many elements of each channel lie in lowerBound..upperBound, both included. A NaN never counts.
- * Checks: null pointers (huxStsNullPtr), step (huxStsBadStep), size (huxStsBadSize), lowerBound above upperBound in
- * any channel (huxStsBadRange). On 32f a step that is not a multiple of 4 is rounded down. */
+/* CountInRange: how many elements of each channel lie in lowerBound..upperBound, both included.
+ * One count and pair of bounds (C1) or three of each (C3, AC4); alpha of AC4 is not read. A NaN never counts. On 32f a
+ * step that is not a multiple of 4 is rounded down.
+ * Checks, in order: null pointers (huxStsNullPtr), srcStep below 1 (huxStsBadStep), width or height below 1
+ * (huxStsBadSize), lowerBound above upperBound in any channel (huxStsBadRange). */
 HUX_API HuxStatus huxiCountInRange_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, int* pCounts,
                                           Hux8u lowerBound, Hux8u upperBound);
 HUX_API HuxStatus huxiCountInRange_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, int pCounts[3],
@@ -167,19 +183,17 @@ HUX_API HuxStatus huxiCountInRange_32f_C3R(const Hux32f* pSrc, int srcStep, Huxi
 HUX_API HuxStatus huxiCountInRange_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, int pCounts[3],
                                             const Hux32f lowerBound[3], const Hux32f upperBound[3]);
 
-/* Norms of an image (Norm), of the difference pSrc1 - pSrc2 (NormDiff), and of the difference relative to pSrc2
- * (NormRel), for each channel: 1, 3 (C3, AC4) or 4 values; alpha of AC4 is not read. Inf: the largest magnitude; L1:
- * the sum of magnitudes; L2: the root of the sum of squares. Integer row totals of L1 are 32-bit numbers that wrap
- * silently; L2 on 8u takes strips of 32768 columns, whose norms are squared and added up; L2 on 16s and 16u adds in 64
- * bits; the rest is double precision. In Inf a NaN displaces the running value and is displaced by what follows; in L1
- * and L2 it reaches the result. hint is not read.
- * NormRel: where the norm of pSrc2 (in L2 of C1: its sum of squares) is not at least the smallest normal double (NaN
- * included), the value is the plain NormDiff and the status huxStsDivByZeroWarn, with C3, AC4 and C4 for all channels
- * if it is so in one.
- * Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), steps (huxStsBadStep); 16u members test the steps
- * before the size. */
+/* Norms: of an image (Norm), of the difference pSrc1 - pSrc2 (NormDiff), and of the difference relative to pSrc2
+ * (NormRel).
+ *   Inf  the largest magnitude      L1  the sum of magnitudes      L2  the root of the sum of squares
+ * for each channel: 1, 3 (C3, AC4) or 4 values; alpha of AC4 is not read. Integer row totals of L1 are 32-bit numbers
+ * that wrap silently; L2 on 8u takes strips of 32768 columns, whose norms are squared and added up; L2 on 16s and 16u
+ * adds in 64 bits; the rest is double precision. In Inf a NaN displaces the running value and is displaced by what
+ * follows; in L1 and L2 it reaches the result. hint is not read. */
 
-/* Norm: of one image. */
+/* Norm: the norm of an image, for each channel.
+ * Checks, in order: null pointers (huxStsNullPtr), width or height below 1 (huxStsBadSize), srcStep below 1
+ * (huxStsBadStep); 16u tests the step before the size. */
 HUX_API HuxStatus huxiNorm_Inf_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f* pValue);
 HUX_API HuxStatus huxiNorm_Inf_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
 HUX_API HuxStatus huxiNorm_Inf_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[3]);
@@ -238,7 +252,9 @@ HUX_API HuxStatus huxiNorm_L2_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize
 HUX_API HuxStatus huxiNorm_L2_32f_C4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, Hux64f pValue[4],
                                       HuxAccuracyHint hint);
 
-/* NormDiff: of a difference. */
+/* NormDiff: the norm of the difference of two images, for each channel.
+ * Checks, in order: null pointers (huxStsNullPtr), width or height below 1 (huxStsBadSize), a step below 1
+ * (huxStsBadStep); 16u tests the steps before the size. */
 HUX_API HuxStatus huxiNormDiff_Inf_8u_C1R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
                                           HuxiSize roiSize, Hux64f* pValue);
 HUX_API HuxStatus huxiNormDiff_Inf_8u_C3R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
@@ -336,7 +352,12 @@ HUX_API HuxStatus huxiNormDiff_L2_32f_AC4R(const Hux32f* pSrc1, int src1Step, co
 HUX_API HuxStatus huxiNormDiff_L2_32f_C4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
                                           HuxiSize roiSize, Hux64f pValue[4], HuxAccuracyHint hint);
 
-/* NormRel: of a difference, relative to pSrc2. */
+/* NormRel: the norm of the difference of two images over that of the second, for each channel.
+ * Where the norm of pSrc2 (in L2 of C1: its sum of squares) is not at least the smallest normal double (NaN included),
+ * the value is the plain NormDiff and the status huxStsDivByZeroWarn, with C3, AC4 and C4 for all channels if it is so
+ * in one.
+ * Checks, in order: null pointers (huxStsNullPtr), width or height below 1 (huxStsBadSize), a step below 1
+ * (huxStsBadStep); 16u tests the steps before the size. */
 HUX_API HuxStatus huxiNormRel_Inf_8u_C1R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
                                          HuxiSize roiSize, Hux64f* pValue);
 HUX_API HuxStatus huxiNormRel_Inf_8u_C3R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
@@ -434,20 +455,34 @@ HUX_API HuxStatus huxiNormRel_L2_32f_AC4R(const Hux32f* pSrc1, int src1Step, con
 HUX_API HuxStatus huxiNormRel_L2_32f_C4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
                                          HuxiSize roiSize, Hux64f pValue[4], HuxAccuracyHint hint);
 
-/* Moments up to the third order. A record is created (MomentInitAlloc, or MomentInit in MomentGetStateSize bytes of
- * the caller's), filled from an image by Moments, read by any number of Get functions, filled again as often as
- * wanted, and freed (MomentFree; never after MomentInit). A record that several threads only read may be shared.
+/* Records of moments: sums of pixels times powers of their coordinates, up to the third order, and what follows from
+ * them.
+ * A record is created (MomentInitAlloc, or MomentInit in MomentGetStateSize bytes of the caller's, at any address),
+ * filled from an image by Moments, read by any number of Get functions, filled again as often as wanted, and freed
+ * (MomentFree; never after MomentInit). A record that several threads only read may be shared.
  * 64f records hold double precision numbers. 64s records hold 64-bit integers, in which the products of a pixel with
- * the powers of its column wrap at 32 bits; their results are multiplied by 2^-scaleFactor and truncated towards
- * zero. The factor 2^scaleFactor is a 32-bit shift with the count modulo 32, read as a signed number. */
+ * the powers of its column wrap at 32 bits; their results are multiplied by 2^-scaleFactor and truncated towards zero.
+ * The factor 2^scaleFactor is a 32-bit shift with the count modulo 32, read as a signed number.
+ * Example:
+ *   HuxiMomentRecord_64f* moments;
+ *   const HuxiPoint origin = {0, 0};
+ *   Hux64f mass, column;
+ *   if (huxiMomentInitAlloc_64f(&moments, huxHintNone) == huxStsOk) {
+ *     huxiMoments64f_8u_C1R(src, srcStep, size, moments);
+ *     huxiGetSpatialMoment_64f(moments, 0, 0, 0, origin, &mass);
+ *     huxiGetSpatialMoment_64f(moments, 1, 0, 0, origin, &column);  // the centre of mass is at column / mass
+ *     huxiMomentFree_64f(moments);
+ *   }
+ */
 typedef struct HuxiMomentRecord_64f HuxiMomentRecord_64f;
 typedef struct HuxiMomentRecord_64s HuxiMomentRecord_64s;
 
-/* MomentInitAlloc: a new record in *ppState. MomentGetStateSize: the size of a record in bytes, in *pSize.
- * MomentInit: makes a record of the memory at pState. MomentFree: frees a record of MomentInitAlloc. hint is stored
- * and not read.
- * Checks: null pointers (huxStsNullPtr); MomentFree: then a record of another kind (huxStsBadContext);
- * MomentInitAlloc: huxStsNoMem. */
+/* MomentInitAlloc, MomentInit, MomentGetStateSize, MomentFree: make a record of moments, and free it.
+ * MomentInitAlloc: a new record in *ppState; on failure *ppState is as it was. MomentGetStateSize: the size of a
+ * record in bytes, in *pSize. MomentInit: makes a record of the memory at pState, whatever it holds. MomentFree: frees
+ * a record of MomentInitAlloc. hint is stored and not read.
+ * Checks, in order: null pointers (huxStsNullPtr); MomentFree: a record of another kind (huxStsBadContext);
+ * MomentInitAlloc: memory (huxStsNoMem). */
 HUX_API HuxStatus huxiMomentInitAlloc_64f(HuxiMomentRecord_64f** ppState, HuxAccuracyHint hint);
 HUX_API HuxStatus huxiMomentInitAlloc_64s(HuxiMomentRecord_64s** ppState, HuxAccuracyHint hint);
 HUX_API HuxStatus huxiMomentFree_64f(HuxiMomentRecord_64f* pState);
@@ -455,11 +490,13 @@ HUX_API HuxStatus huxiMomentFree_64s(HuxiMomentRecord_64s* pState);
 HUX_API HuxStatus huxiMomentGetStateSize_64s(HuxAccuracyHint hint, int* pSize);
 HUX_API HuxStatus huxiMomentInit_64s(HuxiMomentRecord_64s* pState, HuxAccuracyHint hint);
 
-/* Moments: fills a record with the ten moments sum(p(x, y) * x^m * y^n), m + n <= 3, of each channel, x and y counted
- * from 0 in the region. What the record held is gone.
- * Checks: null pointers (huxStsNullPtr), a record of another kind (huxStsBadContext), step below 1 (huxStsBadStep),
- * size (huxStsBadSize), step below the length of a row (huxStsStepBelowWidth). A failed call leaves the record as it
- * was. */
+/* Moments: fills a record with the ten moments of each channel of an image.
+ *   M(m, n) = sum over x, y of p(x, y) * x^m * y^n, m + n <= 3
+ * with x and y counted from 0 in the region. What the record held is gone; afterwards it has 1 channel, or 3 (C3, AC4,
+ * whose alpha is not read).
+ * Checks, in order: null pointers (huxStsNullPtr), a record of another kind (huxStsBadContext), srcStep below 1
+ * (huxStsBadStep), width or height below 1 (huxStsBadSize), srcStep below the bytes of a row (huxStsStepBelowWidth). A
+ * failed call leaves the record as it was. */
 HUX_API HuxStatus huxiMoments64f_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, HuxiMomentRecord_64f* pState);
 HUX_API HuxStatus huxiMoments64f_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, HuxiMomentRecord_64f* pState);
 HUX_API HuxStatus huxiMoments64f_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize,
@@ -475,14 +512,16 @@ HUX_API HuxStatus huxiMoments64s_8u_C3R(const Hux8u* pSrc, int srcStep, HuxiSize
 HUX_API HuxStatus huxiMoments64s_8u_AC4R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize,
                                          HuxiMomentRecord_64s* pState);
 
-/* GetSpatialMoment: sum(p * (x + offset.x)^m * (y + offset.y)^n), m being xOrder and n yOrder; the offset tells where
- * the region lies in a larger frame. GetCentralMoment: the moment about the centre of mass. The Normalized forms
- * multiply by M00^(-(m + n + 2) / 2), M00 being the sum of the pixels.
- * Checks: null pointers (huxStsNullPtr), a record of another kind (huxStsBadContext), xOrder + yOrder above 3
- * (huxStsBadSize), channel outside those filled (huxStsBadMomentIndex); central and normalised: M00 zero, on 64f of
- * magnitude 2.220446049250313e-16 or less (huxStsMomentTooSmall). Orders of which one is negative are not refused:
- * 64f then leaves *pValue as it is, 64s writes 0. Normalised spatial 64f moments that fail for M00 leave the plain
- * moment in *pValue. */
+/* GetSpatialMoment, GetCentralMoment, and their Normalized forms: a moment of one channel, from a filled record.
+ *   spatial   sum(p * (x + offset.x)^m * (y + offset.y)^n), m being xOrder and n yOrder; the offset tells where the
+ *             region lies in a larger frame
+ *   central   the same about the centre of mass
+ *   The Normalized forms multiply by M00^(-(m + n + 2) / 2), M00 being the sum of the pixels.
+ * Checks, in order: null pointers (huxStsNullPtr), a record of another kind (huxStsBadContext), xOrder + yOrder above
+ * 3 (huxStsBadSize), channel outside those filled (huxStsBadMomentIndex); central and normalised: M00 zero, on 64f of
+ * magnitude 2.220446049250313e-16 or less (huxStsMomentTooSmall). Orders of which one is negative are not refused: 64f
+ * then leaves *pValue as it is, 64s writes 0. Normalised spatial 64f moments that fail for M00 leave the plain moment
+ * in *pValue. */
 HUX_API HuxStatus huxiGetSpatialMoment_64f(const HuxiMomentRecord_64f* pState, int xOrder, int yOrder, int channel,
                                            HuxiPoint offset, Hux64f* pValue);
 HUX_API HuxStatus huxiGetSpatialMoment_64s(const HuxiMomentRecord_64s* pState, int xOrder, int yOrder, int channel,
@@ -500,28 +539,33 @@ HUX_API HuxStatus huxiGetNormalizedCentralMoment_64f(const HuxiMomentRecord_64f*
 HUX_API HuxStatus huxiGetNormalizedCentralMoment_64s(const HuxiMomentRecord_64s* pState, int xOrder, int yOrder,
                                                      int channel, Hux64s* pValue, int scaleFactor);
 
-/* GetHuMoments: seven numbers made of the normalised central moments, meant not to change when the shape is moved,
- * scaled or turned. The fifth is built from u12 + u03 where the textbooks have u30 + u12.
- * Checks: null pointers (huxStsNullPtr), a record of another kind (huxStsBadContext), channel (huxStsBadMomentIndex),
- * M00 as above (huxStsMomentTooSmall). */
+/* GetHuMoments: seven numbers that hardly change when a shape is moved, scaled or turned, from a filled record.
+ * They are made of the normalised central moments. The fifth is built from u12 + u03 where the textbooks have u30 +
+ * u12.
+ * Checks, in order: null pointers (huxStsNullPtr), a record of another kind (huxStsBadContext), channel outside those
+ * filled (huxStsBadMomentIndex), M00 zero, on 64f of magnitude 2.220446049250313e-16 or less (huxStsMomentTooSmall). */
 HUX_API HuxStatus huxiGetHuMoments_64f(const HuxiMomentRecord_64f* pState, int channel, Hux64f pHu[7]);
 HUX_API HuxStatus huxiGetHuMoments_64s(const HuxiMomentRecord_64s* pState, int channel, Hux64s pHu[7], int scaleFactor);
 
-/* HistogramRange: counts pixels into nLevels - 1 bins; bin k of a channel counts pLevels[k] <= p < pLevels[k + 1]. The
- * counters are set, not added to. The last level closes the last bin and is not in it: all 256 values of a byte take
- * 257 levels, 0 to 256. Levels need not ascend: each bin stands for its own interval, and one whose ends do not ascend
- * stays 0. A NaN is counted nowhere, except where the levels of some channel do not strictly ascend: there it is
- * counted in every bin of every channel that it stands in.
- * HistogramEven: the same with nLevels levels from lowerLevel to upperLevel, which it computes and writes to pLevels;
- * where the range does not divide evenly, the first steps are wider by 1.
- * C3, AC4, C4: pHist and pLevels are arrays of pointers, one per channel, the other arguments arrays; channels may
- * share a list of levels (in HistogramEven only with equal bounds) but no counters. Alpha of AC4 is not read.
+/* HistogramRange, HistogramEven: count pixels into nLevels - 1 bins.
+ * Bin k of a channel counts pLevels[k] <= p < pLevels[k + 1]; pHist holds nLevels - 1 counters, which are set, not
+ * added to, and pLevels nLevels levels. The last level closes the last bin and is not in it: all 256 values of a byte
+ * take 257 levels, 0 to 256. Levels need not ascend: each bin stands for its own interval, and one whose ends do not
+ * ascend stays 0. A NaN is counted nowhere, except where the levels of some channel do not strictly ascend: there it
+ * is counted in every bin of every channel that it stands in.
+ * HistogramEven: with nLevels levels from lowerLevel to upperLevel, which it computes and writes to pLevels; where the
+ * range does not divide evenly, the first steps are wider by 1.
+ * C3, AC4, C4: pHist and pLevels are arrays of pointers, one per channel (3, 3, 4), the other arguments arrays;
+ * channels may share a list of levels (in HistogramEven only with equal bounds) but no counters. Alpha of AC4 is not
+ * read.
+ * Checks, in order, C1: null pointers (huxStsNullPtr), width or height below 1 (huxStsBadSize), srcStep below 1
+ * (huxStsBadStep), nLevels below 2 (huxStsBadHistLevels). Other layouts: null pointers, then by channel pHist[c] or
+ * pLevels[c] null (huxStsNullPtr) and nLevels[c] (huxStsBadHistLevels), then size, step. 16s, 16u: then memory
+ * (huxStsNoMem), with pHist zeroed (and pLevels of HistogramEven written).
+ * Example:
  *   Hux32s counts[256], levels[257];
- *   huxiHistogramEven_8u_C1R(image, step, size, counts, levels, 257, 0, 256);
- * Checks, C1: null pointers (huxStsNullPtr), size (huxStsBadSize), step (huxStsBadStep), nLevels below 2
- * (huxStsBadHistLevels). Other layouts: null pointers, then by channel pHist[c] or pLevels[c] null (huxStsNullPtr)
- * and nLevels[c] (huxStsBadHistLevels), then size, step. 16s, 16u: then huxStsNoMem, with pHist zeroed (and pLevels
- * of HistogramEven written). */
+ *   huxiHistogramEven_8u_C1R(src, srcStep, size, counts, levels, 257, 0, 256);
+ */
 
 HUX_API HuxStatus huxiHistogramRange_8u_C1R(const Hux8u* pSrc, int srcStep, HuxiSize roiSize, Hux32s* pHist,
                                             const Hux32s* pLevels, int nLevels);
@@ -590,23 +634,28 @@ HUX_API HuxStatus huxiHistogramEven_16u_C4R(const Hux16u* pSrc, int srcStep, Hux
                                             Hux32s* const pLevels[4], const int nLevels[4], const Hux32s lowerLevel[4],
                                             const Hux32s upperLevel[4]);
 
-/* Look-up tables of nLevels (level, value) pairs. A pixel with pLevels[k] <= p < pLevels[k + 1] takes pValues[k]
- * (LUT, which never reads the last value), the straight line from (pLevels[k], pValues[k]) to the next pair
- * (LUT_Linear), or the third-order polynomial through four neighbouring pairs (LUT_Cubic; with fewer than 4 levels in
- * any channel the straight line in all). A pixel below the first level, or at or above the last, stays as it is: for a
- * table that covers all bytes the last level is 256, not 255. Results are saturated; on integers a line or polynomial
- * is computed in double precision, 0.5 is added and the sum truncated towards zero. On 32f a NaN takes the first
- * segment's result.
+/* LUT, LUT_Linear, LUT_Cubic: replace pixels by way of tables of nLevels (level, value) pairs.
+ * A pixel with pLevels[k] <= p < pLevels[k + 1] takes pValues[k] (LUT, which never reads the last value), the straight
+ * line from (pLevels[k], pValues[k]) to the next pair (LUT_Linear), or the third-order polynomial through four
+ * neighbouring pairs (LUT_Cubic; with fewer than 4 levels in any channel the straight line in all). A pixel below the
+ * first level, or at or above the last, stays as it is: for a table that covers all bytes the last level is 256, not
+ * 255. Results are saturated; on integers a line or polynomial is computed in double precision, 0.5 is added and the
+ * sum truncated towards zero. On 32f a NaN takes the first segment's result.
  * On integers the first and the last level lie within the range of the type (the last may be one above it), and levels
  * ascend; what levels that fall make of a pixel is not promised, though nothing outside the images is touched.
- * C3, AC4, C4: pValues and pLevels are arrays of pointers, one per channel, nLevels an array; channels may share lists.
- * AC4: alpha of the destination stays.
+ * C3, AC4, C4: pValues and pLevels are arrays of pointers, one per channel (3, 3, 4), nLevels an array; channels may
+ * share lists. AC4: alpha of the destination stays.
+ * Checks, in order, C1: null pointers (huxStsNullPtr), width or height below 1 (huxStsBadSize), a step below 1
+ * (huxStsBadStep), nLevels below 2 (huxStsBadLutLevels). Other layouts: null pointers, then by channel pValues[c] or
+ * pLevels[c] null (huxStsNullPtr) and nLevels[c] (huxStsBadLutLevels), then size, steps. Then memory (huxStsNoMem),
+ * with the destination untouched: 16s and 16u, and LUT_Linear and LUT_Cubic on 32f.
+ * Example:
  *   const Hux32s levels[] = {0, 64, 192, 256}, values[] = {0, 32, 224, 256};
- *   huxiLUT_Linear_8u_C1R(image, step, curved, curvedStep, size, values, levels, 4);
- * Checks, C1: null pointers (huxStsNullPtr), size (huxStsBadSize), steps (huxStsBadStep), nLevels below 2
- * (huxStsBadLutLevels). Other layouts: null pointers, then by channel pValues[c] or pLevels[c] null (huxStsNullPtr)
- * and nLevels[c] (huxStsBadLutLevels), then size, steps. Then huxStsNoMem, with
- * the destination untouched: 16s and 16u, and LUT_Linear and LUT_Cubic on 32f. */
+ *   const Hux32s *allLevels[] = {levels, levels, levels}, *allValues[] = {values, values, values};
+ *   const int counts[] = {4, 4, 4};
+ *   huxiLUT_Linear_8u_C1R(src, srcStep, dst, dstStep, size, values, levels, 4);
+ *   huxiLUT_Linear_8u_C3R(src, srcStep, dst, dstStep, size, allValues, allLevels, counts);
+ */
 
 HUX_API HuxStatus huxiLUT_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
                                  const Hux32s* pValues, const Hux32s* pLevels, int nLevels);
@@ -854,10 +903,14 @@ HUX_API HuxStatus huxiLUT_Cubic_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, HuxiS
                                           const Hux32f* const pValues[3], const Hux32f* const pLevels[3],
                                           const int nLevels[3]);
 
-/* LUTPalette: the destination takes entry p & (2^nBitSize - 1) of pTable, which holds 2^nBitSize entries. 8u24u and
- * 16u24u: entries and destination pixels of three bytes.
- * Checks: null pointers (huxStsNullPtr), steps (huxStsBadStep), size (huxStsBadSize), nBitSize below 1 or above the
- * bits of a source pixel (huxStsBadBitSize). */
+/* LUTPalette: the destination takes entry p & (2^nBitSize - 1) of pTable, which holds 2^nBitSize entries.
+ * 8u24u and 16u24u: entries and destination pixels of three bytes. The others: entries of the destination's type.
+ * Checks, in order: null pointers (huxStsNullPtr), a step below 1 (huxStsBadStep), width or height below 1
+ * (huxStsBadSize), nBitSize below 1 or above the bits of a source pixel (huxStsBadBitSize).
+ * Example:
+ *   Hux8u rainbow[16 * 3] = {0};  // entry k is rainbow[3 * k] to rainbow[3 * k + 2]
+ *   huxiLUTPalette_8u24u_C1R(src, srcStep, dst, dstStep, size, rainbow, 4);
+ */
 HUX_API HuxStatus huxiLUTPalette_8u24u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
                                            const Hux8u* pTable, int nBitSize);
 HUX_API HuxStatus huxiLUTPalette_8u32u_C1R(const Hux8u* pSrc, int srcStep, Hux32u* pDst, int dstStep, HuxiSize roiSize,
@@ -869,10 +922,13 @@ HUX_API HuxStatus huxiLUTPalette_16u24u_C1R(const Hux16u* pSrc, int srcStep, Hux
 HUX_API HuxStatus huxiLUTPalette_16u32u_C1R(const Hux16u* pSrc, int srcStep, Hux32u* pDst, int dstStep,
                                             HuxiSize roiSize, const Hux32u* pTable, int nBitSize);
 
-/* QualityIndex: how alike two images are, for each channel: 4 * cov * mean1 * mean2 / ((var1 + var2) * (mean1^2 +
- * mean2^2)), 1 for equal images that are not constant. Parallel: the sums are single precision numbers whose last bits
- * depend on the number of threads. A zero denominator gives an infinity or NaN. One value (C1) or three; alpha of AC4
- * is not read. Checks: null pointers (huxStsNullPtr), size (huxStsBadSize), steps (huxStsBadStep), huxStsNoMem. */
+/* QualityIndex: how alike two images are, for each channel.
+ *   4 * cov * mean1 * mean2 / ((var1 + var2) * (mean1^2 + mean2^2))
+ * is 1 for equal images that are not constant. One value (C1) or three; alpha of AC4 is not read. A zero denominator
+ * gives an infinity or NaN. Parallel: the sums are single precision numbers whose last bits depend on the number of
+ * threads.
+ * Checks, in order: null pointers (huxStsNullPtr), width or height below 1 (huxStsBadSize), a step below 1
+ * (huxStsBadStep), memory (huxStsNoMem; nothing is written then). */
 HUX_API HuxStatus huxiQualityIndex_8u32f_C1R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
                                              HuxiSize roiSize, Hux32f* pQualityIndex);
 HUX_API HuxStatus huxiQualityIndex_8u32f_C3R(const Hux8u* pSrc1, int src1Step, const Hux8u* pSrc2, int src2Step,
