@@ -7,11 +7,12 @@
 HUX_BEGIN_C
 
 /* The number of threads that a parallel function asks the OpenMP runtime for, read each time a parallel region opens.
- * Initially the number of processors that the process may run on. 0 acts as 1. Results do not depend on it, but for the
- * last bits of the few functions whose documentation says so. */
+ * Initially the number of processors that the process may run on. 0 acts as 1, and more than 1024 as 1024; the runtime
+ * may grant fewer. Results do not depend on it, but for the last bits of the few functions whose comments say so. */
 extern HUX_API Hux32u threads_omp_of_n_hux;
 
-/* Sets and gets that number. Set it before other threads call the library: it is read without a lock. */
+/* SetThreadCount, GetThreadCount: set and get that number.
+ * Set it before other threads call the library: it is read without a lock. */
 HUX_API void huxSetThreadCount(Hux32u count);
 HUX_API Hux32u huxGetThreadCount(void);
 
