@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "core/layout.h"
+#include "workers/portable.h"
 
 namespace hux {
 
@@ -115,7 +116,7 @@ inline AffineCoeffs rotation(Hux64f reduced, Hux64f xShift, Hux64f yShift) {
   if (reduced == 90) return {0, 1, xShift, -1, 0, yShift};
   if (reduced == 180) return {-1, 0, xShift, 0, -1, yShift};
   if (reduced == 270) return {0, -1, xShift, 1, 0, yShift};
-  const Hux64f t = reduced / 180 * 3.141592653589793, cos = std::cos(t), sin = std::sin(t);
+  const Hux64f t = reduced / 180 * 3.141592653589793, cos = portable::cos(t), sin = portable::sin(t);
   return {cos, sin, xShift, -sin, cos, yShift};
 }
 

@@ -9,6 +9,7 @@
 #include "workers/logarithm.h"
 #include "workers/move.h"
 #include "workers/nearest.h"
+#include "workers/portable.h"
 
 namespace hux {
 namespace {
@@ -197,21 +198,21 @@ class GaussNoise {
   }
 
   // The approximate logarithm in the factors never shows: where the interval that the noise lies in does not settle,
-  // which is rare, the library's function decides.
+  // which is rare, the accurate function decides.
   struct Rule {
     static constexpr int lanes = kLanes;
     Hux64f mean, stdDev;
     Lanes<T, lanes> operator()(Lanes<T, lanes> e, Deviates::Numbers d) const {
       const auto sum = [&](Doubles factors) { return settled<T>(e, d.units * factors + mean); };
       const auto noise = decided(sum(d.factors * (1 - kFactorError)), sum(d.factors * (1 + kFactorError)),
-                                 [&] { return settled<T>(e, byLibrary(d.pairs, d.count)); });
+                                 [&] { return settled<T>(e, accurate(d.pairs, d.count)); });
       return added<T>(e, noise);
     }
-    [[gnu::noinline]] Doubles byLibrary(const std::uint64_t* pairs, int count) const {
+    [[gnu::noinline]] Doubles accurate(const std::uint64_t* pairs, int count) const {
       Doubles noise = {};
       for (int i = 0; i < count; ++i) {
         const Pair p(pairs[i / 2]);
-        const Hux64f f = stdDev * std::sqrt(std::log(p.w) * -2.0 / p.w);
+        const Hux64f f = stdDev * std::sqrt(portable::log(p.w) * -2.0 / p.w);
         noise[i] = (i % 2 ? p.v : p.u) * f + mean;
       }
       return noise;

@@ -13,6 +13,7 @@
 #include "workers/move.h"
 #include "workers/nearest.h"
 #include "workers/pattern.h"
+#include "workers/portable.h"
 
 namespace hux {
 namespace {
@@ -157,7 +158,7 @@ auto levelOf(Doubles s) {
 }
 
 // sin((a^2 + b^2) * 2 pi / divisor), a being the distance of the column from the centre. Where the interval that the
-// sine lies in does not come to one level, which is rare, the library's function decides, so that the approximation
+// sine lies in does not come to one level, which is rare, the accurate function decides, so that the approximation
 // never shows; and beyond kSineEnd it always does.
 template <class T>
 struct Chirp {
@@ -178,11 +179,11 @@ struct Chirp {
     const Doubles z = angle(convert<Hux64f>(x) - centre), s = sine(z);
     const auto low = levelOf<T>(greater(s - kSineError, splat<Doubles>(-1)));
     const auto high = levelOf<T>(lesser(s + kSineError, splat<Doubles>(1)));
-    const auto library = [=] { return levelOf<T>(byLibrary(z)); };
-    return convert<T>(far ? library() : decided(low, high, library));
+    const auto exact = [=] { return levelOf<T>(accurate(z)); };
+    return convert<T>(far ? exact() : decided(low, high, exact));
   }
-  [[gnu::noinline]] static Doubles byLibrary(Doubles z) {
-    for (int i = 0; i < lanes; ++i) z[i] = std::sin(z[i]);
+  [[gnu::noinline]] static Doubles accurate(Doubles z) {
+    for (int i = 0; i < lanes; ++i) z[i] = portable::sin(z[i]);
     return z;
   }
 };

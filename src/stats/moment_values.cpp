@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "stats/moment_record.h"
+#include "workers/portable.h"
 
 namespace hux {
 namespace {
@@ -139,7 +140,7 @@ HuxStatus normalize(const R* pState, int m, int n, int channel, Derived moment, 
   else
     moment = Hux64f(truncated(moment.value_or(0.0)));
   if (HuxStatus s = massSuffices(pState, channel)()) return s;
-  if (moment) *moment *= std::pow(rawOf(pState, channel).M00, (Hux64f(m) + n + 2) * -0.5);
+  if (moment) *moment *= portable::rootOfInverse(rawOf(pState, channel).M00, m + n + 2);
   finish(moment, pValue, scaleFactor);
   return huxStsOk;
 }

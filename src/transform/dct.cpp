@@ -50,8 +50,9 @@ constexpr int kLongestDirect = 100, kLongestHalved = 512;  // the latter where a
 constexpr int kLanes = 8;
 using V = Lanes<Hux32f, kLanes>;
 
-Hux64f cosine(Index k, Index n) { return std::cos(std::numbers::pi * Hux64f(k) / Hux64f(n)); }
-Hux64f sine(Index k, Index n) { return std::sin(std::numbers::pi * Hux64f(k) / Hux64f(n)); }
+// Of pi k / n.
+Hux64f cosine(Index k, Index n) { return fft::rootOf(k, 2 * n).re; }
+Hux64f sine(Index k, Index n) { return -fft::rootOf(k, 2 * n).im; }
 
 V load(const Hux32f* p) { return loadLanes<V>(p); }
 void store(Hux32f* p, V v) { storeLanes(p, v); }

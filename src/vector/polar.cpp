@@ -10,6 +10,7 @@
 #include "lanes/round.h"
 #include "workers/complex.h"
 #include "workers/nearest.h"
+#include "workers/portable.h"
 
 namespace hux {
 namespace {
@@ -94,7 +95,7 @@ Doubles angle(Doubles im, Doubles re) {
 }
 
 // atan2(im, re) narrowed. Where the interval that the true angle lies in does not narrow to one float, which is rare,
-// the library's function decides, so that the approximation never shows.
+// the accurate function decides, so that the approximation never shows.
 template <class C>
 struct Phase {
   static constexpr int lanes = kLanes;
@@ -103,7 +104,7 @@ struct Phase {
     const Doubles a = angle(z.im, z.re);
     return decided(convert<Hux32f>(a * (1 - 0x1p-42)), convert<Hux32f>(a * (1 + 0x1p-42)), [&] {
       Floats phases{};
-      for (int i = 0; i < kLanes; ++i) phases[i] = Hux32f(std::atan2(z.im[i], z.re[i]));
+      for (int i = 0; i < kLanes; ++i) phases[i] = Hux32f(portable::atan2(z.im[i], z.re[i]));
       return phases;
     });
   }
@@ -165,8 +166,8 @@ auto fromDouble(Doubles v) {
   }
 }
 
-// (magnitude, phase) by a polynomial. Angles that are too large to be reduced with care, or not finite, are left to the
-// library.
+// (magnitude, phase) by a polynomial. Angles that are too large to be reduced with care, or not finite, are left to
+// the accurate functions.
 template <class C>
 struct Cartesian {
   static constexpr int lanes = kLanes;
@@ -186,12 +187,12 @@ struct Cartesian {
     if constexpr (std::is_floating_point_v<T>)
       if (any(convert<Hux32s>(~known))) [[unlikely]]
         for (int i = 0; i < kLanes; ++i)
-          if (!known[i]) re[i] = m[i] * std::cos(phase[i]), im[i] = m[i] * std::sin(phase[i]);
+          if (!known[i]) re[i] = m[i] * portable::cos(phase[i]), im[i] = m[i] * portable::sin(phase[i]);
     return joinLanes<C>(fromDouble<T>(re), fromDouble<T>(im));
   }
 };
 
-// The same by the library's functions, for one element.
+// The same by the accurate functions, for one element.
 template <class T>
 T truncated(Hux64f v) {
   if constexpr (std::is_floating_point_v<T>)
@@ -202,12 +203,12 @@ T truncated(Hux64f v) {
 template <class C, class T>
 C cartesian(T magnitude, T phase, Hux64f factor) {
   const Hux64f m = magnitude, angle = phase * factor;
-  return {truncated<T>(m * std::cos(angle)), truncated<T>(m * std::sin(angle))};
+  return {truncated<T>(m * portable::cos(angle)), truncated<T>(m * portable::sin(angle))};
 }
 
-// On 32-bit integers the library's functions decide to the last bit. The products with sines and cosines that are good
-// to 2^-48 are truncated; where that depends on the error, which is rare, the library is called.
-struct LibraryCartesian {
+// On 32-bit integers the accurate functions decide to the last bit. The products with sines and cosines that are good
+// to 2^-48 are truncated; where that depends on the error, which is rare, those are called.
+struct AccurateCartesian {
   static constexpr int lanes = kLanes;
   Hux64f factor;
   ComplexLanes<Hux32sc> operator()(Ints magnitudes, Ints phases) const {
@@ -266,7 +267,7 @@ HuxStatus phases(const C* pSrc, D* pDst, int len, int scaleFactor = 0) {
     return mapVector(pSrc, pDst, len, ScaledPhase<C>{powerOfTwo<Hux32f>(scaleFactor)});
 }
 
-// A last element without a partner is computed by the library's functions.
+// A last element without a partner is computed by the accurate functions.
 template <class C, class T>
 HuxStatus polarToCart(const T* pMagnitude, const T* pPhase, C* pDst, int len, int fixedPoint = 0) {
   constexpr int maxFixedPoint = int(sizeof(T)) * 8 - 1;
@@ -276,7 +277,7 @@ HuxStatus polarToCart(const T* pMagnitude, const T* pPhase, C* pDst, int len, in
   const Hux64f factor = powerOfTwo<Hux64f>(fixedPoint);
   const auto *m = elements(pMagnitude), *p = elements(pPhase);
   if constexpr (std::is_same_v<T, Hux32s>) {
-    zipRow<C1>(m, p, words(pDst), len, LibraryCartesian{factor});
+    zipRow<C1>(m, p, words(pDst), len, AccurateCartesian{factor});
   } else {
     const int pairs = len & ~1;
     zipRow<C1>(m, p, words(pDst), pairs, Cartesian<C>{factor});

@@ -9,6 +9,7 @@
 #include "lanes/elementwise.h"
 #include "workers/elementary.h"
 #include "workers/nearest.h"
+#include "workers/portable.h"
 #include "workers/table.h"
 
 namespace hux {
@@ -34,10 +35,9 @@ struct Reduced {
 alignas(64) constexpr std::array<Hux64f, 16> kPowers = [] {
   std::array<Hux64f, 16> powers{};
   for (int j = 0; j < 16; ++j) {
-    long double term = 1, sum = 1;
-    for (int k = 1; k < 30; ++k) sum += term *= j * std::numbers::ln2_v<long double> / (16 * k);
-    powers[std::size_t(j)] =
-        std::bit_cast<Hux64f>(std::bit_cast<std::uint64_t>(Hux64f(sum)) - (std::uint64_t(j) << 48));
+    Hux64f term = 1, sum = 1;
+    for (int k = 1; k < 30; ++k) sum += term *= j * std::numbers::ln2 / (16 * k);
+    powers[std::size_t(j)] = std::bit_cast<Hux64f>(std::bit_cast<std::uint64_t>(sum) - (std::uint64_t(j) << 48));
   }
   return powers;
 }();
@@ -104,7 +104,7 @@ struct ExpFloat {
   }
 
   [[gnu::noinline]] Half careful(Half x) const {
-    return closed<kErrorBits>(approximate(convert<Hux64f>(x)), x, [](Hux64f e) { return std::exp(e); });
+    return closed<kErrorBits>(approximate(convert<Hux64f>(x)), x, [](Hux64f e) { return portable::exp(e); });
   }
 };
 
@@ -138,7 +138,7 @@ Exp<T>::Exp(int scaleFactor) {
     else if (exponent > 11)
       entries[i] = Limits::max();
     else
-      entries[i] = T(std::clamp(std::floor(std::exp(exponent) + 0.5), 1.0, Hux64f(Limits::max())));
+      entries[i] = T(std::clamp(std::floor(portable::exp(exponent) + 0.5), 1.0, Hux64f(Limits::max())));
   }
 }
 

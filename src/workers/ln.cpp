@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cmath>
 #include <limits>
 
 #include "huxcore.h"
@@ -11,6 +10,7 @@
 #include "workers/elementary.h"
 #include "workers/logarithm.h"
 #include "workers/nearest.h"
+#include "workers/portable.h"
 #include "workers/table.h"
 
 namespace hux {
@@ -21,9 +21,9 @@ constexpr int kFirstScale = -9, kLastScale = 4;
 constexpr auto kTables = [] {
   std::array<std::array<Hux8u, 256>, kLastScale - kFirstScale + 1> tables{};
   for (int element = 1; element < 256; ++element) {
-    long double value = logarithm(element) / (1 << kLastScale);
+    Hux64f value = logarithm(element) / (1 << kLastScale);
     for (int scaleFactor = kLastScale; scaleFactor >= kFirstScale; --scaleFactor, value *= 2)
-      tables[std::size_t(scaleFactor - kFirstScale)][std::size_t(element)] = value < 255 ? Hux8u(value + 0.5L) : 255;
+      tables[std::size_t(scaleFactor - kFirstScale)][std::size_t(element)] = value < 255 ? Hux8u(value + 0.5) : 255;
   }
   return tables;
 }();
@@ -65,7 +65,7 @@ struct LnFloat {
     return result;
   }
   [[gnu::noinline]] V careful(V v) const {
-    return closed<Logarithm::kErrorBits>(logarithm(convert<Hux64f>(v)), v, [](Hux64f e) { return std::log(e); });
+    return closed<Logarithm::kErrorBits>(logarithm(convert<Hux64f>(v)), v, [](Hux64f e) { return portable::log(e); });
   }
 };
 

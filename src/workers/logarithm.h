@@ -10,14 +10,14 @@
 namespace hux {
 
 // Of a positive number, by its series.
-constexpr long double logarithm(long double x) {
-  long double powers = 0;
-  for (; x > 1.5L; x /= 2) ++powers;
-  for (; x < 0.75L; x *= 2) --powers;
-  const long double t = (x - 1) / (x + 1);
-  long double sum = 0, power = t;
+constexpr Hux64f logarithm(Hux64f x) {
+  Hux64f powers = 0;
+  for (; x > 1.5; x /= 2) ++powers;
+  for (; x < 0.75; x *= 2) --powers;
+  const Hux64f t = (x - 1) / (x + 1);
+  Hux64f sum = 0, power = t;
   for (int k = 1; k < 60; k += 2, power *= t * t) sum += power / k;
-  return 2 * sum + powers * std::numbers::ln2_v<long double>;
+  return 2 * sum + powers * std::numbers::ln2;
 }
 
 // The same on lanes, to within a relative 2^-kErrorBits, for positive normal operands. The operand is 2^e * z with z
@@ -53,7 +53,7 @@ struct LogarithmByTable : LogarithmBase {
       const auto middle = std::bit_cast<Hux64f>(kFirst + (std::uint64_t(2 * j + 1) << 47));
       const Hux64f c = j == 9 ? 1 : Hux64f(Hux32f(1 / middle));
       tables.reciprocals[j] = c;
-      tables.logarithms[j] = Hux64f(-logarithm(c));
+      tables.logarithms[j] = -logarithm(c);
     }
     return tables;
   }();

@@ -1,6 +1,6 @@
 // Functions in single precision as those of double precision narrowed, exactly: from values in double precision that
 // are good to some bits more than a float has. Only where a float's rounding boundary lies within their error, once in
-// thousands of times, is the function itself called; so their last bits, which differ between machines, never show.
+// thousands of times, does an accurate function decide (see workers/portable.h); so the approximation never shows.
 #pragma once
 
 #include "lanes/lanes_math.h"
@@ -8,7 +8,7 @@
 namespace hux {
 
 // An approximation of known error that never shows: what both ends of its interval come to, and in lanes where they
-// differ, which is rare, what all() gives, the lanes by the library's function.
+// differ, which is rare, what all() gives, the lanes by an accurate function.
 template <class V, class All>
 V decided(V low, V high, All all) {
   const auto open = low != high;

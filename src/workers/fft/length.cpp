@@ -13,19 +13,6 @@ using Number = Split<Hux32f>;
 
 constexpr int kMostFactor = 150;
 
-// exp(-2 pi i k / n), exactly symmetric: only angles of the first eighth of the circle are computed.
-Split<Hux64f> rootOf(Index k, Index n) {
-  k %= n;
-  Index a = 8 * k;  // in units of 1/8 of the circle, n to each
-  const int eighth = int(a / n);
-  a %= n;
-  const Index within = eighth % 2 ? n - a : a;
-  const Hux64f angle = 6.283185307179586 * Hux64f(within) / (8 * Hux64f(n));
-  const Hux64f c = std::cos(angle), s = std::sin(angle);
-  const bool swapped = (eighth + 1) / 2 % 2, left = eighth >= 2 && eighth < 6, below = eighth >= 4;
-  const Hux64f x = swapped ? s : c, y = swapped ? c : s;
-  return {left ? -x : x, below ? y : -y};
-}
 Number narrow(Split<Hux64f> z) { return {Hux32f(z.re), Hux32f(z.im)}; }
 
 Number numberAt(const Hux32fc* p) { return loadSplit<Hux32f>(p); }

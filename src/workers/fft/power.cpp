@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "workers/fft/across.h"
+#include "workers/portable.h"
 
 namespace hux::fft {
 namespace {
@@ -536,7 +537,7 @@ template void transformToReal<Order::pack>(const void*, const RealPlan&, const H
 // --- Plans.
 
 HuxStatus scalingOf(Hux32s flag, Index length, Scaling& scaling) {
-  const long double n = static_cast<long double>(length);
+  const auto n = Hux64f(length);
   switch (flag) {
     case huxFftScaleFwd:
       scaling = {1, 0, Hux32f(1 / n)};
@@ -556,12 +557,21 @@ HuxStatus scalingOf(Hux32s flag, Index length, Scaling& scaling) {
   return huxStsOk;
 }
 
+Split<Hux64f> rootOf(Index k, Index n) {
+  k %= n;
+  Index a = 8 * k;  // in units of 1/8 of the circle, n to each
+  const int eighth = int(a / n);
+  a %= n;
+  const Index within = eighth % 2 ? n - a : a;
+  const auto [s, c] = portable::ofEighth(6.283185307179586 * Hux64f(within) / (8 * Hux64f(n)));
+  const bool swapped = (eighth + 1) / 2 % 2, left = eighth >= 2 && eighth < 6, below = eighth >= 4;
+  const Hux64f x = swapped ? s : c, y = swapped ? c : s;
+  return {left ? -x : x, below ? y : -y};
+}
+
 Waves::Waves(int order, Hux32f* memory) : order_(order), quarter_(memory) {
-  constexpr Hux64f twoPi = 6.283185307179586;
   const Index n = Index(1) << order;
-  for (Index k = 0; k <= n / 4; ++k)
-    memory[k] =
-        Hux32f(k <= n / 8 ? std::sin(twoPi * Hux64f(k) / Hux64f(n)) : std::cos(twoPi * Hux64f(n / 4 - k) / Hux64f(n)));
+  for (Index k = 0; k <= n / 4; ++k) memory[k] = Hux32f(-rootOf(k, n).im);
 }
 Hux32f Waves::sine(Index k) const {
   const Index n = Index(1) << order_, half = n / 2;

@@ -42,6 +42,10 @@ struct Scaling {
 };
 HuxStatus scalingOf(Hux32s flag, Index length, Scaling& scaling);
 
+// exp(-2 pi i k / n) for k of 0 and above, to within 2^-52 and exactly symmetric: only angles of the first eighth of
+// the circle are computed.
+Split<Hux64f> rootOf(Index k, Index n);
+
 // exp(-2 pi i k / n) for all k and n = 2^order, n at least 8, from a table of one quarter of the sine in single
 // precision: the one source of all factors of a plan.
 class Waves {
