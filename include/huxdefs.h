@@ -68,7 +68,8 @@ typedef struct {
 } HuxLibraryVersion;
 
 /* The result of nearly every function: 0 is success, a negative value an error (the call has written nothing unless its
- * family says otherwise), a positive value a warning (the whole region was processed). A signed 32-bit integer. */
+ * family says otherwise), a positive value a warning (the whole region was processed, or, where its text below says so,
+ * there was nothing to do). A signed 32-bit integer. */
 typedef Hux32s HuxStatus;
 enum {
   huxStsOk = 0, /* success */
