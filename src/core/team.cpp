@@ -1,7 +1,5 @@
 #include "core/team.h"
 
-#include <omp.h>
-
 #include <algorithm>
 #include <cstdint>
 #include <memory>
@@ -9,6 +7,16 @@
 #include "core/check.h"
 #include "core/scratch.h"
 #include "huxcore.h"
+
+#ifdef _OPENMP
+#include <omp.h>
+#endif
+#if defined _OPENMP && __has_include(<pthread.h>)
+#include <pthread.h>
+#endif
+#if __has_include(<sys/single_threaded.h>)
+#include <sys/single_threaded.h>
+#endif
 
 namespace hux {
 namespace {
@@ -22,6 +30,42 @@ std::size_t padded(std::size_t bytes) { return (bytes + kLine - 1) / kLine * kLi
 constexpr int kMostThreads = 1024;
 int requestedTeam(int most = kMostThreads) {
   return int(std::clamp<Hux32u>(threads_omp_of_n_hux, 1, Hux32u(std::clamp(most, 1, kMostThreads))));
+}
+
+// A fork takes along the thread that called it and no other, but the runtime of a child may wait for the team that it
+// remembers. So the teams of a child have one thread, unless its parent had only one as well.
+#if defined _OPENMP && __has_include(<pthread.h>)
+bool childAlone = false, severalAtFork = true;
+void beforeFork() {
+#if __has_include(<sys/single_threaded.h>)
+  severalAtFork = !__libc_single_threaded;
+#endif
+}
+void inChild() { childAlone = childAlone || severalAtFork; }
+// Where there is no memory for it, children are as they would be without.
+[[maybe_unused]] const int kRegistered = pthread_atfork(beforeFork, nullptr, inChild);
+#else
+constexpr bool childAlone = false;
+#endif
+
+// The region that all four patterns open: master(n) on its first thread, n being the size of the team, then body(t) on
+// each thread t.
+template <class Master, class Body>
+void region([[maybe_unused]] int threads, Master master, Body body) {
+#ifdef _OPENMP
+  if (!childAlone) {
+#pragma omp parallel num_threads(threads)
+    {
+#pragma omp master
+      master(omp_get_num_threads());
+#pragma omp barrier
+      body(omp_get_thread_num());
+    }
+    return;
+  }
+#endif
+  master(1);
+  body(0);
 }
 
 RowRange evenShare(Index height, int n, int t) {
@@ -57,7 +101,13 @@ class RegionBlock {
 
 }  // namespace
 
-int maxTeam() { return omp_get_max_threads(); }
+int maxTeam() {
+#ifdef _OPENMP
+  return omp_get_max_threads();
+#else
+  return 1;
+#endif
+}
 
 void splitRows(Index height, Callable<void(RowRange)> body) {
   splitRows(height, kMostThreads, nullptr, 0, [&](RowRange share, std::byte*) { body(share); });
@@ -66,39 +116,31 @@ void splitRows(Index height, Callable<void(RowRange)> body) {
 void splitRows(Index height, int mostThreads, std::byte* slices, std::size_t sliceBytes,
                Callable<void(RowRange, std::byte*)> body) {
   int n = 1;
-#pragma omp parallel num_threads(requestedTeam(mostThreads)) shared(n)
-  {
-#pragma omp master
-    n = omp_get_num_threads();
-#pragma omp barrier
-    const int t = omp_get_thread_num();
-    const RowRange share = evenShare(height, n, t);
-    if (share.count > 0) body(share, slices + sliceBytes * std::size_t(t));
-  }
+  region(
+      requestedTeam(mostThreads), [&](int team) { n = team; },
+      [&](int t) {
+        const RowRange share = evenShare(height, n, t);
+        if (share.count > 0) body(share, slices + sliceBytes * std::size_t(t));
+      });
 }
 
 HuxStatus loopRows(Index height, bool fork, std::size_t sliceBytes, Callable<void(RowRange, std::byte*)> body) {
   RegionBlock block;
   const std::size_t stride = padded(sliceBytes);
-  if (!fork) {
-    if (stride && !block.allocate(stride)) return huxStsNoMem;
-    body({0, height}, block.get());
-    return huxStsOk;
-  }
   int n = 1;
   bool failed = false;
-#pragma omp parallel num_threads(requestedTeam()) shared(n, failed, block)
-  {
-#pragma omp master
-    {
-      n = omp_get_num_threads();
-      failed = stride && !block.allocate(stride * std::size_t(n));
-    }
-#pragma omp barrier
-    const int t = omp_get_thread_num();
+  const auto master = [&](int team) {
+    n = team;
+    failed = stride && !block.allocate(stride * std::size_t(n));
+  };
+  const auto run = [&](int t) {
     const RowRange share = staticShare(height, n, t);
     if (!failed && share.count > 0) body(share, block.get() + stride * std::size_t(t));
-  }
+  };
+  if (fork)
+    region(requestedTeam(), master, run);
+  else
+    master(1), run(0);
   return failUnless(!failed, huxStsNoMem);
 }
 
@@ -115,27 +157,22 @@ HuxStatus runTiles(TilePool pool, Callable<HuxStatus(std::byte*, Index&)> prepar
   HuxStatus status = huxStsOk;
   Slot* slots = nullptr;
   std::byte* slices = nullptr;
-#pragma omp parallel num_threads(requestedTeam()) shared(block, n, tiles, status, slots, slices)
-  {
-#pragma omp master
-    {
-      n = omp_get_num_threads();
-      if (std::byte* memory = block.allocate(shared + (sizeof(Slot) + stride) * std::size_t(n))) {
-        slots = reinterpret_cast<Slot*>(memory + shared);
-        slices = memory + shared + sizeof(Slot) * std::size_t(n);
-        std::uninitialized_default_construct_n(slots, n);
-        status = prepare(memory, tiles);
-      } else {
-        status = huxStsNoMem;
-      }
+  const auto master = [&](int team) {
+    n = team;
+    if (std::byte* memory = block.allocate(shared + (sizeof(Slot) + stride) * std::size_t(n))) {
+      slots = reinterpret_cast<Slot*>(memory + shared);
+      slices = memory + shared + sizeof(Slot) * std::size_t(n);
+      std::uninitialized_default_construct_n(slots, n);
+      status = prepare(memory, tiles);
+    } else {
+      status = huxStsNoMem;
     }
-#pragma omp barrier
-    if (status == huxStsOk) {
-      const int t = omp_get_thread_num();
-      for (Index tile = t; tile < tiles; tile += n)
-        slots[t].status = std::min(slots[t].status, body(tile, block.get(), slices + stride * std::size_t(t)));
-    }
-  }
+  };
+  region(requestedTeam(), master, [&](int t) {
+    if (status != huxStsOk) return;
+    for (Index tile = t; tile < tiles; tile += n)
+      slots[t].status = std::min(slots[t].status, body(tile, block.get(), slices + stride * std::size_t(t)));
+  });
   if (status != huxStsOk) return status;
   for (int t = 0; t < n; ++t) status = std::min(status, slots[t].status);
   return status;
@@ -146,17 +183,13 @@ HuxStatus sumRows(Index height, std::size_t partialBytes, Callable<void(RowRange
   RegionBlock block;
   const std::size_t stride = padded(partialBytes);
   int n = 1;
-#pragma omp parallel num_threads(requestedTeam()) shared(block, n)
-  {
-#pragma omp master
-    {
-      n = omp_get_num_threads();
-      block.allocate(stride * std::size_t(n));
-    }
-#pragma omp barrier
-    const int t = omp_get_thread_num();
+  const auto master = [&](int team) {
+    n = team;
+    block.allocate(stride * std::size_t(n));
+  };
+  region(requestedTeam(), master, [&](int t) {
     if (block.get()) body(evenShare(height, n, t), block.get() + stride * std::size_t(t));
-  }
+  });
   if (!block.get()) return huxStsNoMem;
   for (int t = 0; t < n; ++t) add(block.get() + stride * std::size_t(t));
   return huxStsOk;
@@ -165,14 +198,9 @@ HuxStatus sumRows(Index height, std::size_t partialBytes, Callable<void(RowRange
 void sumRows(Index height, int mostThreads, std::byte* partials, std::size_t partialBytes,
              Callable<void(RowRange, std::byte*)> body, Callable<void(const std::byte*)> add) {
   int n = 1;
-#pragma omp parallel num_threads(requestedTeam(mostThreads)) shared(n)
-  {
-#pragma omp master
-    n = omp_get_num_threads();
-#pragma omp barrier
-    const int t = omp_get_thread_num();
-    body(evenShare(height, n, t), partials + partialBytes * std::size_t(t));
-  }
+  region(
+      requestedTeam(mostThreads), [&](int team) { n = team; },
+      [&](int t) { body(evenShare(height, n, t), partials + partialBytes * std::size_t(t)); });
   for (int t = 0; t < n; ++t) add(partials + partialBytes * std::size_t(t));
 }
 

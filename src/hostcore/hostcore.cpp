@@ -1,12 +1,16 @@
 // libhuxcore: the thread count and the constants that hux shares with its siblings.
-#include <omp.h>
+#include "huxcore.h"
 
 #include <limits>
 
-#include "huxcore.h"
+#ifdef _OPENMP
+#include <omp.h>
 
 // omp_get_num_procs honours the affinity mask: the processors that this process may run on.
 Hux32u threads_omp_of_n_hux = static_cast<Hux32u>(omp_get_num_procs());
+#else
+Hux32u threads_omp_of_n_hux = 1;  // whatever it is set to, a team has one thread
+#endif
 
 void huxSetThreadCount(Hux32u count) { threads_omp_of_n_hux = count; }
 Hux32u huxGetThreadCount(void) { return threads_omp_of_n_hux; }

@@ -3,6 +3,8 @@
 #include "core/team.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <atomic>
@@ -294,6 +296,33 @@ TEST(Team, CallsFromSeveralThreadsDoNotDisturbEachOther) {
     });
   for (auto& caller : callers) caller.join();
   EXPECT_EQ(whole, 80);
+}
+
+// The runtime's threads do not come along in a fork: a child that waited for them would hang, and is ended here.
+TEST(Team, AForkedChildWorksByItself) {
+  forTeams([](int) {
+    const auto work = [] {
+      std::atomic<Index> rows = 0, partials = 0;
+      const auto count = [&](RowRange r, std::byte*) { rows += r.count; };
+      splitRows(50, [&](RowRange r) { rows += r.count; });
+      const HuxStatus looped = loopRows(50, true, 8, count);
+      const auto prepare = [](std::byte*, Index& tiles) { return tiles = 50, HuxStatus(huxStsOk); };
+      const HuxStatus tiled =
+          runTiles({8, 8}, prepare, [&](Index, std::byte*, std::byte*) { return ++rows, HuxStatus(huxStsOk); });
+      const HuxStatus summed = sumRows(50, 8, count, [&](const std::byte*) { ++partials; });
+      return rows == 200 && partials >= 1 && !looped && !tiled && !summed;
+    };
+    ASSERT_TRUE(work());  // so that there is a team to remember
+    const pid_t child = fork();
+    if (child == 0) {
+      alarm(20);
+      _exit(work() ? 0 : 1);
+    }
+    int status = -1;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(work());
+  });
 }
 
 }  // namespace
