@@ -8,6 +8,13 @@ if(HUX_SANITIZE)
   target_link_options(hux_build_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
+# What divides work among threads. Without it each team has one thread.
+add_library(hux_threads INTERFACE)
+if(HUX_THREADS)
+  find_package(OpenMP REQUIRED COMPONENTS CXX)
+  target_link_libraries(hux_threads INTERFACE OpenMP::OpenMP_CXX)
+endif()
+
 # Results must not depend on optimisation: no contraction to fused operations and no member of -ffast-math that changes a
 # value. errno and floating-point traps are not part of any result, so loops need not preserve them. Rows go top to
 # bottom, also where they overlap, so no loop over rows may change places with the loop along them. Vectors wider than the
@@ -15,14 +22,14 @@ endif()
 set(HUX_LIBRARY_FLAGS -ffp-contract=off -fno-math-errno -fno-trapping-math -Wno-psabi
                       $<$<CXX_COMPILER_ID:GNU>:-fno-loop-unroll-and-jam>)
 
-# The objects of both libraries at one architecture level. Sets <name>_core and <name>_images.
+# The objects of both libraries at one architecture level, or at the compiler's own. Sets <name>_core and <name>_images.
 function(hux_add_objects name arch)
   foreach(part core images)
     string(TOUPPER ${part} list)
     add_library(${name}_${part} OBJECT ${HUX_${list}_SOURCES})
     target_include_directories(${name}_${part} PRIVATE ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/src)
-    target_compile_options(${name}_${part} PRIVATE ${HUX_LIBRARY_FLAGS} -march=${arch})
-    target_link_libraries(${name}_${part} PRIVATE hux_build_flags OpenMP::OpenMP_CXX)
+    target_compile_options(${name}_${part} PRIVATE ${HUX_LIBRARY_FLAGS} $<$<BOOL:${arch}>:-march=${arch}>)
+    target_link_libraries(${name}_${part} PRIVATE hux_build_flags hux_threads)
     set_target_properties(${name}_${part} PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden
                                                      VISIBILITY_INLINES_HIDDEN ON)
   endforeach()
@@ -31,9 +38,10 @@ endfunction()
 # The two shared libraries of one architecture level, as targets <name>huxcore and <name>huxi.
 function(hux_add_libraries name objects)
   add_library(${name}huxcore SHARED $<TARGET_OBJECTS:${objects}_core>)
-  target_link_libraries(${name}huxcore PRIVATE $<BUILD_INTERFACE:hux_build_flags> OpenMP::OpenMP_CXX)
+  target_link_libraries(${name}huxcore PRIVATE $<BUILD_INTERFACE:hux_build_flags> $<BUILD_INTERFACE:hux_threads>)
   add_library(${name}huxi SHARED $<TARGET_OBJECTS:${objects}_images>)
-  target_link_libraries(${name}huxi PRIVATE $<BUILD_INTERFACE:hux_build_flags> OpenMP::OpenMP_CXX PUBLIC ${name}huxcore)
+  target_link_libraries(${name}huxi PRIVATE $<BUILD_INTERFACE:hux_build_flags> $<BUILD_INTERFACE:hux_threads>
+                        PUBLIC ${name}huxcore)
   foreach(library huxcore huxi)
     set_target_properties(${name}${library} PROPERTIES OUTPUT_NAME ${library} VERSION ${PROJECT_VERSION}
                                                        SOVERSION ${PROJECT_VERSION_MAJOR} EXPORT_NAME ${library})
