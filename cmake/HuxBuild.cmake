@@ -35,6 +35,8 @@ function(hux_add_objects name arch)
   endforeach()
 endfunction()
 
+configure_file(cmake/exports.map.in exports.map @ONLY)
+
 # The two shared libraries of one architecture level, as targets <name>huxcore and <name>huxi.
 function(hux_add_libraries name objects)
   add_library(${name}huxcore SHARED $<TARGET_OBJECTS:${objects}_core>)
@@ -48,8 +50,10 @@ function(hux_add_libraries name objects)
     target_include_directories(${name}${library} INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
                                                            $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
     # A template's inline helpers may come out as weak symbols of the standard library; only our names leave the library.
-    target_link_options(${name}${library} PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map
+    # They have a version, as the soname does: where two libraries of different majors meet in a process, each call goes
+    # to the one that it was linked with.
+    target_link_options(${name}${library} PRIVATE LINKER:--version-script=${PROJECT_BINARY_DIR}/exports.map
                                                   LINKER:--no-undefined)
-    set_target_properties(${name}${library} PROPERTIES LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+    set_target_properties(${name}${library} PROPERTIES LINK_DEPENDS ${PROJECT_BINARY_DIR}/exports.map)
   endforeach()
 endfunction()
