@@ -45,7 +45,7 @@ HUX_BEGIN_C
  * (huxStsBadSize), a side of the mask below 1 (huxStsBadMaskSize), anchor outside the mask (huxStsBadAnchor), memory
  * for the sums (huxStsNoMem; no pixel has been written then).
  * Example:
- *   const HuxiSize mask = {5, 3}, inner = {size.width - 4, size.height - 2};  // what the mask covers on all sides
+ *   const HuxiSize mask = {5, 3}, inner = {size.width - 4, size.height - 2};  // its windows lie in the image
  *   const HuxiPoint middle = {2, 1};
  *   huxiFilterBox_8u_C1R(src + srcStep + 2, srcStep, dst, dstStep, inner, mask, middle);
  */

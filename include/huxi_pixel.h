@@ -124,8 +124,8 @@ HUX_API HuxStatus huxiCopy_32f_C1C4R(const Hux32f* pSrc, int srcStep, Hux32f* pD
 /* Copy, interleaved to planar and back: element c of each pixel goes to plane c, or comes from it.
  * The planar side is an array of 3 or 4 pointers to the first elements of the planes, which share one step. The array
  * itself is only read.
- * Checks, in order: null pointers, then those of the planes (huxStsNullPtr; from planes, those of the planes come
- * before pDst), width or height below 1 (huxStsBadSize). Steps are not checked.
+ * Checks, in order: null pointers, each plane's too (huxStsNullPtr), width or height below 1 (huxStsBadSize). Steps are
+ * not checked.
  * Example:
  *   int planeStep;
  *   Hux8u* plane = huxiMalloc_8u_C1(size.width, 3 * size.height, &planeStep);
