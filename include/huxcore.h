@@ -12,7 +12,7 @@ HUX_BEGIN_C
 extern HUX_API Hux32u threads_omp_of_n_hux;
 
 /* SetThreadCount, GetThreadCount: set and get that number.
- * Set it before other threads call the library: it is read without a lock. */
+ * They may be called at any time, while other threads call the library too: a call takes the number once. */
 HUX_API void huxSetThreadCount(Hux32u count);
 HUX_API Hux32u huxGetThreadCount(void);
 

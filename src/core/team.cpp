@@ -1,6 +1,7 @@
 #include "core/team.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <memory>
 
@@ -29,7 +30,8 @@ std::size_t padded(std::size_t bytes) { return (bytes + kLine - 1) / kLine * kLi
 // one.
 constexpr int kMostThreads = 1024;
 int requestedTeam(int most = kMostThreads) {
-  return int(std::clamp<Hux32u>(threads_omp_of_n_hux, 1, Hux32u(std::clamp(most, 1, kMostThreads))));
+  const Hux32u count = std::atomic_ref(threads_omp_of_n_hux).load(std::memory_order_relaxed);
+  return int(std::clamp<Hux32u>(count, 1, Hux32u(std::clamp(most, 1, kMostThreads))));
 }
 
 // A fork takes along the thread that called it and no other, but the runtime of a child may wait for the team that it
