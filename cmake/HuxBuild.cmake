@@ -3,9 +3,9 @@
 add_library(hux_build_flags INTERFACE)
 target_compile_options(hux_build_flags INTERFACE -Wall -Wextra -Wundef $<$<BOOL:${HUX_WERROR}>:-Werror>)
 if(HUX_SANITIZE)
-  target_compile_options(hux_build_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+  target_compile_options(hux_build_flags INTERFACE -fsanitize=${HUX_SANITIZE} -fno-sanitize-recover=all
                                                    -fno-omit-frame-pointer)
-  target_link_options(hux_build_flags INTERFACE -fsanitize=address,undefined)
+  target_link_options(hux_build_flags INTERFACE -fsanitize=${HUX_SANITIZE})
 endif()
 
 # What divides work among threads. Without it each team has one thread.
