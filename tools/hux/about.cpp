@@ -1,0 +1,60 @@
+#include "about.h"
+
+#if defined(__unix__) || defined(__APPLE__)
+#include <dlfcn.h>
+#endif
+
+#include <filesystem>
+
+#include "huxcore.h"
+#include "huxi.h"
+
+namespace hux::tool {
+namespace {
+
+std::string processor() {
+#if defined(__x86_64__)
+  const auto all = [](auto... supported) { return (supported && ...); };
+  const bool v2 = all(__builtin_cpu_supports("sse4.2"), __builtin_cpu_supports("popcnt"));
+  const bool v3 =
+      v2 && all(__builtin_cpu_supports("avx2"), __builtin_cpu_supports("fma"), __builtin_cpu_supports("bmi2"));
+  const bool v4 = v3 && all(__builtin_cpu_supports("avx512bw"), __builtin_cpu_supports("avx512dq"),
+                            __builtin_cpu_supports("avx512vl"));
+  return v4 ? "x86-64-v4" : v3 ? "x86-64-v3" : v2 ? "x86-64-v2" : "x86-64";
+#elif defined(__aarch64__)
+  return "aarch64";
+#elif defined(__riscv)
+  return "riscv64";
+#else
+  return "unknown";
+#endif
+}
+
+std::string loaded() {
+#if defined(__unix__) || defined(__APPLE__)
+  Dl_info info;
+  if (dladdr(reinterpret_cast<void*>(&huxiGetLibVersion), &info) && info.dli_fname)
+    return std::filesystem::weakly_canonical(info.dli_fname).string();
+#endif
+  return "unknown";
+}
+
+}  // namespace
+
+std::string about() {
+  const HuxLibraryVersion* version = huxiGetLibVersion();
+  return std::string("  version    ") + version->versionText + "\n  library    " + loaded() + "\n  processor  " +
+         processor() + "\n  threads    " + std::to_string(huxGetThreadCount()) + "\n";
+}
+
+std::string listOfDigests() {
+  std::error_code error;
+  const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
+  if (!error) {
+    const std::filesystem::path installed = program.parent_path().parent_path() / "share" / "hux" / "digests.txt";
+    if (std::filesystem::exists(installed, error)) return installed.string();
+  }
+  return HUX_DIGESTS;
+}
+
+}  // namespace hux::tool
