@@ -740,11 +740,11 @@ std::string Caller::arguments() const {
     say("%s%s=", i ? " " : "", argument.name);
     if (argument.kind != Kind::value) {
       if (!value.p)
-        say("null");
+        say("%s", "null");
       else if (isImage(argument))
         say("(%d bytes by %d)", images_[i][0].rowBytes, images_[i][0].rows);
       else
-        say("(...)");
+        say("%s", "(...)");
       continue;
     }
     switch (argument.shape) {
