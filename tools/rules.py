@@ -11,6 +11,8 @@ resolve(registry) returns a dictionary by function name. Each entry:
   team        null, or "sums" where sums of floats begin anew with each thread, so that last bits depend on their number
   moves       whether pixels are only moved, so that every NaN keeps its bits
   window      null, or the sense of the anchor: "image order", "far corner", "mirrored", "centred"
+  aligned     whether steps must be whole elements
+  no_memory   the statuses of a call that got no memory, or "written" where it may have written even so
   calls       how many legal calls show all that the rules list
   arguments   one for each parameter of the function, then one for each that the maker of its context takes beyond the
               address of the context (those have "of_maker": true)
@@ -21,6 +23,7 @@ An argument is the parameter of the registry with, where they apply:
               value of the type) or {"kind": "row"} (a step: as the image has it). together is true where rows of all
               arguments that have it are taken by the same number.
   illegal     [[numbers or formulas]]
+  foreign     "unchecked" where a record is not told from other memory
   null        "refused", "allowed", "unchecked"
   extent      [width, height], reach [left, top, right, bottom], span (of coordinates): formulas
   count       a formula; fill: "pixels", "mask", "coordinates", "taps", "element", "levels", "values", "zero", "rows" (its
@@ -78,12 +81,13 @@ class Resolver:
 
     def resolve(self, function):
         """Raises Missing."""
-        entry = dict(covered=True, by_hand=False, team=None, moves=False, window=None, calls=0, arguments=[])
+        entry = dict(covered=True, by_hand=False, team=None, moves=False, window=None, aligned=False, no_memory=["huxStsNoMem"],
+                     calls=0, arguments=[])
         given, cases, known = {}, [], False
         for rule in self.rules["family"]:
             if all(FILTERS[key](function, rule[key]) for key in FILTERS if key in rule):
                 known = True
-                entry.update({key: rule[key] for key in ("by_hand", "team", "moves", "window", "calls") if key in rule})
+                entry.update({key: rule[key] for key in entry if key in rule})
                 cases = rule.get("cases", cases)
                 for name, words in rule.get("p", {}).items():
                     given.setdefault(name, {}).update(words)
@@ -130,7 +134,7 @@ class Resolver:
                     raise Missing(f"nothing tells whether {name} may be null")
                 argument["null"] = rule["null"]
                 argument["fill"] = rule.get("fill", "random")
-                for key in ("count", "span"):
+                for key in ("count", "span", "foreign"):
                     if key in rule:
                         argument[key] = rule[key]
                 if role == "result" and argument["extents"]:

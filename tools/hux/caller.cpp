@@ -393,7 +393,7 @@ void Caller::placeImage(int index) {
   const int rows = static_cast<int>(evaluate(argument.extent[1])) + reach[1] + reach[3];
   const int rowBytes = width * perPixel * element;
   // Every other call has rows at odd addresses, every other one at those of elements.
-  const bool odd = plan_.call % 2 == 1;
+  const bool odd = plan_.call % 2 == 1 && !function_->aligned;
   const int unit = odd ? 1 : element;
   int step = rowBytes;
   if (argument.step >= 0) {
@@ -592,7 +592,8 @@ int Caller::breaks(const Function& function, const Argument& argument) {
   int count = argument.illegal.rows;
   if (argument.kind == Kind::value) return count;
   if (argument.null == Null::refused) count += argument.kind == Kind::planes ? 2 : 1;
-  if (argument.kind == Kind::record && function.part != Part::init) count += function.other >= 0 ? 2 : 1;
+  if (argument.kind == Kind::record && argument.judged && function.part != Part::init)
+    count += function.other >= 0 ? 2 : 1;
   return count;
 }
 
@@ -715,7 +716,7 @@ std::uint64_t Caller::run(const Function& function, const Plan& plan) {
   for (int k = 0; k < 2; ++k)
     if (plan.broken[k] >= 0) breakArgument(plan.broken[k], plan.how[k]);
 
-  status_ = call(function.shape, function.address, values_).i;
+  status_ = invoke(function, values_);
 
   Digest digest;
   digest.add(static_cast<std::uint64_t>(static_cast<std::int64_t>(status_)));

@@ -68,6 +68,7 @@ class Arena : public Memory {
 class Caller {
  public:
   explicit Caller(Memory& memory) : memory_(memory) {}
+  virtual ~Caller() = default;
 
   // In how many ways an argument can be wrong.
   static int breaks(const Function& function, const Argument& argument);
@@ -77,6 +78,13 @@ class Caller {
 
   int status() const { return status_; }
   std::string arguments() const;  // of the last call, as text
+
+ protected:
+  // The call itself, its arguments made.
+  virtual HuxStatus invoke(const Function& function, const Value* arguments) {
+    return call(function.shape, function.address, arguments).i;
+  }
+  Memory& memory() { return memory_; }
 
  private:
   static constexpr int kMost = 32;  // arguments

@@ -129,7 +129,8 @@ class Table:
                 f'{str(argument["of_maker"]).lower()}, {step[0] if step else -1}, '
                 f'{{{", ".join(formula(e) for e in extent)}}}, {{{", ".join(formula(r) for r in reach)}}}, '
                 f'{formula(argument.get("count"))}, {formula(argument.get("span"))}, '
-                f'{self.list(rows, function, arguments)}, {self.list(argument["illegal"], function, arguments)}, {teller}}}')
+                f'{self.list(rows, function, arguments)}, {self.list(argument["illegal"], function, arguments)}, {teller}, '
+                f'{str(argument.get("foreign") != "unchecked").lower()}}}')
 
     def list_of_arguments(self, function, arguments):
         lines = tuple(self.argument(a, function, arguments) for a in arguments)
@@ -161,7 +162,14 @@ class Table:
                 f'reinterpret_cast<Any>(&{function["name"]}), {self.shapes.index(function["shape"])}, {first}, '
                 f'{sum(not a["of_maker"] for a in arguments)}, {len(arguments)}, {make}, {free}, {other}, Part::{part}, '
                 f'{flag(rule["covered"])}, {flag(rule.get("by_hand"))}, {flag(rule.get("team"))}, '
-                f'{flag(rule.get("moves"))}, {rule.get("calls", 0)}}}')
+                f'{flag(rule.get("moves"))}, {flag(rule.get("aligned"))}, {self.no_memory(rule)}, {rule.get("calls", 0)}}}')
+
+    def no_memory(self, rule):
+        """The statuses of a call that got no memory, and whether it may have written."""
+        words = rule.get("no_memory", ["huxStsNoMem"])
+        written = words == "written"
+        words = ["huxStsNoMem"] if written else words
+        return f"{{{words[0]}, {words[-1]}}}, {str(written).lower()}"
 
     def trampolines(self):
         lines = ["Value call(int shape, Any function, const Value* a) {", "  Value r = {};", "  switch (shape) {"]

@@ -134,7 +134,8 @@ struct Argument {
   int step;  // of an image: the number of its step, or -1
   Formula extent[2], reach[4], count, span;
   List values, illegal;
-  int teller;  // in kTellers, or -1
+  int teller;   // in kTellers, or -1
+  bool judged;  // of a record: whether the function knows its own
 };
 
 // A formula among numbers: its place added to this.
@@ -154,7 +155,9 @@ struct Function {
   int firstArgument, own, all;  // its arguments; those behind own are its context's maker's
   int make, free, other;        // functions; other makes a context of the same record and another kind
   Part part;
-  bool covered, byHand, sums, moves;
+  bool covered, byHand, sums, moves, aligned;
+  HuxStatus noMemory[2];  // what it may return without memory, and whether it may have written then
+  bool writesAnyway;
   int calls;
 };
 
