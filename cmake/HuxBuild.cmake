@@ -14,6 +14,9 @@ if(HUX_THREADS)
   find_package(OpenMP REQUIRED COMPONENTS CXX)
   target_link_libraries(hux_threads INTERFACE OpenMP::OpenMP_CXX)
 endif()
+if(HUX_FUZZ AND CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+  target_compile_options(hux_build_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # Results must not depend on optimisation: no contraction to fused operations and no member of -ffast-math that changes a
 # value. errno and floating-point traps are not part of any result, so loops need not preserve them. Rows go top to

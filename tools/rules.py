@@ -12,6 +12,7 @@ resolve(registry) returns a dictionary by function name. Each entry:
   moves       whether pixels are only moved, so that every NaN keeps its bits
   window      null, or the sense of the anchor: "image order", "far corner", "mirrored", "centred"
   aligned     whether steps must be whole elements
+  errors_write  whether a call that fails may have written results
   no_memory   the statuses of a call that got no memory, or "written" where it may have written even so
   calls       how many legal calls show all that the rules list
   arguments   one for each parameter of the function, then one for each that the maker of its context takes beyond the
@@ -81,7 +82,7 @@ class Resolver:
 
     def resolve(self, function):
         """Raises Missing."""
-        entry = dict(covered=True, by_hand=False, team=None, moves=False, window=None, aligned=False, no_memory=["huxStsNoMem"],
+        entry = dict(covered=True, by_hand=False, team=None, moves=False, window=None, aligned=False, errors_write=False, no_memory=["huxStsNoMem"],
                      calls=0, arguments=[])
         given, cases, known = {}, [], False
         for rule in self.rules["family"]:

@@ -271,6 +271,7 @@ void Caller::choose() {
     const Argument& argument = own_[i];
     if (argument.source == Source::pixels && argument.kind == Kind::value) {
       for (int part = 0; part < 2; ++part) numbers_[i][part] = pixel(elementOf(argument), plan_.call, random_);
+      vary(argument, numbers_[i]);
     } else if (argument.source == Source::list) {
       bool first = argument.together;
       switch (argument.role) {
@@ -287,12 +288,14 @@ void Caller::choose() {
       rows_[i] = (plan_.call + (first ? 0 : i)) % argument.values.rows;
       for (int part = 0; part < std::min(argument.values.width, 4); ++part)
         numbers_[i][part] = number(argument.values, rows_[i], part);
+      vary(argument, numbers_[i]);
     }
   }
   for (int i = 0; i < function_->all; ++i) {
     const Argument& argument = own_[i];
-    if (argument.source == Source::formula)
-      for (int part = 0; part < argument.values.width; ++part) numbers_[i][part] = number(argument.values, 0, part);
+    if (argument.source != Source::formula) continue;
+    for (int part = 0; part < argument.values.width; ++part) numbers_[i][part] = number(argument.values, 0, part);
+    vary(argument, numbers_[i]);
   }
 }
 
@@ -389,23 +392,24 @@ void Caller::placeImage(int index) {
   const int element = sizeOf(argument.element), perPixel = argument.perPixel * argument.parts;
   int reach[4];
   for (int side = 0; side < 4; ++side) reach[side] = static_cast<int>(std::max(evaluate(argument.reach[side]), 0LL));
-  const int width = static_cast<int>(evaluate(argument.extent[0])) + reach[0] + reach[2];
-  const int rows = static_cast<int>(evaluate(argument.extent[1])) + reach[1] + reach[3];
+  const int width = std::max(static_cast<int>(evaluate(argument.extent[0])), 0) + reach[0] + reach[2];
+  const int rows = std::max(static_cast<int>(evaluate(argument.extent[1])) + reach[1] + reach[3], 1);
   const int rowBytes = width * perPixel * element;
   // Every other call has rows at odd addresses, every other one at those of elements.
   const bool odd = plan_.call % 2 == 1 && !function_->aligned;
   const int unit = odd ? 1 : element;
   int step = rowBytes;
   if (argument.step >= 0) {
-    if (!stepped_[argument.step]) values_[argument.step].i = rowBytes + random_.below(odd ? 13 : 5) * unit;
+    if (!stepped_[argument.step]) values_[argument.step].i = step = this->step(argument, rowBytes, unit);
     stepped_[argument.step] = true;
     step = values_[argument.step].i;
   }
   void* pointers[4] = {};
   for (int plane = 0; plane < argument.pointers; ++plane) {
-    const std::size_t bytes = static_cast<std::size_t>(rows - 1) * step + rowBytes;
+    const std::size_t above = static_cast<std::size_t>(rows - 1) * static_cast<std::size_t>(std::max(-step, 0));
+    const std::size_t bytes = static_cast<std::size_t>(rows - 1) * static_cast<std::size_t>(std::abs(step)) + rowBytes;
     const std::size_t offset = static_cast<std::size_t>(random_.below(64 / unit)) * unit;
-    std::byte* first = memory_.shown(bytes, 64, offset, random_);
+    std::byte* first = memory_.shown(bytes, 64, offset, random_) + above;
     images_[index][plane] = {first, rows, step, rowBytes};
     pointers[plane] = first + static_cast<std::ptrdiff_t>(reach[1]) * step + reach[0] * perPixel * element;
     for (int row = 0; row < rows; ++row) {
@@ -441,8 +445,8 @@ void Caller::placeImage(int index) {
   }
 }
 
-// numbers: of a row of values, for the fills that take one.
-void Caller::fillArray(const Argument& argument, std::byte* at, int count, const List& list, int row) {
+// The row of a list, or the first number of one, is for the fills that take them.
+void Caller::fillArray(const Argument& argument, std::byte* at, int count, const List& list, int row, double first) {
   const int bytes = sizeOf(argument.element);
   const auto put = [&](int i, double n) { store(argument.element, at + i * bytes, limit(argument.element, n)); };
   const auto given = [&](int part) { return list.rows ? number(list, row, part) : 0; };
@@ -456,7 +460,7 @@ void Caller::fillArray(const Argument& argument, std::byte* at, int count, const
       break;
     case Fill::element:
       for (int i = 0; i < count; ++i) put(i, plan_.call % 3 == 1 || random_.below(2) ? 1 + random_.below(255) : 0);
-      put(count / 2, 1);
+      if (count) put(count / 2, 1);
       break;
     case Fill::levels: {
       // From end to end of what pixels may be; the last is beyond it.
@@ -473,10 +477,10 @@ void Caller::fillArray(const Argument& argument, std::byte* at, int count, const
       for (int i = 0; i < count; ++i) put(i, given(i));
       break;
     case Fill::constant:
-      for (int i = 0; i < count; ++i) put(i, given(0));
+      for (int i = 0; i < count; ++i) put(i, first);
       break;
     case Fill::climbing:
-      for (int i = 0; i < count; ++i) put(i, given(0) + 3 * i);
+      for (int i = 0; i < count; ++i) put(i, first + 3 * i);
       break;
     case Fill::random:
       for (int i = 0; i < count * bytes; ++i) at[i] = static_cast<std::byte>(random_.next() >> 40);
@@ -494,7 +498,8 @@ void Caller::placeArray(int index) {
   for (channel_ = 0; channel_ < argument.pointers; ++channel_) {
     const int count = static_cast<int>(std::max(evaluate(argument.count), 0LL)) * argument.parts;
     std::byte* at = memory_.shown(count * bytes, 16, 0, random_);
-    fillArray(argument, at, count, argument.values, rows_[index]);
+    fillArray(argument, at, count, argument.values, rows_[index], numbers_[index][0]);
+    varyArray(argument, at, count);
     images_[index][channel_] = {at, 1, 0, static_cast<int>(count * bytes)};
     pointers[channel_] = at;
   }
@@ -615,7 +620,8 @@ void Caller::breakArgument(int index, int how) {
       const Image& array = images_[index][pointer];
       Argument filled = argument;
       if (filled.fill == Fill::element) filled.fill = Fill::constant;
-      fillArray(filled, array.first, array.rowBytes / sizeOf(argument.element), argument.illegal, how);
+      fillArray(filled, array.first, array.rowBytes / sizeOf(argument.element), argument.illegal, how,
+                number(argument.illegal, how, 0));
     }
     return;
   }

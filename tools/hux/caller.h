@@ -76,7 +76,8 @@ class Caller {
   // One call. The digest is that of its status and of all bytes that it could reach.
   std::uint64_t run(const Function& function, const Plan& plan);
 
-  int status() const { return status_; }
+  HuxStatus status() const { return status_; }
+  const char* name() const { return function_ ? function_->name : "no call"; }
   std::string arguments() const;  // of the last call, as text
 
  protected:
@@ -84,7 +85,16 @@ class Caller {
   virtual HuxStatus invoke(const Function& function, const Value* arguments) {
     return call(function.shape, function.address, arguments).i;
   }
+  // For callers with arguments of their own: the numbers of a value that has been chosen; the step of an image whose
+  // rows have so many bytes (below 0, or short of a row, as it may be); what is in an array.
+  virtual void vary(const Argument&, double*) {}
+  virtual int step(const Argument&, int rowBytes, int unit) {
+    return rowBytes + random_.below(plan_.call % 2 && !function_->aligned ? 13 : 5) * unit;
+  }
+  virtual void varyArray(const Argument&, std::byte*, int) {}
+
   Memory& memory() { return memory_; }
+  const Function& function() const { return *function_; }
 
  private:
   static constexpr int kMost = 32;  // arguments
@@ -98,7 +108,7 @@ class Caller {
   long long evaluate(Formula formula) const;
   void choose();
   void fillPixels(Element element, std::byte* at, std::size_t count);
-  void fillArray(const Argument& argument, std::byte* at, int count, const List& list, int row);
+  void fillArray(const Argument& argument, std::byte* at, int count, const List& list, int row, double first);
   void placeArgument(int index);
   void placeImage(int index);
   void placeArray(int index);
@@ -124,7 +134,7 @@ class Caller {
   int channel_ = 0, row_ = 0;    // what else a formula sees
   void* context_ = nullptr;
   void* foreign_ = nullptr;
-  int status_ = 0;
+  HuxStatus status_ = 0;
 };
 
 }  // namespace hux::tool

@@ -162,7 +162,7 @@ class Table:
                 f'reinterpret_cast<Any>(&{function["name"]}), {self.shapes.index(function["shape"])}, {first}, '
                 f'{sum(not a["of_maker"] for a in arguments)}, {len(arguments)}, {make}, {free}, {other}, Part::{part}, '
                 f'{flag(rule["covered"])}, {flag(rule.get("by_hand"))}, {flag(rule.get("team"))}, '
-                f'{flag(rule.get("moves"))}, {flag(rule.get("aligned"))}, {self.no_memory(rule)}, {rule.get("calls", 0)}}}')
+                f'{flag(rule.get("moves"))}, {flag(rule.get("aligned"))}, {flag(rule.get("errors_write"))}, {self.no_memory(rule)}, {rule.get("calls", 0)}}}')
 
     def no_memory(self, rule):
         """The statuses of a call that got no memory, and whether it may have written."""

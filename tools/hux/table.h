@@ -155,7 +155,7 @@ struct Function {
   int firstArgument, own, all;  // its arguments; those behind own are its context's maker's
   int make, free, other;        // functions; other makes a context of the same record and another kind
   Part part;
-  bool covered, byHand, sums, moves, aligned;
+  bool covered, byHand, sums, moves, aligned, errorsWrite;
   HuxStatus noMemory[2];  // what it may return without memory, and whether it may have written then
   bool writesAnyway;
   int calls;
