@@ -67,6 +67,9 @@ HUX_API HuxStatus huxsMove_8u(const Hux8u* pSrc, Hux8u* pDst, int len);
 
 /* A setting. */
 extern HUX_API Hux32s hux_setting;
+
+/* SetAll: sets it. */
+HUX_API void huxSetAll(Hux32s count);
 """
 
 
@@ -135,7 +138,8 @@ class HardNames(unittest.TestCase):
         group = self.registry["groups"][self.functions["huxiCopy_8u_C3CR"]["group"]]
         self.assertEqual((group["section"], group["preface"], group["comment"]),
                          ("Moves", "Speaks for\n  all moves.", "Copy: moves."))
-        self.assertEqual(self.registry["groups"][self.functions["huxiSum_8u_C3R"]["group"]]["preface"], "")
+        for name in ("huxiSum_8u_C3R", "huxSetAll"):
+            self.assertEqual(self.registry["groups"][self.functions[name]["group"]]["preface"], "")
 
     def test_the_rest(self):
         self.assertEqual([(s["name"], s["value"], s["kind"], s["comment"]) for s in self.registry["statuses"]],
