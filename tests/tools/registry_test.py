@@ -138,6 +138,7 @@ class HardNames(unittest.TestCase):
         group = self.registry["groups"][self.functions["huxiCopy_8u_C3CR"]["group"]]
         self.assertEqual((group["section"], group["preface"], group["comment"]),
                          ("Moves", "Speaks for\n  all moves.", "Copy: moves."))
+        self.assertEqual(group["summary"], "moves")
         for name in ("huxiSum_8u_C3R", "huxSetAll"):
             self.assertEqual(self.registry["groups"][self.functions[name]["group"]]["preface"], "")
 

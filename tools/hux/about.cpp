@@ -47,13 +47,12 @@ std::string about() {
          processor() + "\n  threads    " + std::to_string(huxGetThreadCount()) + "\n";
 }
 
-std::string listOfDigests() {
+std::string listOfDigests(const char* program) {
   std::error_code error;
-  const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
-  if (!error) {
-    const std::filesystem::path installed = program.parent_path().parent_path() / "share" / "hux" / "digests.txt";
-    if (std::filesystem::exists(installed, error)) return installed.string();
-  }
+  const std::filesystem::path linked = std::filesystem::read_symlink("/proc/self/exe", error);
+  const std::filesystem::path place = error ? std::filesystem::absolute(program, error) : linked;
+  const std::filesystem::path list = place.parent_path().parent_path() / "share" / "hux" / "digests.txt";
+  if (std::filesystem::exists(list, error)) return list.string();
   return HUX_DIGESTS;
 }
 

@@ -8,7 +8,7 @@ namespace hux::tool {
 // Lines of "  name  value".
 std::string about();
 
-// The file of digests beside the installed program, or in the tree that it was built from.
-std::string listOfDigests();
+// The file of digests beside the installed program (as it was called), or in the tree that it was built from.
+std::string listOfDigests(const char* program);
 
 }  // namespace hux::tool

@@ -100,7 +100,7 @@ int run(int count, char** arguments) {
     return 2;
   }
   CheckOptions options;
-  options.list = listOfDigests();
+  options.list = listOfDigests(arguments[0]);
   for (std::size_t i = 0; i < words.size(); ++i) {
     const bool more = i + 1 < words.size();
     if (words[i] == "--only" && more) {
