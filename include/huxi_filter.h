@@ -1088,6 +1088,83 @@ HUX_API HuxStatus huxiFilterWiener_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux
 
 /* ---- Convolution ---- */
 
+/* ConvFull: the convolution of two images, of W = src1Size.width + src2Size.width - 1 by H = src1Size.height +
+ * src2Size.height - 1 pixels. Pixel (x, y) is the sum over all (i, j) of src1(i, j) * src2(x - i, y - j), where nothing
+ * is added outside of the images. ConvValid: that part of it where the smaller image lies within the larger, of
+ * bigWidth - smallWidth + 1 by bigHeight - smallHeight + 1 pixels; pixel (x, y) is the sum over all (i, j) of
+ * small(i, j) * big(x + smallWidth - 1 - i, y + smallHeight - 1 - j). Neither reads around its images. Each channel is
+ * convolved with that of the other image; the alpha of AC4 is left as it was. In 8u and 16s the sum is divided by the
+ * divisor, that is, multiplied by recip = 1.0f / divisor in single precision, and limited to the range of the type. The
+ * images must not overlap.
+ *
+ * The order of the sources does not matter but for what follows. In ConvFull the first is `big` unless it is narrower
+ * than the second; in ConvValid unless it is narrower or lower. Of several ways of computing the same, which round
+ * differently, the sizes choose one:
+ *
+ *   ConvFull, W * H < 1705 or smallWidth * smallHeight < 121
+ *       Sums. 8u: exact; (float)sum * recip, half up. 16s: products rounded to floats and added up in single
+ *       precision, the rows of `small` downwards, its pixels from left to right; times recip, ties to even. 32f:
+ *       likewise, but from the last pixel of `small` back to the first, and as it is.
+ *   ConvFull, otherwise, bigWidth * bigHeight <= 7 * smallWidth * smallHeight
+ *       Transforms of both images, extended by zeros to powers of two.
+ *   ConvFull, otherwise
+ *       Transforms of blocks of `big`. The side of a block is the power of two from twice that of `small` on; doubled
+ *       once if that is below 256 and below the result's side.
+ *   ConvValid, smallWidth * smallHeight < 121; 32f of C3 and AC4 also where the result has fewer than 81 pixels
+ *       Filter with `small` as its kernel and its rules of rounding: huxiFilter_8u with the divisor nearest to
+ *       1 / recip, huxiFilter32f_16s with taps times recip, or huxiFilter_32f; in C1 also with its check of steps,
+ *       which it cuts to whole elements.
+ *   ConvValid, otherwise, a result of fewer than 81 pixels
+ *       Sums of the rows of `small`, added up in single precision from the last one back. 8u and 16s: sums of rows are
+ *       exact and rounded to floats; the total times recip, 8u half up, 16s ties to even. 32f: FilterRow, with its
+ *       check of the step of `big`, which it cuts to whole elements.
+ *   ConvValid, otherwise
+ *       Transforms of blocks of `big`.
+ *
+ * Transforms are those of huxiFFTFwd_RToPack_32f and huxiFFTInv_PackToR_32f, so that results are within the rounding of
+ * floats; 8u and 16s are rounded to the nearest integer, ties to even, after they were multiplied by recip. The work is
+ * shared among threads; the result is the same for any number of them.
+ * Checks: null pointers (huxStsNullPtr), both sizes (huxStsBadSize), steps (huxStsBadStep), divisor of 0
+ * (huxStsBadDivisor), in ConvValid images of which neither fits into the other (huxStsBadSize). huxStsNoMem when there
+ * is no memory, which the sums of ConvFull_32f can do without; huxStsBadOrder for blocks of more than 2^30 pixels along
+ * a side. Nothing has been written then. */
+HUX_API HuxStatus huxiConvFull_8u_C1R(const Hux8u* pSrc1, int src1Step, HuxiSize src1Size, const Hux8u* pSrc2,
+                                      int src2Step, HuxiSize src2Size, Hux8u* pDst, int dstStep, Hux32s divisor);
+HUX_API HuxStatus huxiConvFull_8u_C3R(const Hux8u* pSrc1, int src1Step, HuxiSize src1Size, const Hux8u* pSrc2,
+                                      int src2Step, HuxiSize src2Size, Hux8u* pDst, int dstStep, Hux32s divisor);
+HUX_API HuxStatus huxiConvFull_8u_AC4R(const Hux8u* pSrc1, int src1Step, HuxiSize src1Size, const Hux8u* pSrc2,
+                                       int src2Step, HuxiSize src2Size, Hux8u* pDst, int dstStep, Hux32s divisor);
+HUX_API HuxStatus huxiConvFull_16s_C1R(const Hux16s* pSrc1, int src1Step, HuxiSize src1Size, const Hux16s* pSrc2,
+                                       int src2Step, HuxiSize src2Size, Hux16s* pDst, int dstStep, Hux32s divisor);
+HUX_API HuxStatus huxiConvFull_16s_C3R(const Hux16s* pSrc1, int src1Step, HuxiSize src1Size, const Hux16s* pSrc2,
+                                       int src2Step, HuxiSize src2Size, Hux16s* pDst, int dstStep, Hux32s divisor);
+HUX_API HuxStatus huxiConvFull_16s_AC4R(const Hux16s* pSrc1, int src1Step, HuxiSize src1Size, const Hux16s* pSrc2,
+                                        int src2Step, HuxiSize src2Size, Hux16s* pDst, int dstStep, Hux32s divisor);
+HUX_API HuxStatus huxiConvFull_32f_C1R(const Hux32f* pSrc1, int src1Step, HuxiSize src1Size, const Hux32f* pSrc2,
+                                       int src2Step, HuxiSize src2Size, Hux32f* pDst, int dstStep);
+HUX_API HuxStatus huxiConvFull_32f_C3R(const Hux32f* pSrc1, int src1Step, HuxiSize src1Size, const Hux32f* pSrc2,
+                                       int src2Step, HuxiSize src2Size, Hux32f* pDst, int dstStep);
+HUX_API HuxStatus huxiConvFull_32f_AC4R(const Hux32f* pSrc1, int src1Step, HuxiSize src1Size, const Hux32f* pSrc2,
+                                        int src2Step, HuxiSize src2Size, Hux32f* pDst, int dstStep);
+HUX_API HuxStatus huxiConvValid_8u_C1R(const Hux8u* pSrc1, int src1Step, HuxiSize src1Size, const Hux8u* pSrc2,
+                                       int src2Step, HuxiSize src2Size, Hux8u* pDst, int dstStep, Hux32s divisor);
+HUX_API HuxStatus huxiConvValid_8u_C3R(const Hux8u* pSrc1, int src1Step, HuxiSize src1Size, const Hux8u* pSrc2,
+                                       int src2Step, HuxiSize src2Size, Hux8u* pDst, int dstStep, Hux32s divisor);
+HUX_API HuxStatus huxiConvValid_8u_AC4R(const Hux8u* pSrc1, int src1Step, HuxiSize src1Size, const Hux8u* pSrc2,
+                                        int src2Step, HuxiSize src2Size, Hux8u* pDst, int dstStep, Hux32s divisor);
+HUX_API HuxStatus huxiConvValid_16s_C1R(const Hux16s* pSrc1, int src1Step, HuxiSize src1Size, const Hux16s* pSrc2,
+                                        int src2Step, HuxiSize src2Size, Hux16s* pDst, int dstStep, Hux32s divisor);
+HUX_API HuxStatus huxiConvValid_16s_C3R(const Hux16s* pSrc1, int src1Step, HuxiSize src1Size, const Hux16s* pSrc2,
+                                        int src2Step, HuxiSize src2Size, Hux16s* pDst, int dstStep, Hux32s divisor);
+HUX_API HuxStatus huxiConvValid_16s_AC4R(const Hux16s* pSrc1, int src1Step, HuxiSize src1Size, const Hux16s* pSrc2,
+                                         int src2Step, HuxiSize src2Size, Hux16s* pDst, int dstStep, Hux32s divisor);
+HUX_API HuxStatus huxiConvValid_32f_C1R(const Hux32f* pSrc1, int src1Step, HuxiSize src1Size, const Hux32f* pSrc2,
+                                        int src2Step, HuxiSize src2Size, Hux32f* pDst, int dstStep);
+HUX_API HuxStatus huxiConvValid_32f_C3R(const Hux32f* pSrc1, int src1Step, HuxiSize src1Size, const Hux32f* pSrc2,
+                                        int src2Step, HuxiSize src2Size, Hux32f* pDst, int dstStep);
+HUX_API HuxStatus huxiConvValid_32f_AC4R(const Hux32f* pSrc1, int src1Step, HuxiSize src1Size, const Hux32f* pSrc2,
+                                         int src2Step, HuxiSize src2Size, Hux32f* pDst, int dstStep);
+
 /* ---- Deconvolution ---- */
 
 /* ---- Window functions ---- */
