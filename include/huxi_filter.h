@@ -1167,6 +1167,56 @@ HUX_API HuxStatus huxiConvValid_32f_AC4R(const Hux32f* pSrc1, int src1Step, Huxi
 
 /* ---- Deconvolution ---- */
 
+/* DeconvFFT, DeconvLR: an image restored that was blurred by a known kernel of kernelSize by kernelSize taps, row by
+ * row; of C3 three interleaved values for each tap, one for each channel, and each channel is restored by itself. A
+ * state is made for one kernel and layout (InitAlloc), serves any number of calls one after the other, each of which
+ * starts afresh, and is freed (Free). The calls write to it: threads must not share one. Nothing tells a state of C1
+ * from one of C3.
+ *
+ * Both widen the region by h = (kernelSize - 1) / 2 pixels on each side: its edge, weighted by what part of the
+ * kernel's weight reaches each pixel. A kernel that adds up to 0 over a quarter or an edge makes that part infinite or
+ * NaN. Values of the result of a magnitude not above the threshold become 0. The images may be one.
+ *
+ * DeconvFFT: inverse filtering on a square of 2^FFTorder pixels, which holds the region and the kernel. Taps of a
+ * magnitude not above the threshold count as 0; of each frequency of the kernel, a part below the threshold counts as
+ * 0, and where neither is above it the frequency passes unchanged.
+ * DeconvLR: numIter times estimate *= filter(image / filter(estimate)), from the widened image on. Both filters are
+ * huxiFilter_32f_C1R with the anchor (h, h), the first with the kernel, the second with the kernel transposed; a
+ * quotient whose divisor is not above the threshold in magnitude is 0, and so becomes an estimate below 1.18e-36.
+ *
+ * InitAlloc. Checks: null pointers (huxStsNullPtr); kernelSize below 1 or above 2^FFTorder, or a side of maxRoiSize,
+ * which may be no less than 1 either (huxStsBadSize); threshold below 0 (huxStsBadArg); FFTorder above 30
+ * (huxStsBadOrder); memory (huxStsNoMem). On failure *ppState is as it was. maxRoiSize is the largest region with its
+ * margin: roiSize + kernelSize - 1. */
+typedef struct HuxiDeconvFFTState HuxiDeconvFFTState;
+typedef struct HuxiDeconvLRState HuxiDeconvLRState;
+HUX_API HuxStatus huxiDeconvFFTInitAlloc_32f_C1R(HuxiDeconvFFTState** ppState, const Hux32f* pKernel, int kernelSize,
+                                                 int FFTorder, Hux32f threshold);
+HUX_API HuxStatus huxiDeconvFFTInitAlloc_32f_C3R(HuxiDeconvFFTState** ppState, const Hux32f* pKernel, int kernelSize,
+                                                 int FFTorder, Hux32f threshold);
+HUX_API HuxStatus huxiDeconvLRInitAlloc_32f_C1R(HuxiDeconvLRState** ppState, const Hux32f* pKernel, int kernelSize,
+                                                HuxiSize maxRoiSize, Hux32f threshold);
+HUX_API HuxStatus huxiDeconvLRInitAlloc_32f_C3R(HuxiDeconvLRState** ppState, const Hux32f* pKernel, int kernelSize,
+                                                HuxiSize maxRoiSize, Hux32f threshold);
+
+/* The restoration itself. No memory is taken. Checks: null pointers (huxStsNullPtr); roiSize (huxStsBadSize); roiSize +
+ * kernelSize - 1 above 2^FFTorder, or above maxRoiSize (huxStsBadSize); steps below the bytes of a row (huxStsBadStep);
+ * steps that are no multiple of 4 (huxStsStepNotMultipleOf4); numIter below 1 (huxStsBadArg). */
+HUX_API HuxStatus huxiDeconvFFT_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxiDeconvFFTState* pState);
+HUX_API HuxStatus huxiDeconvFFT_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                        HuxiDeconvFFTState* pState);
+HUX_API HuxStatus huxiDeconvLR_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                       int numIter, HuxiDeconvLRState* pState);
+HUX_API HuxStatus huxiDeconvLR_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
+                                       int numIter, HuxiDeconvLRState* pState);
+
+/* Frees a state. Checks: null pointer (huxStsNullPtr). */
+HUX_API HuxStatus huxiDeconvFFTFree_32f_C1R(HuxiDeconvFFTState* pState);
+HUX_API HuxStatus huxiDeconvFFTFree_32f_C3R(HuxiDeconvFFTState* pState);
+HUX_API HuxStatus huxiDeconvLRFree_32f_C1R(HuxiDeconvLRState* pState);
+HUX_API HuxStatus huxiDeconvLRFree_32f_C3R(HuxiDeconvLRState* pState);
+
 /* ---- Window functions ---- */
 
 /* WinBartlett, WinHamming, and their Sep forms: the image times a window that falls off towards the edges.

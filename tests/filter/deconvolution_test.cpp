@@ -1,0 +1,286 @@
+// DeconvFFT and DeconvLR step by step, the margin cell by cell.
+#include <cmath>
+#include <functional>
+#include <limits>
+
+#include "huxi_filter.h"
+#include "huxi_transform.h"
+#include "support/failing_malloc.h"
+#include "support/forms.h"
+
+namespace hux::test {
+namespace {
+
+using Floats = std::vector<Hux32f>;
+
+// One channel, with zeros around.
+struct Plane {
+  int w, h;
+  Floats values;
+
+  Plane(int width, int height) : w(width), h(height), values(std::size_t(width) * std::size_t(height)) {}
+  Hux32f& at(int x, int y) { return values[std::size_t(y) * std::size_t(w) + std::size_t(x)]; }
+  Hux32f at(int x, int y) const { return x < 0 || y < 0 || x >= w || y >= h ? 0 : const_cast<Plane*>(this)->at(x, y); }
+};
+
+// The image with its margin, in an array of w by h.
+Plane widened(const Plane& p, const Plane& kernel, int w, int h) {
+  const int k = kernel.w, m = (k - 1) / 2;
+  Plane a(w, h);
+  const auto sum = [](int a0, int a1, int b0, int b1, auto cell) {
+    Hux32f total = 0;
+    for (int i = a0; i < a1; ++i)
+      for (int j = b0; j < b1; ++j) total += cell(i, j);
+    return total;
+  };
+  const auto K = [&](int row, int column) { return kernel.at(column, row); };
+  const auto topLeft = [&](int i, int j) { return K(k - 1 - i, k - 1 - j); };
+  const auto topRight = [&](int i, int j) { return K(k - 1 - i, j); };
+  const auto bottomLeft = [&](int i, int j) { return K(i, k - 1 - j); };
+  const auto lo = [&](int x) { return std::max(m - x, 0); };
+  const auto hi = [&](int x, int n) { return std::min(k, m + n - x); };
+  const int right = p.w + 2 * m - 1, bottom = p.h + 2 * m - 1;
+
+  for (int y = 0; y < p.h; ++y)
+    for (int x = 0; x < p.w; ++x) a.at(m + x, m + y) = p.at(x, y);
+  const auto corner = [&](int column, int row, Hux32f pixel, int i, int j, auto cell) {
+    a.at(column, row) = pixel * sum(0, i + 1, 0, j + 1, cell) / sum(0, m + 1, 0, m + 1, cell);
+  };
+  for (int i = 0; i < m; ++i)
+    for (int j = 0; j < m; ++j) {
+      corner(j, i, p.at(0, 0), i, j, topLeft);
+      corner(m + p.w + j, i, p.at(p.w - 1, 0), i, j, topRight);
+      corner(j, bottom - i, p.at(0, p.h - 1), i, j, bottomLeft);
+      corner(right - j, bottom - i, p.at(p.w - 1, p.h - 1), i, j, K);
+    }
+  for (int i = 0; i < m; ++i)
+    for (int x = 0; x < p.w; ++x) {
+      const int from = lo(x), to = hi(x, p.w);
+      a.at(m + x, i) = p.at(x, 0) * sum(0, i + 1, from, to, topLeft) / sum(0, m + 1, from, to, topRight);
+      a.at(m + x, bottom - i) = p.at(x, p.h - 1) * sum(0, i + 1, from, to, bottomLeft) / sum(0, m + 1, from, to, K);
+    }
+  for (int y = 0; y < p.h; ++y)
+    for (int j = 0; j < m; ++j) {
+      const int from = lo(y), to = hi(y, p.h);
+      a.at(j, m + y) = p.at(0, y) * sum(from, to, 0, j + 1, bottomLeft) / sum(from, to, 0, m + 1, bottomLeft);
+      a.at(right - j, m + y) = p.at(p.w - 1, y) * sum(from, to, 0, j + 1, K) / sum(from, to, 0, m + 1, K);
+    }
+  return a;
+}
+
+Hux32f kept(Hux32f v, Hux32f threshold) { return std::fabs(v) > threshold ? v : 0; }
+
+Plane byFFT(const Plane& p, const Plane& kernel, int order, Hux32f threshold) {
+  const int n = 1 << order;
+  using Numbers = std::vector<Hux32fc>;
+  HuxiFFTRecord* context = nullptr;
+  EXPECT_EQ(huxiFFTInitAlloc_C_32fc(&context, order, order, huxFftScaleInv, huxHintAccurate), huxStsOk);
+  const auto spectrum = [&](const Plane& image) {
+    Numbers z(std::size_t(n) * std::size_t(n), Hux32fc{0, 0});
+    for (int y = 0; y < image.h; ++y)
+      for (int x = 0; x < image.w; ++x) z[std::size_t(y * n + x)].re = image.at(x, y);
+    huxiFFTFwd_CToC_32fc_C1IR(z.data(), 8 * n, context, nullptr);
+    return z;
+  };
+  Plane taps = kernel;
+  for (Hux32f& tap : taps.values)
+    if (std::fabs(tap) <= threshold) tap = 0;
+  const Numbers blur = spectrum(taps);
+  Numbers image = spectrum(widened(p, kernel, n, n));
+  for (std::size_t i = 0; i < image.size(); ++i) {
+    Hux32f re = blur[i].re, im = blur[i].im;
+    if (std::fabs(re) < threshold) re = 0;
+    if (std::fabs(im) < threshold) im = 0;
+    Hux32fc inverse = {1, 0};
+    if (std::fabs(re) > threshold || std::fabs(im) > threshold) {
+      const Hux32f square = re * re + im * im;
+      inverse = {re / square, -1.0f * im / square};
+    }
+    const Hux32fc z = image[i];
+    image[i] = {z.re * inverse.re - z.im * inverse.im, z.re * inverse.im + z.im * inverse.re};
+  }
+  huxiFFTInv_CToC_32fc_C1IR(image.data(), 8 * n, context, nullptr);
+  huxiFFTFree_C_32fc(context);
+  Plane out(p.w, p.h);
+  for (int y = 0; y < p.h; ++y)
+    for (int x = 0; x < p.w; ++x) out.at(x, y) = kept(image[std::size_t(y * n + x)].re, threshold);
+  return out;
+}
+
+Plane filtered(const Plane& p, const Plane& kernel) {
+  const int k = kernel.w, m = (k - 1) / 2;
+  Plane out(p.w, p.h);
+  for (int y = 0; y < p.h; ++y)
+    for (int x = 0; x < p.w; ++x)
+      for (int j = k - 1; j >= 0; --j)
+        for (int i = k - 1; i >= 0; --i) out.at(x, y) += p.at(x + m - i, y + m - j) * kernel.at(i, j);
+  return out;
+}
+Plane byLR(const Plane& p, const Plane& kernel, int iterations, Hux32f threshold) {
+  const int k = kernel.w, m = (k - 1) / 2;
+  const Plane image = widened(p, kernel, p.w + k - 1, p.h + k - 1);
+  Plane estimate = image, transposed = kernel;
+  for (int y = 0; y < k; ++y)
+    for (int x = 0; x < k; ++x) transposed.at(x, y) = kernel.at(y, x);
+  for (int n = 0; n < iterations; ++n) {
+    Plane ratio = filtered(estimate, kernel);
+    for (std::size_t i = 0; i < ratio.values.size(); ++i) {
+      Hux32f& r = ratio.values[i];
+      r = std::fabs(r) > threshold ? image.values[i] / r : 0;
+    }
+    const Plane correction = filtered(ratio, transposed);
+    for (std::size_t i = 0; i < estimate.values.size(); ++i) {
+      Hux32f& e = estimate.values[i];
+      e = std::fabs(double(e)) > 1.1754943508222875e-36 ? e * correction.values[i] : 0;
+    }
+  }
+  Plane out(p.w, p.h);
+  for (int y = 0; y < p.h; ++y)
+    for (int x = 0; x < p.w; ++x) out.at(x, y) = kept(estimate.at(m + x, m + y), threshold);
+  return out;
+}
+
+// Both families, for one layout. A state is told the largest region with its margin; `times` is the iterations.
+struct Family : Form {
+  bool fft;
+  std::function<HuxStatus(void**, const Hux32f*, int, HuxiSize, int, Hux32f)> init;
+  std::function<HuxStatus(const void*, int, void*, int, HuxiSize, int, void*)> run;
+  std::function<HuxStatus(void*)> free;
+};
+#define FAMILY(name, l, extent, ...)                                                                              \
+  Family {                                                                                                        \
+    {#name " " #l, 4, l}, #name[0] == 'F',                                                                        \
+        [](void** state, const Hux32f* kernel, int k, [[maybe_unused]] HuxiSize most, [[maybe_unused]] int order, \
+           Hux32f threshold) {                                                                                    \
+          return erased<huxiDeconv##name##InitAlloc_32f_##l##R>(state, kernel, k, extent, threshold);             \
+        },                                                                                                        \
+        [](const void* src, int srcStep, void* dst, int dstStep, HuxiSize roi, [[maybe_unused]] int times,        \
+           void* state) {                                                                                         \
+          return erased<huxiDeconv##name##_32f_##l##R>(src, srcStep, dst, dstStep, roi, __VA_ARGS__ state);       \
+        },                                                                                                        \
+        erased<huxiDeconv##name##Free_32f_##l##R>                                                                 \
+  }
+#define COMMA ,
+std::vector<Family> families() {
+  return {FAMILY(FFT, C1, order), FAMILY(FFT, C3, order), FAMILY(LR, C1, most, times COMMA),
+          FAMILY(LR, C3, most, times COMMA)};
+}
+
+// An image whose step is a multiple of 4 and holds its rows.
+Image imageOf(Rng& rng, const Family& f, HuxiSize size) {
+  for (;;) {
+    Image image(rng, size.width, size.height, f.pixelBytes(), Place(between(rng, 0, 2)));
+    if (image.step() % 4 != 0 || image.step() < size.width * f.pixelBytes()) continue;
+    image.fill<Hux32f>([&] { return Hux32f(between(rng, 0, 4000)) / 16; });
+    return image;
+  }
+}
+Plane channelOf(const Image& image, int c) {
+  Plane p(image.width(), image.height());
+  for (int y = 0; y < p.h; ++y)
+    for (int x = 0; x < p.w; ++x) p.at(x, y) = image.get<Hux32f>(x, y, c);
+  return p;
+}
+// Interleaved kernels with their weight in the middle.
+Floats kernelOf(Rng& rng, const Family& f, int k) {
+  const int channels = f.layout.stride;
+  Floats taps(std::size_t(k * k * channels));
+  for (std::size_t i = 0; i < taps.size(); ++i) {
+    const bool middle = int(i) / channels == k * k / 2;
+    taps[i] = (middle ? Hux32f(k * k) : Hux32f(between(rng, 1, 100)) / 100) / Hux32f(2 * k * k);
+  }
+  return taps;
+}
+
+// Calls that follow each other with one state, of any regions.
+TEST(Deconvolution, StepByStep) {
+  Rng rng(1);
+  for (const Family& f : families())
+    for (const int k : {1, 2, 3, 4, 5, 8, 9})
+      for (const Hux32f threshold : {0.0f, 0.004f, std::numeric_limits<Hux32f>::quiet_NaN()}) {
+        SCOPED_TRACE(f.name + " k " + std::to_string(k) + " threshold " + std::to_string(threshold));
+        const Floats kernel = kernelOf(rng, f, k);
+        const int order = between(rng, 4, 6), n = 1 << order;
+        const HuxiSize most = f.fft ? HuxiSize{n, n} : HuxiSize{between(rng, k, 70), between(rng, k, 40)};
+        const int live = liveBlocks();
+        void* state = nullptr;
+        const HuxStatus status = walkAllocationFailures(
+            [&] { return f.init(&state, kernel.data(), k, most, order, threshold); },
+            [&](HuxStatus s) { EXPECT_TRUE(s == huxStsNoMem && !state && liveBlocks() == live); });
+        ASSERT_EQ(status, huxStsOk);
+        for (int call = 0; call < 3; ++call) {
+          HuxiSize roi = {most.width - k + 1, most.height - k + 1};
+          if (call == 1) roi = {between(rng, 1, roi.width), between(rng, 1, roi.height)};
+          const Image src = imageOf(rng, f, roi), dst = imageOf(rng, f, roi);
+          Image expected = dst;
+          const int times = between(rng, 1, 3);
+          for (int c = 0; c < f.layout.stride; ++c) {
+            Plane taps(k, k);
+            for (int i = 0; i < k * k; ++i) taps.values[std::size_t(i)] = kernel[std::size_t(i * f.layout.stride + c)];
+            const Plane p = channelOf(src, c);
+            const Plane out = f.fft ? byFFT(p, taps, order, threshold) : byLR(p, taps, times, threshold);
+            for (int y = 0; y < roi.height; ++y)
+              for (int x = 0; x < roi.width; ++x) expected.set(x, y, c, out.at(x, y));
+          }
+          ASSERT_EQ(f.run(src.bytes(), src.step(), dst.bytes(), dst.step(), roi, times, state), huxStsOk);
+          ASSERT_TRUE(same(dst, expected)) << roi.width << "x" << roi.height;
+        }
+        ASSERT_EQ(f.free(state), huxStsOk);
+        ASSERT_EQ(liveBlocks(), live);
+      }
+}
+
+TEST(Deconvolution, Checks) {
+  Rng rng(3);
+  for (const Family& f : families()) {
+    SCOPED_TRACE(f.name);
+    constexpr int k = 9;
+    const Floats taps = kernelOf(rng, f, k);
+    const Image untouched = imageOf(rng, f, {1, 1});
+    void* made = nullptr;
+    {
+      void** to = &made;
+      const Hux32f* kernel = taps.data();
+      int size = k, order = 5;
+      HuxiSize most = {9, 32};
+      Hux32f threshold = 0.5f;
+      CheckOrder check([&] {
+        const HuxStatus s = f.init(to, kernel, size, most, order, threshold);
+        if (s == huxStsOk) f.free(made);
+        return s;
+      });
+      check.breaks(huxStsNullPtr, to, nullptr).breaks(huxStsNullPtr, kernel, nullptr).breaks(huxStsBadSize, size, 0);
+      if (f.fft)
+        check.breaks(huxStsBadSize, order, 3).breaks(huxStsBadSize, order, -1);
+      else
+        check.breaks(huxStsBadSize, most.width, 8).breaks(huxStsBadSize, most.height, 8);
+      check.breaks(huxStsBadArg, threshold, -1.0f);
+      if (f.fft) check.breaks(huxStsBadOrder, order, 31).breaks(huxStsBadOrder, order, 2000);
+      check.run(untouched);
+    }
+    void* state = nullptr;
+    ASSERT_EQ(f.init(&state, taps.data(), k, {32, 32}, 5, 0), huxStsOk);
+    constexpr int huge = std::numeric_limits<int>::max();
+    EXPECT_EQ(f.init(&made, taps.data(), k, {huge, huge}, 30, 0), huxStsNoMem);
+    const Image src = imageOf(rng, f, {24, 24}), dst = imageOf(rng, f, {24, 24});
+    const void *from = src.bytes(), *kept = state;
+    void *to = dst.bytes(), *used = state;
+    HuxiSize roi = {24, 24};
+    const int row = 24 * f.pixelBytes();
+    int srcStep = src.step(), dstStep = dst.step(), times = 1;
+    CheckOrder check([&] { return f.run(from, srcStep, to, dstStep, roi, times, used); });
+    check.breaks(huxStsNullPtr, from, nullptr).breaks(huxStsNullPtr, to, nullptr).breaks(huxStsNullPtr, used, nullptr);
+    check.breaks(huxStsBadSize, roi.width, 0).breaks(huxStsBadSize, roi.height, -3);
+    check.breaks(huxStsBadSize, roi.width, 25).breaks(huxStsBadSize, roi.height, 25);
+    check.breaks(huxStsBadStep, srcStep, row - 1).breaks(huxStsBadStep, dstStep, row - 4);
+    check.breaks(huxStsStepNotMultipleOf4, srcStep, row + 2).breaks(huxStsStepNotMultipleOf4, dstStep, row + 1);
+    if (!f.fft) check.breaks(huxStsBadArg, times, 0);
+    check.run(dst);
+    EXPECT_EQ(used, kept);
+    EXPECT_EQ(f.free(state), huxStsOk);
+    EXPECT_EQ(f.free(nullptr), huxStsNullPtr);
+  }
+}
+
+}  // namespace
+}  // namespace hux::test
