@@ -78,6 +78,16 @@ void storeSplit(void* p, Split<V> z) {
   }
 }
 
+// Real numbers, to the lanes of the complex numbers in their places.
+template <class V>
+V loadReals(const Hux32f* p) {
+  const V v = loadLanes<V>(p);
+  if constexpr (splitLanes<V> == 8)
+    return __builtin_shufflevector(v, v, 0, 1, 4, 5, 2, 3, 6, 7);
+  else
+    return v;
+}
+
 // The first `count` of them, fewer than there are lanes; the other lanes hold zeros. Where a vector has eight lanes
 // they go by fours, twos and ones, for what is stored piece by piece cannot be loaded as a whole without a halt.
 template <class V>

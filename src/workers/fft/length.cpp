@@ -12,10 +12,19 @@ using Z = Split<V>;
 using Number = Split<Hux32f>;
 
 constexpr int kMostFactor = 150;
+constexpr Index kLongestBroad = 2000;  // longest block of which each pass goes over all of a sequence
 
 Number narrow(Split<Hux64f> z) { return {Hux32f(z.re), Hux32f(z.im)}; }
 
 Number numberAt(const Hux32fc* p) { return loadSplit<Hux32f>(p); }
+
+// Number k of a spectrum of which half is there.
+Number ofHalf(const Hux32f* p, Index n, Index k) {
+  const auto* x = elements(p);
+  if (k == 0) return {x[0], 0};
+  if (k <= n / 2) return {x[2 * k - 1], x[2 * k]};
+  return {x[2 * (n - k) - 1], -x[2 * (n - k)]};
+}
 
 // --- Transforms of one factor's length, in lanes. z is in the sequence's own order, and so is the result.
 
@@ -61,7 +70,7 @@ void oddPoints(Z* z, int f, const Hux32f* roots) {
 }
 
 template <Way W, int F>
-HUX_INLINE inline void points(Z* z, int f, const Hux32f* roots) {
+HUX_INLINE inline void points(Z* z) {
   if constexpr (F == 2) {
     const Z a = z[0], b = z[1];
     z[0] = a + b, z[1] = a - b;
@@ -72,186 +81,260 @@ HUX_INLINE inline void points(Z* z, int f, const Hux32f* roots) {
     std::swap(z[1], z[2]);
   } else if constexpr (F == 5) {
     fivePoints<W>(z);
-  } else {
-    oddPoints<W>(z, f, roots);
   }
 }
 
 // --- Mixed radix.
 //
-// A step combines `factor` transforms of `length` numbers into one, for all `groups` that there are; those are of the
-// numbers that lie `groups` apart in the end. There are two ways for the results to lie, between which the sequence is
-// turned once, so that lanes have long runs throughout: first by frequency, with the groups side by side, and then by
-// group, with the frequencies side by side.
+// A pass does one or two steps, and a step combines `factor` transforms into one. The first pass takes its numbers from
+// the source, as many groups side by side as there are lanes, and leaves the transform of each group in one piece,
+// where the passes behind it find it: they work in place, on blocks of parts one behind the other, and lanes are
+// neighbouring numbers of the parts.
 
-struct Step {
-  int factor;
-  Index outer, inner;           // runs, and numbers of each
-  Index part, fromRun;          // from one part to the next, and from run to run, at the source
-  Index result, toRun;          // the same of the results
-  bool perRun;                  // whether the turns change with the run, or with the number
-  const Hux32f *turns, *roots;  // turns null: there are none
+// The factors of the steps of a pass, in the order in which they come, the deepest first; 0 is any above 5. The first
+// pass has two steps, or such a factor.
+struct Kind {
+  int first, second;
+  constexpr bool opens() const { return first == 0 || second > 1; }
 };
+constexpr Kind kKinds[] = {{5, 5}, {5, 3}, {5, 4}, {5, 2}, {3, 3}, {3, 4}, {3, 2},
+                           {4, 4}, {4, 2}, {5, 1}, {3, 1}, {4, 1}, {2, 1}, {0, 1}};
+constexpr int kKindCount = int(std::size(kKinds));
+constexpr int kAnyFactor = kKindCount - 1;
 
-// body(i) for the parts from `first` on; F is their number, or 0 where it is only known now.
-template <int F, class Body>
-HUX_INLINE inline void forParts(int first, int f, Body body) {
-  if constexpr (F > 0)
-    unrolled<F>([&](auto i) HUX_INLINE {
-      if (i >= first) body(int(i));
-    });
-  else
-    for (int i = first; i < f; ++i) body(i);
-}
-
-// Number i and those behind it of run o, as many as there are lanes, or `count` of them.
-template <Way W, int F, bool Whole>
-HUX_INLINE inline void stepAt(const Step& s, const Hux32fc* src, Hux32fc* dst, Index o, Index i, Index count) {
-  const int f = F ? F : s.factor;
-  const auto load = [count](const void* p) { return Whole ? loadSplit<V>(p) : loadSplit<V>(p, count); };
-  const Hux32fc* from = src + o * s.fromRun + i;
-  Z z[F ? F : kMostFactor];
-  forParts<F>(0, f, [&](int r) HUX_INLINE { z[r] = load(from + r * s.part); });
-  if (s.turns && s.perRun) {
-    const Hux32f* t = s.turns + 2 * o * (f - 1);
-    forParts<F>(1, f, [&](int r) HUX_INLINE {
-      z[r] = turned<W>(z[r], Z{splat<V>(t[2 * r - 2]), splat<V>(t[2 * r - 1])});
-    });
-  } else if (s.turns) {
-    const auto* t = reinterpret_cast<const Hux32fc*>(s.turns) + i;
-    forParts<F>(1, f, [&](int r) HUX_INLINE { z[r] = turned<W>(z[r], load(t + (r - 1) * s.inner)); });
-  }
-  points<W, F>(z, f, s.roots);
-  Hux32fc* to = dst + o * s.toRun + i;
-  forParts<F>(0, f, [&](int q) HUX_INLINE {
-    if constexpr (Whole)
-      storeSplit(to + q * s.result, z[q]);
-    else
-      storeSplit(to + q * s.result, z[q], count);
-  });
-}
-
-template <Way W, int F>
-void step(const Step& s, const Hux32fc* src, Hux32fc* dst) {
-  for (Index o = 0; o < s.outer; ++o) {
-    Index i = 0;
-    for (; i + kLanes <= s.inner; i += kLanes) stepAt<W, F, true>(s, src, dst, o, i, kLanes);
-    if (i == s.inner) continue;
-    // The last vector of a run covers some of the one before once more, where that does not spoil the source.
-    if (src != dst && s.inner >= kLanes)
-      stepAt<W, F, true>(s, src, dst, o, s.inner - kLanes, kLanes);
-    else
-      stepAt<W, F, false>(s, src, dst, o, i, s.inner - i);
-  }
-}
-template <Way W>
-void anyStep(const Step& s, const Hux32fc* src, Hux32fc* dst) {
-  switch (s.factor) {
-    case 2:
-      return step<W, 2>(s, src, dst);
-    case 3:
-      return step<W, 3>(s, src, dst);
-    case 4:
-      return step<W, 4>(s, src, dst);
-    case 5:
-      return step<W, 5>(s, src, dst);
-    default:
-      return step<W, 0>(s, src, dst);
-  }
-}
-
-// The index of the first step whose frequencies lie side by side.
-int turnAt(const LengthPlan& plan) {
-  if (plan.within) return plan.count - 1;
-  Index length = 1;
-  int i = plan.count - 1;
-  for (; i > 0; --i) {
-    const Index groups = plan.length / (length * plan.factor[i]);
-    if (groups < length) break;
-    length *= plan.factor[i];
-  }
+int kindOf(int first, int second) {
+  int i = 0;
+  while (i < kAnyFactor && (kKinds[i].first != first || kKinds[i].second != second)) ++i;
   return i;
 }
 
-// rows by columns to columns by rows. The last square of a row or column covers some of the one before once more.
-void turnOver(const Hux32fc* src, Hux32fc* dst, Index rows, Index columns) {
-  if (rows < 4 || columns < 8) {
-    for (Index r = 0; r < rows; ++r)
-      for (Index c = 0; c < columns; ++c) storeSplit(dst + c * rows + r, numberAt(src + r * columns + c));
-    return;
+struct Pass {
+  int all;       // numbers of a butterfly: the product of the factors
+  Index length;  // of the parts
+  const Hux32f *turns, *roots;
+};
+
+Pass passOf(const void* block, const LengthPlan& plan, int i) {
+  Pass p{plan.all[i], plan.parts[i], nullptr, nullptr};
+  if (plan.turns[i]) p.turns = plan.turns[i].in(block);
+  if (plan.roots[i]) p.roots = plan.roots[i].in(block);
+  return p;
+}
+
+// Vectors of numbers in a part. Where the length is no multiple of the lanes, the last one covers some of the one
+// before once more, or more than there is.
+constexpr Index vectorsIn(Index length) { return (length + kLanes - 1) / kLanes; }
+constexpr Index lastVector(Index length) { return std::max<Index>(length - kLanes, 0); }
+
+// The butterfly of a pass: load(r) gives number r, turn(i, z) turns z by factor i of the table, store(q, z) takes
+// result q. The first pass has no factors at its first step.
+template <Way W, int F, int S, bool First, class Load, class Turn, class Store>
+HUX_INLINE inline void butterfly(const Pass& p, Load load, Turn turn, Store store) {
+  if constexpr (F == 0) {
+    Z z[kMostFactor];
+    for (int r = 0; r < p.all; ++r) z[r] = !First && r > 0 ? turn(r - 1, load(r)) : load(r);
+    oddPoints<W>(z, p.all, p.roots);
+    for (int q = 0; q < p.all; ++q) store(q, z[q]);
+  } else {
+    Z z[F * S];
+    unrolled<S>([&](auto s) HUX_INLINE {
+      Z y[F];
+      unrolled<F>([&](auto r) HUX_INLINE {
+        y[r] = load(r * S + s);
+        if constexpr (!First && r > 0) y[r] = turn(r - 1, y[r]);
+      });
+      points<W, F>(y);
+      unrolled<F>([&](auto q) HUX_INLINE { z[q * S + s] = y[q]; });
+    });
+    unrolled<F>([&](auto q) HUX_INLINE {
+      Z y[S];
+      unrolled<S>([&](auto s) HUX_INLINE {
+        y[s] = z[q * S + s];
+        if constexpr (s > 0 && !(First && q == 0)) y[s] = turn(F - 1 + q * (S - 1) + s - 1, y[s]);
+      });
+      points<W, S>(y);
+      unrolled<S>([&](auto s) HUX_INLINE { store(q + F * s, y[s]); });
+    });
   }
-  for (Index i = 0; i < rows; i += 4)
-    for (Index j = 0; j < columns; j += 8) {
-      const Index r = std::min(i, rows - 4), c = std::min(j, columns - 8);
-      const Hux32fc* from = src + r * columns + c;
-      Hux32fc* to[8];
-      for (int k = 0; k < 8; ++k) to[k] = dst + (c + k) * rows + r;
-      turnColumns({from, from + columns, from + 2 * columns, from + 3 * columns}, to);
-    }
+}
+
+// The first pass: number r of all groups is at numbers + r * kLanes, and so is result q.
+using Opening = void (*)(const Pass&, Hux32fc* numbers);
+template <Way W, int F, int S>
+void opening(const Pass& p, Hux32fc* numbers) {
+  butterfly<W, F, S, true>(
+      p, [&](int r) HUX_INLINE { return loadSplit<V>(numbers + r * kLanes); },
+      [&](int i, Z z) HUX_INLINE {
+        return turned<W>(z, Z{splat<V>(p.turns[2 * i]), splat<V>(p.turns[2 * i + 1])});
+      },
+      [&](int q, Z z) HUX_INLINE { storeSplit(numbers + q * kLanes, z); });
+}
+
+// The others: `count` vectors one behind the other; from and to are those of the first part and the first result.
+using Joining = void (*)(const Pass&, const Hux32f* turns, Index count, const Hux32fc* from, Index fromStep,
+                         Hux32fc* to, Index toStep);
+template <Way W, int F, int S>
+void joining(const Pass& p, const Hux32f* turns, Index count, const Hux32fc* from, Index fromStep, Hux32fc* to,
+             Index toStep) {
+  for (; count > 0; --count, from += kLanes, to += kLanes, turns += 2 * kLanes * ((F ? F * S : p.all) - 1))
+    butterfly<W, F, S, false>(
+        p, [&](int r) HUX_INLINE { return loadSplit<V>(from + r * fromStep); },
+        [&](int i, Z z) HUX_INLINE { return turned<W>(z, loadParted<V>(turns + 2 * kLanes * i)); },
+        [&](int q, Z z) HUX_INLINE { storeSplit(to + q * toStep, z); });
 }
 
 template <Way W>
-void cDft_PrimeFact(const void* block, const LengthPlan& plan, const Hux32fc* src, Hux32fc* dst, Hux32fc* work) {
-  // One pass for each step and one to turn over, the last of which ends at dst.
-  int left = plan.count + 1;
-  const auto next = [&] { return --left % 2 ? work : dst; };
-  if (src == dst && plan.count % 2 == 0) {
-    std::memcpy(work, src, sizeof(Hux32fc) * std::size_t(plan.length));
-    src = work;
+constexpr auto kOpenings = []<int... I>(std::integer_sequence<int, I...>) {
+  return std::array<Opening, kKindCount>{kKinds[I].opens() ? opening<W, kKinds[I].first, kKinds[I].second>
+                                                           : nullptr...};
+}
+(std::make_integer_sequence<int, kKindCount>{});
+template <Way W>
+constexpr auto kJoinings = []<int... I>(std::integer_sequence<int, I...>) {
+  return std::array<Joining, kKindCount>{joining<W, kKinds[I].first, kKinds[I].second>...};
+}
+(std::make_integer_sequence<int, kKindCount>{});
+
+// The places of the groups of the first pass, in their order: the digits of a group's number are the parts that it
+// belongs to, those of the last pass first.
+class Places {
+ public:
+  explicit Places(const LengthPlan& plan) : plan_(plan) {
+    for (int i = 1; i < plan.passes; ++i) digit_[i] = 0;
   }
-  const int turn = turnAt(plan);
-  Index length = 1;
-  for (int i = plan.count - 1; i >= 0; --i) {
-    const int f = plan.factor[i];
-    const Index groups = plan.length / (length * f);
-    if (i == turn) {
-      Hux32fc* to = next();
-      turnOver(src, to, length, plan.length / length);
-      src = to;
+  Index next() {
+    const Index place = place_;
+    for (int i = plan_.passes - 1; i > 0; --i) {
+      place_ += plan_.parts[i];
+      if (++digit_[i] < plan_.all[i]) break;
+      place_ -= Index(plan_.parts[i]) * plan_.all[i];
+      digit_[i] = 0;
     }
-    Step s{f, length, groups, groups, f * groups, length * groups, groups, true, nullptr, nullptr};
-    if (i <= turn) s = {f, groups, length, groups * length, length, length, f * length, false, nullptr, nullptr};
-    if (plan.turns[i]) s.turns = plan.turns[i].in(block);
-    if (plan.roots[i]) s.roots = plan.roots[i].in(block);
-    Hux32fc* to = next();
-    anyStep<W>(s, src, to);
-    src = to;
-    length *= f;
+    return place;
+  }
+
+ private:
+  const LengthPlan& plan_;
+  Index place_ = 0;
+  int digit_[kMostFactors];
+};
+
+// bring(i, to) copies as many numbers of the sequence as there are lanes, from number i on; those behind the end are
+// any.
+template <Way W, class Bring>
+void firstPass(const void* block, const LengthPlan& plan, const Bring& bring, Hux32fc* dst) {
+  const Pass p = passOf(block, plan, 0);
+  const Opening run = kOpenings<W>[std::size_t(plan.kind[0])];
+  const Index groups = plan.length / p.all;
+  Places places(plan);
+  Hux32fc numbers[kMostFactor * kLanes], unused[kMostFactor];
+  for (Index g = 0; g < groups; g += kLanes) {
+    const Index count = std::min<Index>(groups - g, kLanes);
+    for (int r = 0; r < p.all; ++r) bring(r * groups + g, numbers + r * kLanes);
+    run(p, numbers);
+    Hux32fc* to[8];
+    for (int l = 0; l < 8; ++l) to[l] = l < count ? dst + places.next() : unused;
+    if (kLanes < 8 || count == 1) {
+      for (Index l = 0; l < count; ++l)
+        for (int q = 0; q < p.all; ++q) std::memcpy(to[l] + q, numbers + q * kLanes + l, sizeof(Hux32fc));
+      continue;
+    }
+    // The last square covers some of the one before once more.
+    for (int q = 0; q < p.all; q += 4) {
+      const int first = std::min(q, p.all - 4);
+      const Hux32fc* from = numbers + first * kLanes;
+      Hux32fc* columns[8];
+      for (int l = 0; l < 8; ++l) columns[l] = to[l] + first;
+      turnColumns({from, from + kLanes, from + 2 * kLanes, from + 3 * kLanes}, columns);
+    }
   }
 }
 
-// The same within one array. gather(n) gives number n of the sequence.
-template <Way W, class Gather>
-void rDft_PrimeFact(const void* block, const LengthPlan& plan, Hux32fc* d, Gather gather) {
-  const Index n = plan.length;
-  // The deepest parts are those of numbers that lie n / factor apart; their order is that of the digits of the place.
-  const int last = plan.count - 1, f = plan.factor[last];
-  int digit[kMostFactors] = {};
-  Index start = 0;
-  for (Index place = 0; place < n; place += f) {
-    for (int t = 0; t < f; ++t) {
-      const Number z = gather(start + t * (n / f));
-      storeSplit(d + place + t, z);
-    }
-    Index weight = n / f;
-    for (int i = last - 1; i >= 0; --i) {
-      weight /= plan.factor[i];
-      start += weight;
-      if (++digit[i] < plan.factor[i]) break;
-      start -= weight * plan.factor[i];
-      digit[i] = 0;
+void passWithin(const Pass& p, Joining run, Hux32fc* d) {
+  const Index length = p.length, whole = length / kLanes;
+  if (length % kLanes == 0) return run(p, p.turns, whole, d, length, d, length);
+  // The last vector comes first and is written last, for the one before changes what it reads.
+  Hux32fc aside[kMostFactor * kLanes];
+  const Index last = lastVector(length);
+  if (whole > 0) {
+    run(p, p.turns, 1, d + last, length, aside, kLanes);
+    run(p, p.turns + 2 * kLanes * (p.all - 1), whole, d, length, d, length);
+    for (int q = 0; q < p.all; ++q) std::memcpy(d + last + q * length, aside + q * kLanes, kLanes * sizeof(Hux32fc));
+  } else {
+    std::fill(aside, aside + p.all * kLanes, Hux32fc{});
+    const auto bytes = std::size_t(length) * sizeof(Hux32fc);
+    for (int r = 0; r < p.all; ++r) std::memcpy(aside + r * kLanes, d + r * length, bytes);
+    run(p, p.turns, 1, aside, kLanes, aside, kLanes);
+    for (int q = 0; q < p.all; ++q) std::memcpy(d + q * length, aside + q * kLanes, bytes);
+  }
+}
+
+// The passes from the second to number i, on n numbers. Long blocks are finished one by one, so that they stay in the
+// cache.
+template <Way W>
+void furtherPasses(const void* block, const LengthPlan& plan, int i, Hux32fc* d, Index n) {
+  if (i == 0) return;
+  const Pass p = passOf(block, plan, i);
+  const Joining run = kJoinings<W>[std::size_t(plan.kind[i])];
+  const Index own = p.length * p.all;
+  const bool broad = own <= kLongestBroad;
+  if (broad) furtherPasses<W>(block, plan, i - 1, d, n);
+  for (Index at = 0; at < n; at += own) {
+    if (!broad) furtherPasses<W>(block, plan, i - 1, d + at, own);
+    passWithin(p, run, d + at);
+  }
+}
+
+// dst is not where the sequence lies.
+template <Way W, class Bring>
+void primeFact(const void* block, const LengthPlan& plan, const Bring& bring, Hux32fc* dst) {
+  firstPass<W>(block, plan, bring, dst);
+  furtherPasses<W>(block, plan, plan.passes - 1, dst, plan.length);
+}
+
+// Where a first pass takes its numbers: complex ones, real ones, or those of which half are there.
+struct ComplexNumbers {
+  const Hux32fc* src;
+  Index n;
+  HUX_INLINE void operator()(Index i, Hux32fc* to) const {
+    if (i + kLanes <= n)
+      std::memcpy(to, src + i, kLanes * sizeof(Hux32fc));
+    else
+      storeSplit(to, loadSplit<V>(src + i, n - i));
+  }
+};
+struct RealNumbers {
+  const Hux32f* src;
+  Index n;
+  HUX_INLINE void operator()(Index i, Hux32fc* to) const {
+    Hux32f some[kLanes] = {};
+    const bool whole = i + kLanes <= n;
+    if (!whole) std::memcpy(some, src + i, sizeof(Hux32f) * std::size_t(n - i));
+    storeSplit(to, Z{loadReals<V>(whole ? src + i : some), V{}});
+  }
+};
+struct HalfSpectrum {
+  const Hux32f* src;
+  Index n;
+  HUX_INLINE void operator()(Index i, Hux32fc* to) const {
+    if (i > 0 && i + kLanes <= n / 2 + 1) {
+      std::memcpy(to, src + 2 * i - 1, kLanes * sizeof(Hux32fc));
+    } else if (i > n / 2 && i + kLanes <= n) {
+      const Z z = mirrored(loadSplit<V>(src + 2 * (n - i - kLanes + 1) - 1));
+      storeSplit(to, Z{z.re, -z.im});
+    } else {
+      for (Index l = 0; l < kLanes; ++l) storeSplit(to + l, i + l < n ? ofHalf(src, n, i + l) : Number{});
     }
   }
-  Index length = 1;
-  for (int i = last; i >= 0; --i) {
-    const int factor = plan.factor[i];
-    Step s{factor, n / (length * factor), length, length,  length * factor,
-           length, length * factor,       false,  nullptr, nullptr};
-    if (plan.turns[i]) s.turns = plan.turns[i].in(block);
-    if (plan.roots[i]) s.roots = plan.roots[i].in(block);
-    anyStep<W>(s, d, d);
-    length *= factor;
+};
+
+template <Way W>
+void cDft_PrimeFact(const void* block, const LengthPlan& plan, const Hux32fc* src, Hux32fc* dst, Hux32fc* work) {
+  if (src == dst) {
+    std::memcpy(work, src, sizeof(Hux32fc) * std::size_t(plan.length));
+    src = work;
   }
+  primeFact<W>(block, plan, ComplexNumbers{src, plan.length}, dst);
 }
 
 // --- The sum as it stands, of an odd number n. A lane is an output.
@@ -423,14 +506,22 @@ void LengthPlan::take(Arena& arena, bool kernels, Index longestDirect) {
     power.scaling = scaling;
     power.take(arena);
     work = workBytes(power.order);
-  } else if ((count = testDftPrimeFact(n, factor)) != 0) {
+  } else if (Hux32s list[kMostFactors]; const int count = testDftPrimeFact(n, list)) {
     method = Method::factors;
-    Index before = 1;
+    for (int i = count - 1; i >= 0; ++passes) {
+      const int f = list[i--], s = f <= 5 && i >= 0 ? list[i--] : 1;
+      kind[passes] = kindOf(f, s), all[passes] = f * s;
+    }
+    parts[0] = 1;
     int largest = 0;
-    for (int i = count - 1; i >= 0; --i) {
-      if (i < count - 1) turns[i] = arena.take<Hux32f>(2 * before * (factor[i] - 1));
-      if (factor[i] > 5) roots[i] = arena.take<Hux32f>(2 * factor[i]), largest = std::max(largest, factor[i]);
-      before *= factor[i];
+    for (int i = 0; i < passes; ++i) {
+      const Index floats = 2 * (all[i] - 1);
+      if (i > 0)
+        turns[i] = arena.take<Hux32f>(floats * kLanes * vectorsIn(parts[i]));
+      else if (kind[i] != kAnyFactor)
+        turns[i] = arena.take<Hux32f>(floats);
+      if (kind[i] == kAnyFactor) roots[i] = arena.take<Hux32f>(2 * all[i]), largest = std::max(largest, all[i]);
+      parts[i + 1] = parts[i] * all[i];
     }
     work = 8 * (std::int64_t(n) + largest) + 16;
   } else if (n > longestDirect) {
@@ -460,27 +551,35 @@ HuxStatus LengthPlan::fill(void* block) const {
     }
   }
   if (method == Method::factors) {
-    const int turn = turnAt(*this);
-    Index before = 1;
-    for (int i = count - 1; i >= 0; --i) {
-      const int f = factor[i];
-      const Index whole = before * f;
-      if (turns[i]) {
-        Hux32f* to = turns[i].in(block);
-        for (Index k = 0; k < before; ++k)
-          for (int r = 1; r < f; ++r) {
-            // By run for those whose groups lie side by side, else by part.
-            const Number w = narrow(rootOf(k * r, whole));
-            Hux32f* at = to + 2 * (i > turn ? k * (f - 1) + r - 1 : (r - 1) * before + k);
-            at[0] = w.re, at[1] = w.im;
-          }
+    for (int i = 0; i < passes; ++i) {
+      const Pass p = passOf(block, *this, i);
+      const int s = kKinds[kind[i]].second, f = all[i] / s;
+      Hux32f* to = turns[i] ? turns[i].in(block) : nullptr;
+      // Of numbers k in lanes from `first` on, as many as there are lanes; the first pass has one, which is 0.
+      const int lanes = i ? kLanes : 1;
+      const auto vector = [&](Index first, Index times, Index of) {
+        for (int l = 0; l < lanes; ++l) {
+          const Number w = narrow(rootOf((first + heldBy<V>(l)) * times, of));
+          to[l] = w.re, to[l + lanes] = w.im;
+        }
+        to += 2 * lanes;
+      };
+      const auto unit = [&](Index first) {
+        for (int r = 1; r < f; ++r) vector(first, r, p.length * f);
+        for (int q = 0; q < f; ++q)
+          for (int r = 1; r < s; ++r) vector(first + q * p.length, r, p.length * p.all);
+      };
+      if (i > 0) {
+        if (p.length % kLanes) unit(lastVector(p.length));
+        for (Index k = 0; k + kLanes <= p.length; k += kLanes) unit(k);
+      } else if (to) {
+        unit(0);
       }
       if (roots[i])
         for (int k = 0; k < f; ++k) {
           const Number w = narrow(rootOf(k, f));
           roots[i].in(block)[2 * k] = w.re, roots[i].in(block)[2 * k + 1] = -w.im;
         }
-      before = whole;
     }
   } else if (method == Method::direct) {
     Hux32f* to = matrix.in(block);
@@ -550,7 +649,6 @@ void RealLengthPlan::take(Arena& arena) {
   inner.length = even ? length / 2 : length;
   // The forward half is scaled behind the recombination.
   inner.scaling = even ? Scaling{0, scaling.inverse, scaling.factor} : Scaling{};
-  inner.within = !even;
   inner.take(arena, !even, even ? kLongestDirect : 180);
   work = inner.work;
   if (even) {
@@ -582,14 +680,6 @@ void packHalf(const Hux32fc* src, Hux32f* dst, Index n) {
   elements(dst)[0] = src[0].re;
   std::memcpy(dst + 1, src + 1, sizeof(Hux32fc) * std::size_t(n / 2));
 }
-// Number k of a spectrum of which half is there.
-Number ofHalf(const Hux32f* p, Index n, Index k) {
-  const auto* x = elements(p);
-  if (k == 0) return {x[0], 0};
-  if (k <= n / 2) return {x[2 * k - 1], x[2 * k]};
-  return {x[2 * (n - k) - 1], -x[2 * (n - k)]};
-}
-
 }  // namespace
 
 void transformReal(const void* block, const RealLengthPlan& plan, const Hux32f* src, Hux32f* dst, std::byte* work) {
@@ -612,7 +702,7 @@ void transformReal(const void* block, const RealLengthPlan& plan, const Hux32f* 
     d[0] = z[0].re, d[1] = z[1].re, d[2] = z[1].im;
     return;
   } else if (inner.method == Method::factors) {
-    rDft_PrimeFact<Way::forward>(block, inner, numbers, [=](Index i) { return Number{x[i], 0}; });
+    primeFact<Way::forward>(block, inner, RealNumbers{src, n}, numbers);
     packHalf(numbers, dst, n);
   } else if (inner.method == Method::chirp) {
     const Hux32fc* chirp = inner.chirp.in(block);
@@ -646,7 +736,7 @@ void transformToReal(const void* block, const RealLengthPlan& plan, const Hux32f
     for (int i = 0; i < 3; ++i) d[i] = z[i].re;
     return;
   } else if (inner.method == Method::factors) {
-    rDft_PrimeFact<Way::inverse>(block, inner, numbers, [=](Index k) { return ofHalf(src, n, k); });
+    primeFact<Way::inverse>(block, inner, HalfSpectrum{src, n}, numbers);
     for (Index i = 0; i < n; ++i) d[i] = numbers[i].re;
   } else if (inner.method == Method::chirp) {
     const Hux32fc* chirp = inner.chirp.in(block);

@@ -25,11 +25,11 @@ struct LengthPlan {
   Scaling scaling;
   PowerPlan power;  // the whole, or the convolution of the chirp
 
-  // Mixed radix: the transforms of the last factor are the deepest, the first is combined last.
-  Hux32s count = 0;
-  bool within = false;  // the steps are done within one array
-  Hux32s factor[kMostFactors] = {};
-  At<Hux32f> turns[kMostFactors];  // factors of each step but the deepest: for each of the parts but the first
+  // Mixed radix, the deepest pass first: what steps a pass has, the product of their factors, and the length of the
+  // parts that it joins.
+  Hux32s passes = 0;
+  Hux32s kind[kMostFactors] = {}, all[kMostFactors] = {}, parts[kMostFactors + 1] = {};
+  At<Hux32f> turns[kMostFactors];  // in the order in which a pass takes them
   At<Hux32f> roots[kMostFactors];  // of the circle, for factors above 5
 
   At<Hux32f> matrix;  // direct: cosines and sines, by rows
