@@ -192,6 +192,39 @@ HUX_INLINE inline void transposeSquare(V (&r)[splitLanes<V>]) {
   }
 }
 
+// Vectors of two halves, which hold four numbers each, of vectors of 8 lanes: complex numbers from memory, all of them
+// in their own order; the low or the high halves of two vectors; the low half of one and the high half of the other.
+template <class V>
+Split<V> loadHalves(const Hux32fc* p) {
+  const V a = loadLanes<V>(p), b = loadLanes<V>(p + 4);
+  return partSplit(V(__builtin_shufflevector(a, b, 0, 1, 2, 3, 8, 9, 10, 11)),
+                   V(__builtin_shufflevector(a, b, 4, 5, 6, 7, 12, 13, 14, 15)));
+}
+template <bool High, class V>
+V sameHalves(V a, V b) {
+  if constexpr (High)
+    return __builtin_shufflevector(a, b, 4, 5, 6, 7, 12, 13, 14, 15);
+  else
+    return __builtin_shufflevector(a, b, 0, 1, 2, 3, 8, 9, 10, 11);
+}
+template <class V>
+V ownHalves(V low, V high) {
+  return __builtin_shufflevector(low, high, 0, 1, 2, 3, 12, 13, 14, 15);
+}
+
+// The squares that the low and the high halves of four vectors are, about their diagonals.
+template <class V>
+HUX_INLINE inline void transposeHalves(V (&r)[4]) {
+  const V a = __builtin_shufflevector(r[0], r[1], 0, 8, 1, 9, 4, 12, 5, 13),
+          b = __builtin_shufflevector(r[0], r[1], 2, 10, 3, 11, 6, 14, 7, 15),
+          c = __builtin_shufflevector(r[2], r[3], 0, 8, 1, 9, 4, 12, 5, 13),
+          d = __builtin_shufflevector(r[2], r[3], 2, 10, 3, 11, 6, 14, 7, 15);
+  r[0] = __builtin_shufflevector(a, c, 0, 1, 8, 9, 4, 5, 12, 13);
+  r[1] = __builtin_shufflevector(a, c, 2, 3, 10, 11, 6, 7, 14, 15);
+  r[2] = __builtin_shufflevector(b, d, 0, 1, 8, 9, 4, 5, 12, 13);
+  r[3] = __builtin_shufflevector(b, d, 2, 3, 10, 11, 6, 7, 14, 15);
+}
+
 // Turns four rows of 8 complex numbers: dst[column] takes that number of each row.
 inline void turnColumns(const Hux32fc* const (&rows)[4], Hux32fc* const (&dst)[8]) {
   if constexpr (kSplitLanes == 8) {

@@ -57,11 +57,56 @@ void firstPass(const Hux32fc* src, Index stride, Hux32f* dst, Index groupStep) {
   }
 }
 
+// z turned by K sixteenths of the circle in the low half of the lanes, and by L in the high one.
+template <Way W, int K, int L>
+Z turnedByHalves(Z z) {
+  const auto by = [z](auto k) -> Z {
+    if constexpr (k == 4)
+      return W == Way::forward ? Z{z.im, -z.re} : Z{-z.im, z.re};
+    else
+      return turnedBySixteenths<W, k>(z);
+  };
+  const Z low = by(std::integral_constant<int, K>{}), high = by(std::integral_constant<int, L>{});
+  return {ownHalves(low.re, high.re), ownHalves(low.im, high.im)};
+}
+
+// The same of 16 numbers for the four lanes of 64 numbers in their own order, in vectors of 8: each holds numbers of
+// the transforms' evens in one half and of their odds in the other, and then of two results.
+template <Way W>
+void firstPassOfFour(const Hux32fc* src, Hux32f* dst) {
+  Z even[4], odd[4], results[4][2];
+  for (int i = 0; i < 4; ++i) {
+    even[i] = loadHalves<V>(src + 16 * reversed(i, 2));
+    odd[i] = loadHalves<V>(src + 16 * reversed(i, 2) + 8);
+  }
+  radix4<W>(even[0], even[1], even[2], even[3]);
+  radix4<W>(odd[0], odd[1], odd[2], odd[3]);
+  unrolled<2>([&](auto j) {
+    const auto halves = [&](auto high, const Z(&z)[4]) -> Z {
+      return {sameHalves<high>(z[j].re, z[j + 2].re), sameHalves<high>(z[j].im, z[j + 2].im)};
+    };
+    Z a = halves(std::false_type{}, even), b = turnedByHalves<W, 2 * j, 2 * j + 4>(halves(std::false_type{}, odd));
+    Z c = turnedByHalves<W, j, j + 2>(halves(std::true_type{}, even)),
+      d = turnedByHalves<W, 3 * j, 3 * j + 6>(halves(std::true_type{}, odd));
+    radix4<W>(a, b, c, d);
+    results[0][j] = a, results[1][j] = b, results[2][j] = c, results[3][j] = d;
+  });
+  for (int h = 0; h < 2; ++h) {
+    const auto &one = results[2 * h], &two = results[2 * h + 1];
+    V re[4] = {one[0].re, one[1].re, two[0].re, two[1].re}, im[4] = {one[0].im, one[1].im, two[0].im, two[1].im};
+    transposeHalves(re);
+    transposeHalves(im);
+    for (int l = 0; l < 4; ++l) storeParted(dst + floats(16) * reversed(l, 2) + floats(8) * h, Z{re[l], im[l]});
+  }
+}
+
 // All of a sequence in its own order, to groups in bit-reversed order.
 template <Way W, int N>
 void firstPasses(const Hux32fc* src, Hux32f* dst, int order) {
   const int bits = order - (N == 8 ? 3 : 4);  // of the number of a group
   const Index count = Index(1) << bits;
+  if constexpr (kLanes == 8 && N == 16)
+    if (count == 4) return firstPassOfFour<W>(src, dst);
   if (kLanes == 8 && count >= 8) {
     Index to = 0;
     for (Index q = 0; q < count; q += 8) {
