@@ -88,8 +88,8 @@ HUX_INLINE inline void points(Z* z) {
 //
 // A pass does one or two steps, and a step combines `factor` transforms into one. The first pass takes its numbers from
 // the source, as many groups side by side as there are lanes, and leaves the transform of each group in one piece,
-// where the passes behind it find it: they work in place, on blocks of parts one behind the other, and lanes are
-// neighbouring numbers of the parts.
+// where the passes behind it find it: they work on blocks of parts one behind the other, from one array to another or
+// within one, and lanes are neighbouring numbers of the parts.
 
 // The factors of the steps of a pass, in the order in which they come, the deepest first; 0 is any above 5. The first
 // pass has two steps, or such a factor.
@@ -158,29 +158,34 @@ HUX_INLINE inline void butterfly(const Pass& p, Load load, Turn turn, Store stor
   }
 }
 
-// The first pass: number r of all groups is at numbers + r * kLanes, and so is result q.
-using Opening = void (*)(const Pass&, Hux32fc* numbers);
+// The first pass: number r of all groups is at from + r * step, and result q goes to numbers + q * kLanes.
+using Opening = void (*)(const Pass&, const Hux32fc* from, Index step, Hux32fc* numbers);
 template <Way W, int F, int S>
-void opening(const Pass& p, Hux32fc* numbers) {
+void opening(const Pass& p, const Hux32fc* from, Index step, Hux32fc* numbers) {
   butterfly<W, F, S, true>(
-      p, [&](int r) HUX_INLINE { return loadSplit<V>(numbers + r * kLanes); },
+      p, [&](int r) HUX_INLINE { return loadSplit<V>(from + r * step); },
       [&](int i, Z z) HUX_INLINE {
         return turned<W>(z, Z{splat<V>(p.turns[2 * i]), splat<V>(p.turns[2 * i + 1])});
       },
       [&](int q, Z z) HUX_INLINE { storeSplit(numbers + q * kLanes, z); });
 }
 
-// The others: `count` vectors one behind the other; from and to are those of the first part and the first result.
+// The others: the first `count` numbers of the parts, at least as many as there are lanes; parts lie fromStep apart,
+// results toStep. The last vector covers some of the one before once more, so where count is no multiple of the lanes,
+// the results go elsewhere.
 using Joining = void (*)(const Pass&, const Hux32f* turns, Index count, const Hux32fc* from, Index fromStep,
                          Hux32fc* to, Index toStep);
 template <Way W, int F, int S>
 void joining(const Pass& p, const Hux32f* turns, Index count, const Hux32fc* from, Index fromStep, Hux32fc* to,
              Index toStep) {
-  for (; count > 0; --count, from += kLanes, to += kLanes, turns += 2 * kLanes * ((F ? F * S : p.all) - 1))
+  const Index last = count - kLanes;
+  for (Index k = 0;; k = std::min(k + kLanes, last), turns += 2 * kLanes * ((F ? F * S : p.all) - 1)) {
     butterfly<W, F, S, false>(
-        p, [&](int r) HUX_INLINE { return loadSplit<V>(from + r * fromStep); },
+        p, [&](int r) HUX_INLINE { return loadSplit<V>(from + k + r * fromStep); },
         [&](int i, Z z) HUX_INLINE { return turned<W>(z, loadParted<V>(turns + 2 * kLanes * i)); },
-        [&](int q, Z z) HUX_INLINE { storeSplit(to + q * toStep, z); });
+        [&](int q, Z z) HUX_INLINE { storeSplit(to + k + q * toStep, z); });
+    if (k == last) break;
+  }
 }
 
 template <Way W>
@@ -230,8 +235,12 @@ void firstPass(const void* block, const LengthPlan& plan, const Bring& bring, Hu
   Hux32fc numbers[kMostFactor * kLanes], unused[kMostFactor];
   for (Index g = 0; g < groups; g += kLanes) {
     const Index count = std::min<Index>(groups - g, kLanes);
-    for (int r = 0; r < p.all; ++r) bring(r * groups + g, numbers + r * kLanes);
-    run(p, numbers);
+    if (bring.complexes() && count == kLanes) {
+      run(p, bring.complexes() + g, groups, numbers);
+    } else {
+      for (int r = 0; r < p.all; ++r) bring(r * groups + g, numbers + r * kLanes);
+      run(p, numbers, kLanes, numbers);
+    }
     Hux32fc* to[8];
     for (int l = 0; l < 8; ++l) to[l] = l < count ? dst + places.next() : unused;
     if (kLanes < 8 || count == 1) {
@@ -250,52 +259,56 @@ void firstPass(const void* block, const LengthPlan& plan, const Bring& bring, Hu
   }
 }
 
-void passWithin(const Pass& p, Joining run, Hux32fc* d) {
+// A block of parts, whose results may take their place.
+void pass(const Pass& p, Joining run, const Hux32fc* from, Hux32fc* to) {
   const Index length = p.length, whole = length / kLanes;
-  if (length % kLanes == 0) return run(p, p.turns, whole, d, length, d, length);
-  // The last vector comes first and is written last, for the one before changes what it reads.
+  if (length >= kLanes && (from != to || length % kLanes == 0))
+    return run(p, p.turns, length, from, length, to, length);
   Hux32fc aside[kMostFactor * kLanes];
   const Index last = lastVector(length);
   if (whole > 0) {
-    run(p, p.turns, 1, d + last, length, aside, kLanes);
-    run(p, p.turns + 2 * kLanes * (p.all - 1), whole, d, length, d, length);
-    for (int q = 0; q < p.all; ++q) std::memcpy(d + last + q * length, aside + q * kLanes, kLanes * sizeof(Hux32fc));
+    // The last vector comes first and is written last, for the one before changes what it reads.
+    run(p, p.turns + 2 * kLanes * (p.all - 1) * whole, kLanes, from + last, length, aside, kLanes);
+    run(p, p.turns, whole * kLanes, from, length, to, length);
+    for (int q = 0; q < p.all; ++q) std::memcpy(to + last + q * length, aside + q * kLanes, kLanes * sizeof(Hux32fc));
   } else {
     std::fill(aside, aside + p.all * kLanes, Hux32fc{});
     const auto bytes = std::size_t(length) * sizeof(Hux32fc);
-    for (int r = 0; r < p.all; ++r) std::memcpy(aside + r * kLanes, d + r * length, bytes);
-    run(p, p.turns, 1, aside, kLanes, aside, kLanes);
-    for (int q = 0; q < p.all; ++q) std::memcpy(d + q * length, aside + q * kLanes, bytes);
+    for (int r = 0; r < p.all; ++r) std::memcpy(aside + r * kLanes, from + r * length, bytes);
+    run(p, p.turns, kLanes, aside, kLanes, aside, kLanes);
+    for (int q = 0; q < p.all; ++q) std::memcpy(to + q * length, aside + q * kLanes, bytes);
   }
 }
 
-// The passes from the second to number i, on n numbers. Long blocks are finished one by one, so that they stay in the
-// cache.
+// The passes from the second to number i, which goes from the one array to the other, the one before it back, and so
+// on; on n numbers. Long blocks are finished one by one, so that they stay in the cache.
 template <Way W>
-void furtherPasses(const void* block, const LengthPlan& plan, int i, Hux32fc* d, Index n) {
+void furtherPasses(const void* block, const LengthPlan& plan, int i, Hux32fc* from, Hux32fc* to, Index n) {
   if (i == 0) return;
   const Pass p = passOf(block, plan, i);
   const Joining run = kJoinings<W>[std::size_t(plan.kind[i])];
   const Index own = p.length * p.all;
   const bool broad = own <= kLongestBroad;
-  if (broad) furtherPasses<W>(block, plan, i - 1, d, n);
+  if (broad) furtherPasses<W>(block, plan, i - 1, to, from, n);
   for (Index at = 0; at < n; at += own) {
-    if (!broad) furtherPasses<W>(block, plan, i - 1, d + at, own);
-    passWithin(p, run, d + at);
+    if (!broad) furtherPasses<W>(block, plan, i - 1, to + at, from + at, own);
+    pass(p, run, from + at, to + at);
   }
 }
 
-// dst is not where the sequence lies.
+// The result is in dst; `other` is as long, or the same, and neither is where the sequence lies, but for `other` where
+// the number of passes is odd.
 template <Way W, class Bring>
-void primeFact(const void* block, const LengthPlan& plan, const Bring& bring, Hux32fc* dst) {
-  firstPass<W>(block, plan, bring, dst);
-  furtherPasses<W>(block, plan, plan.passes - 1, dst, plan.length);
+void primeFact(const void* block, const LengthPlan& plan, const Bring& bring, Hux32fc* dst, Hux32fc* other) {
+  firstPass<W>(block, plan, bring, plan.passes % 2 ? dst : other);
+  furtherPasses<W>(block, plan, plan.passes - 1, other, dst, plan.length);
 }
 
 // Where a first pass takes its numbers: complex ones, real ones, or those of which half are there.
 struct ComplexNumbers {
   const Hux32fc* src;
   Index n;
+  const Hux32fc* complexes() const { return src; }  // as they lie
   HUX_INLINE void operator()(Index i, Hux32fc* to) const {
     if (i + kLanes <= n)
       std::memcpy(to, src + i, kLanes * sizeof(Hux32fc));
@@ -306,6 +319,7 @@ struct ComplexNumbers {
 struct RealNumbers {
   const Hux32f* src;
   Index n;
+  static constexpr const Hux32fc* complexes() { return nullptr; }
   HUX_INLINE void operator()(Index i, Hux32fc* to) const {
     Hux32f some[kLanes] = {};
     const bool whole = i + kLanes <= n;
@@ -316,6 +330,7 @@ struct RealNumbers {
 struct HalfSpectrum {
   const Hux32f* src;
   Index n;
+  static constexpr const Hux32fc* complexes() { return nullptr; }
   HUX_INLINE void operator()(Index i, Hux32fc* to) const {
     if (i > 0 && i + kLanes <= n / 2 + 1) {
       std::memcpy(to, src + 2 * i - 1, kLanes * sizeof(Hux32fc));
@@ -330,11 +345,11 @@ struct HalfSpectrum {
 
 template <Way W>
 void cDft_PrimeFact(const void* block, const LengthPlan& plan, const Hux32fc* src, Hux32fc* dst, Hux32fc* work) {
-  if (src == dst) {
+  if (src == dst && plan.passes % 2) {
     std::memcpy(work, src, sizeof(Hux32fc) * std::size_t(plan.length));
     src = work;
   }
-  primeFact<W>(block, plan, ComplexNumbers{src, plan.length}, dst);
+  primeFact<W>(block, plan, ComplexNumbers{src, plan.length}, dst, work);
 }
 
 // --- The sum as it stands, of an odd number n. A lane is an output.
@@ -570,8 +585,7 @@ HuxStatus LengthPlan::fill(void* block) const {
           for (int r = 1; r < s; ++r) vector(first + q * p.length, r, p.length * p.all);
       };
       if (i > 0) {
-        if (p.length % kLanes) unit(lastVector(p.length));
-        for (Index k = 0; k + kLanes <= p.length; k += kLanes) unit(k);
+        for (Index k = 0; k < p.length; k += kLanes) unit(std::min(k, lastVector(p.length)));
       } else if (to) {
         unit(0);
       }
@@ -702,7 +716,7 @@ void transformReal(const void* block, const RealLengthPlan& plan, const Hux32f* 
     d[0] = z[0].re, d[1] = z[1].re, d[2] = z[1].im;
     return;
   } else if (inner.method == Method::factors) {
-    primeFact<Way::forward>(block, inner, RealNumbers{src, n}, numbers);
+    primeFact<Way::forward>(block, inner, RealNumbers{src, n}, numbers, numbers);
     packHalf(numbers, dst, n);
   } else if (inner.method == Method::chirp) {
     const Hux32fc* chirp = inner.chirp.in(block);
@@ -736,7 +750,7 @@ void transformToReal(const void* block, const RealLengthPlan& plan, const Hux32f
     for (int i = 0; i < 3; ++i) d[i] = z[i].re;
     return;
   } else if (inner.method == Method::factors) {
-    primeFact<Way::inverse>(block, inner, HalfSpectrum{src, n}, numbers);
+    primeFact<Way::inverse>(block, inner, HalfSpectrum{src, n}, numbers, numbers);
     for (Index i = 0; i < n; ++i) d[i] = numbers[i].re;
   } else if (inner.method == Method::chirp) {
     const Hux32fc* chirp = inner.chirp.in(block);
