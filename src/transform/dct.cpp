@@ -220,12 +220,26 @@ void fillHalves(Hux32f* to, Index n) {
 
 constexpr Index padded(Index n) { return Index(roundedUp(std::size_t(n), kLanes)); }
 
-// Sums over rows of x[row] times the row's lanes from `first` on.
-V directSum(const Hux32f* matrix, const Hux32f* x, Index rows, Index lanes, Index first) {
-  V sum{};
-  const Hux32f* m = matrix + first;
-  for (Index r = 0; r < rows; ++r, m += padded(lanes)) sum += load(m) * x[r];
-  return sum;
+// Sums over rows of x[row] times the row, of K vectors of lanes at a time, for each addition waits for the one before.
+template <int K>
+Index directSums(const Hux32f* matrix, const Hux32f* x, Index rows, Index first, Index lanes, V* sums) {
+  for (; first + K * kLanes <= lanes; first += K * kLanes) {
+    V sum[K] = {};
+    const Hux32f* m = matrix + first;
+    for (Index r = 0; r < rows; ++r, m += lanes) {
+      const V factor = splat<V>(x[r]);
+      for (int k = 0; k < K; ++k) sum[k] += load(m + k * kLanes) * factor;
+    }
+    for (int k = 0; k < K; ++k) sums[first / kLanes + k] = sum[k];
+  }
+  return first;
+}
+// The matrix is a square of `count` numbers, padded to vectors.
+void directSums(const Hux32f* matrix, const Hux32f* x, Index count, V* sums) {
+  const Index lanes = padded(count);
+  Index done = directSums<4>(matrix, x, count, 0, lanes, sums);
+  done = directSums<2>(matrix, x, count, done, lanes, sums);
+  directSums<1>(matrix, x, count, done, lanes, sums);
 }
 
 template <bool Forward>
@@ -241,9 +255,11 @@ void direct(const Record* c, const Hux32f* src, Hux32f* dst, Hux32f* work) {
     for (Index j = 0; j < evens; ++j) even[j] = x[2 * j] * (j ? c->scaleK : c->scale0);
     for (Index j = 0; j < odds; ++j) odd[j] = x[2 * j + 1] * c->scaleK;
   }
+  V evenSums[kLongestDirect / 2 / kLanes + 1], oddSums[kLongestDirect / 2 / kLanes + 1];
+  directSums(c->table.in(c), even, evens, evenSums);
+  directSums(c->odd.in(c), odd, odds, oddSums);
   for (Index i = 0; i < evens; i += kLanes) {
-    const V a = directSum(c->table.in(c), even, evens, evens, i);
-    const V b = i < odds ? directSum(c->odd.in(c), odd, odds, odds, i) : V{};
+    const V a = evenSums[i / kLanes], b = i < odds ? oddSums[i / kLanes] : V{};
     for (Index l = 0; l < kLanes && i + l < evens; ++l) {
       const Index k = i + l;
       if constexpr (Forward) {
