@@ -11,10 +11,9 @@
 #include <numbers>
 
 #include "core/stamp.h"
-#include "huxs_transform.h"
 #include "lanes/interleave.h"
 #include "transform/eight.h"
-#include "workers/fft/power.h"
+#include "transform/vector.h"
 
 namespace hux {
 namespace {
@@ -520,65 +519,41 @@ HuxStatus init(Hux32s tag, Record** ppCtx, int n, HuxAccuracyHint hint, Hux8u* p
   return place(ppCtx, pMem, [&](Record* made) { return plan.make(made, pInitBuf); });
 }
 
-HuxStatus freeRecord(Hux32s tag, Record* pCtx) {
-  if (HuxStatus s = check(pointers(pCtx), recordOf(pCtx, tag))) return s;
-  retire(pCtx, pCtx->owned != 0);
-  return huxStsOk;
-}
-
-HuxStatus getBufSize(Hux32s tag, const Record* pCtx, int* pSize) {
-  if (HuxStatus s = check(pointers(pCtx, pSize), recordOf(pCtx, tag))) return s;
-  *elements(pSize) = pCtx->workSize ? pCtx->workSize + 16 : 0;
-  return huxStsOk;
-}
-
 template <bool Forward>
 HuxStatus transform(const Hux32f* pSrc, Hux32f* pDst, const Record* c, Hux8u* pBuffer) {
-  if (HuxStatus s = check(pointers(c), recordOf(c, Forward ? kForward : kInverse), pointers(pSrc, pDst))) return s;
-  if (c->method == Method::small) {
-    small<Forward>(pSrc, pDst, c->length);
-    return huxStsOk;
-  }
-  const WorkBuffer buffer(pBuffer, std::size_t(c->workSize));
-  if (!buffer) return huxStsNoMem;
-  auto* work = reinterpret_cast<Hux32f*>(buffer.get());
-  switch (c->method) {
-    case Method::halves:
-      halves<Forward>(c, pSrc, pDst, work);
-      break;
-    case Method::fourier:
-      fourier<Forward>(c, pSrc, pDst, work);
-      break;
-    case Method::chirp:
-      byChirp<Forward>(c, pSrc, pDst, work);
-      break;
-    default:
-      direct<Forward>(c, pSrc, pDst, work);
-  }
-  return huxStsOk;
+  return fft::transforming(Forward ? kForward : kInverse, pSrc, pDst, c, pBuffer, [=](std::byte* buffer) {
+    auto* work = reinterpret_cast<Hux32f*>(buffer);
+    switch (c->method) {
+      case Method::small:
+        return small<Forward>(pSrc, pDst, c->length);
+      case Method::halves:
+        return halves<Forward>(c, pSrc, pDst, work);
+      case Method::fourier:
+        return fourier<Forward>(c, pSrc, pDst, work);
+      case Method::chirp:
+        return byChirp<Forward>(c, pSrc, pDst, work);
+      case Method::direct:
+        return direct<Forward>(c, pSrc, pDst, work);
+    }
+  });
 }
 
 }  // namespace
 }  // namespace hux
 
-#define EXPORT(way, tag, forward)                                                                             \
-  HuxStatus huxsDCT##way##InitAlloc_32f(HuxsDCTRecord** ppCtx, int length, HuxAccuracyHint hint) {            \
-    return hux::initAlloc(hux::tag, ppCtx, length, hint);                                                     \
-  }                                                                                                           \
-  HuxStatus huxsDCT##way##GetSize_32f(int length, HuxAccuracyHint hint, int* pSize, int* pInitBufSize,        \
-                                      int* pBufSize) {                                                        \
-    return hux::getSize(hux::tag, length, hint, pSize, pInitBufSize, pBufSize);                               \
-  }                                                                                                           \
-  HuxStatus huxsDCT##way##Init_32f(HuxsDCTRecord** ppCtx, int length, HuxAccuracyHint hint, Hux8u* pMem,      \
-                                   Hux8u* pInitBuf) {                                                         \
-    return hux::init(hux::tag, ppCtx, length, hint, pMem, pInitBuf);                                          \
-  }                                                                                                           \
-  HuxStatus huxsDCT##way##Free_32f(HuxsDCTRecord* pCtx) { return hux::freeRecord(hux::tag, pCtx); }           \
-  HuxStatus huxsDCT##way##GetBufSize_32f(const HuxsDCTRecord* pCtx, int* pSize) {                             \
-    return hux::getBufSize(hux::tag, pCtx, pSize);                                                            \
-  }                                                                                                           \
-  HuxStatus huxsDCT##way##_32f(const Hux32f* pSrc, Hux32f* pDst, const HuxsDCTRecord* pCtx, Hux8u* pBuffer) { \
-    return hux::transform<forward>(pSrc, pDst, pCtx, pBuffer);                                                \
-  }
+#define EXPORT(way, tag, forward)                                                                        \
+  HuxStatus huxsDCT##way##InitAlloc_32f(HuxsDCTRecord** ppCtx, int length, HuxAccuracyHint hint) {       \
+    return hux::initAlloc(hux::tag, ppCtx, length, hint);                                                \
+  }                                                                                                      \
+  HuxStatus huxsDCT##way##GetSize_32f(int length, HuxAccuracyHint hint, int* pSize, int* pInitBufSize,   \
+                                      int* pBufSize) {                                                   \
+    return hux::getSize(hux::tag, length, hint, pSize, pInitBufSize, pBufSize);                          \
+  }                                                                                                      \
+  HuxStatus huxsDCT##way##Init_32f(HuxsDCTRecord** ppCtx, int length, HuxAccuracyHint hint, Hux8u* pMem, \
+                                   Hux8u* pInitBuf) {                                                    \
+    return hux::init(hux::tag, ppCtx, length, hint, pMem, pInitBuf);                                     \
+  }                                                                                                      \
+  HUX_VECTOR_RECORD(DCT##way, 32f, HuxsDCTRecord, hux::tag)                                              \
+  HUX_VECTOR_TRANSFORM(DCT##way##_32f, Hux32f, HuxsDCTRecord, transform<forward>)
 EXPORT(Fwd, kForward, true)
 EXPORT(Inv, kInverse, false)

@@ -1,14 +1,18 @@
 // The transform of vectors of any length: contexts, complex transforms, and real ones with their packed spectrum.
 #include <limits>
 
-#include "huxs_transform.h"
-#include "workers/fft/length.h"
+#include "transform/vector.h"
 
 struct HuxsDFTRecord {
+  static constexpr Hux32s kComplex = 13, kReal = 15;
+  static constexpr bool owned = true;  // there is no other way of making one
+
   Hux32s tag;
   HuxAccuracyHint hint;
   Hux32s workSize;
   hux::fft::RealLengthPlan plan;  // of a complex record, its inner plan is the whole
+
+  const hux::fft::LengthPlan& whole() const { return plan.inner; }
 };
 
 namespace hux {
@@ -17,7 +21,7 @@ namespace {
 using namespace fft;
 using Record = HuxsDFTRecord;
 
-constexpr Hux32s kComplex = 13, kReal = 15;
+constexpr Hux32s kReal = Record::kReal;
 
 HuxStatus initAlloc(Hux32s tag, Record** ppCtx, int n, Hux32s flag, HuxAccuracyHint hint) {
   if (HuxStatus s = check(pointers(ppCtx), length(n))) return s;
@@ -42,63 +46,13 @@ HuxStatus initAlloc(Hux32s tag, Record** ppCtx, int n, Hux32s flag, HuxAccuracyH
   });
 }
 
-HuxStatus freeRecord(Hux32s tag, Record* pCtx) {
-  if (HuxStatus s = check(pointers(pCtx), recordOf(pCtx, tag))) return s;
-  retire(pCtx, true);
-  return huxStsOk;
-}
-
-HuxStatus getBufSize(Hux32s tag, const Record* pCtx, int* pSize) {
-  if (HuxStatus s = check(pointers(pCtx, pSize), recordOf(pCtx, tag))) return s;
-  *elements(pSize) = pCtx->workSize ? pCtx->workSize + 16 : 0;
-  return huxStsOk;
-}
-
-// Checks and work memory of a transform.
-template <class T, class Run>
-HuxStatus transforming(Hux32s tag, const T* pSrc, const T* pDst, const Record* pCtx, Hux8u* pBuffer, Run run) {
-  if (HuxStatus s = check(pointers(pCtx), recordOf(pCtx, tag), pointers(pSrc, pDst))) return s;
-  const WorkBuffer work(pBuffer, std::size_t(pCtx->workSize));
-  if (!work) return huxStsNoMem;
-  run(work.get());
-  return huxStsOk;
-}
-
-template <Way W>
-HuxStatus complexTransform(const Hux32fc* pSrc, Hux32fc* pDst, const Record* pCtx, Hux8u* pBuffer) {
-  return transforming(kComplex, pSrc, pDst, pCtx, pBuffer,
-                      [=](std::byte* work) { transform<W>(pCtx, pCtx->plan.inner, pSrc, pDst, work); });
-}
-template <Way W>
-HuxStatus realTransform(const Hux32f* pSrc, Hux32f* pDst, const Record* pCtx, Hux8u* pBuffer) {
-  return transforming(kReal, pSrc, pDst, pCtx, pBuffer, [=](std::byte* work) {
-    if constexpr (W == Way::forward)
-      transformReal(pCtx, pCtx->plan, pSrc, pDst, work);
-    else
-      transformToReal(pCtx, pCtx->plan, pSrc, pDst, work);
-  });
-}
-
 }  // namespace
 }  // namespace hux
 
 #define EXPORT(kind, t)                                                                               \
   HuxStatus huxsDFTInitAlloc_##t(HuxsDFTRecord** ppCtx, int length, int flag, HuxAccuracyHint hint) { \
-    return hux::initAlloc(hux::kind, ppCtx, length, flag, hint);                                      \
-  }                                                                                                   \
-  HuxStatus huxsDFTFree_##t(HuxsDFTRecord* pCtx) { return hux::freeRecord(hux::kind, pCtx); }         \
-  HuxStatus huxsDFTGetBufSize_##t(const HuxsDFTRecord* pCtx, int* pSize) {                            \
-    return hux::getBufSize(hux::kind, pCtx, pSize);                                                   \
+    return hux::initAlloc(HuxsDFTRecord::kind, ppCtx, length, flag, hint);                            \
   }
 EXPORT(kComplex, C_32fc)
 EXPORT(kReal, R_32f)
-#undef EXPORT
-
-#define EXPORT(name, T, ...)                                                                   \
-  HuxStatus huxsDFT##name(const T* pSrc, T* pDst, const HuxsDFTRecord* pCtx, Hux8u* pBuffer) { \
-    return hux::__VA_ARGS__(pSrc, pDst, pCtx, pBuffer);                                        \
-  }
-EXPORT(Fwd_CToC_32fc, Hux32fc, complexTransform<hux::Way::forward>)
-EXPORT(Inv_CToC_32fc, Hux32fc, complexTransform<hux::Way::inverse>)
-EXPORT(Fwd_RToPack_32f, Hux32f, realTransform<hux::Way::forward>)
-EXPORT(Inv_PackToR_32f, Hux32f, realTransform<hux::Way::inverse>)
+HUX_FOURIER_VECTORS(DFT)

@@ -1,16 +1,19 @@
 // The power-of-two transform of vectors: contexts, complex transforms, and real ones with their packed spectra.
 #include <limits>
 
-#include "huxs_transform.h"
-#include "workers/fft/power.h"
+#include "transform/vector.h"
 
 // At most 80 bytes: that many are reported for a record without tables, besides the slack of its alignment.
 struct HuxsFFTRecord {
+  static constexpr Hux32s kComplex = 4, kReal = 6;
+
   Hux32s tag;
   HuxAccuracyHint hint;
   Hux32s workSize;
   Hux32u owned;
   hux::fft::RealPlan plan;  // of a complex record, its half is the whole
+
+  const hux::fft::PowerPlan& whole() const { return plan.half; }
 };
 static_assert(sizeof(HuxsFFTRecord) <= 80);
 
@@ -20,7 +23,7 @@ namespace {
 using namespace fft;
 using Record = HuxsFFTRecord;
 
-constexpr Hux32s kComplex = 4, kReal = 6;
+constexpr Hux32s kReal = Record::kReal;
 
 constexpr HuxStatus orderInRange(int n) { return failUnless(n >= 0 && n <= kMostOrder, huxStsBadOrder); }
 
@@ -43,8 +46,6 @@ struct Sizes {
     return failUnless(record <= most && scratch <= most, huxStsNoMem);
   }
 };
-
-int bufferBytes(std::int64_t work) { return work ? int(work + 16) : 0; }
 
 Record planned(Hux32s tag, int order, HuxAccuracyHint hint, const Scaling& scaling) {
   Record record{};
@@ -96,7 +97,7 @@ HuxStatus getSize(Hux32s tag, int order, int* pSize, int* pInitBufSize, int* pBu
   if (HuxStatus s = check(orderInRange(order), pointers(pSize, pInitBufSize, pBufSize), sizes.fit())) return s;
   *elements(pSize) = int(sizes.record);
   *elements(pInitBufSize) = int(sizes.scratch);
-  *elements(pBufSize) = bufferBytes(sizes.work);
+  *elements(pBufSize) = int(bufferBytes(sizes.work));
   return huxStsOk;
 }
 
@@ -116,40 +117,13 @@ HuxStatus init(Hux32s tag, Record** ppCtx, int order, Hux32s flag, HuxAccuracyHi
   });
 }
 
-HuxStatus freeRecord(Hux32s tag, Record* pCtx) {
-  if (HuxStatus s = check(pointers(pCtx), recordOf(pCtx, tag))) return s;
-  retire(pCtx, pCtx->owned);
-  return huxStsOk;
-}
-
-HuxStatus getBufSize(Hux32s tag, const Record* pCtx, int* pSize) {
-  if (HuxStatus s = check(pointers(pCtx, pSize), recordOf(pCtx, tag))) return s;
-  *elements(pSize) = bufferBytes(pCtx->workSize);
-  return huxStsOk;
-}
-
-// Checks and work memory of a transform.
-template <class T, class Run>
-HuxStatus transforming(Hux32s tag, const T* pSrc, const T* pDst, const Record* pCtx, Hux8u* pBuffer, Run run) {
-  if (HuxStatus s = check(pointers(pCtx), recordOf(pCtx, tag), pointers(pSrc, pDst))) return s;
-  const WorkBuffer work(pBuffer, std::size_t(pCtx->workSize));
-  if (!work) return huxStsNoMem;
-  run(work.get());
-  return huxStsOk;
-}
-
 template <Way W>
-HuxStatus complexTransform(const Hux32fc* pSrc, Hux32fc* pDst, const Record* pCtx, Hux8u* pBuffer) {
-  return transforming(kComplex, pSrc, pDst, pCtx, pBuffer,
-                      [=](std::byte* work) { transform<W>(pCtx, pCtx->plan.half, pSrc, pDst, work); });
-}
-template <Way W, Order O>
-HuxStatus realTransform(const Hux32f* pSrc, Hux32f* pDst, const Record* pCtx, Hux8u* pBuffer) {
+HuxStatus permTransform(const Hux32f* pSrc, Hux32f* pDst, const Record* pCtx, Hux8u* pBuffer) {
   return transforming(kReal, pSrc, pDst, pCtx, pBuffer, [=](std::byte* work) {
     if constexpr (W == Way::forward)
-      transformReal<O>(pCtx, pCtx->plan, pSrc, pDst, work);
+      transformReal<Order::perm>(pCtx, pCtx->plan, pSrc, pDst, work);
     else
-      transformToReal<O>(pCtx, pCtx->plan, pSrc, pDst, work);
+      transformToReal<Order::perm>(pCtx, pCtx->plan, pSrc, pDst, work);
   });
 }
 
@@ -158,30 +132,17 @@ HuxStatus realTransform(const Hux32f* pSrc, Hux32f* pDst, const Record* pCtx, Hu
 
 #define EXPORT(kind, t)                                                                                         \
   HuxStatus huxsFFTInitAlloc_##t(HuxsFFTRecord** ppCtx, int order, int flag, HuxAccuracyHint hint) {            \
-    return hux::initAlloc(hux::kind, ppCtx, order, flag, hint);                                                 \
+    return hux::initAlloc(HuxsFFTRecord::kind, ppCtx, order, flag, hint);                                       \
   }                                                                                                             \
   HuxStatus huxsFFTGetSize_##t(int order, int, HuxAccuracyHint, int* pSize, int* pInitBufSize, int* pBufSize) { \
-    return hux::getSize(hux::kind, order, pSize, pInitBufSize, pBufSize);                                       \
+    return hux::getSize(HuxsFFTRecord::kind, order, pSize, pInitBufSize, pBufSize);                             \
   }                                                                                                             \
   HuxStatus huxsFFTInit_##t(HuxsFFTRecord** ppCtx, int order, int flag, HuxAccuracyHint hint, Hux8u* pMem,      \
                             Hux8u* pInitBuf) {                                                                  \
-    return hux::init(hux::kind, ppCtx, order, flag, hint, pMem, pInitBuf);                                      \
-  }                                                                                                             \
-  HuxStatus huxsFFTFree_##t(HuxsFFTRecord* pCtx) { return hux::freeRecord(hux::kind, pCtx); }                   \
-  HuxStatus huxsFFTGetBufSize_##t(const HuxsFFTRecord* pCtx, int* pSize) {                                      \
-    return hux::getBufSize(hux::kind, pCtx, pSize);                                                             \
+    return hux::init(HuxsFFTRecord::kind, ppCtx, order, flag, hint, pMem, pInitBuf);                            \
   }
 EXPORT(kComplex, C_32fc)
 EXPORT(kReal, R_32f)
-#undef EXPORT
-
-#define EXPORT(name, T, ...)                                                                   \
-  HuxStatus huxsFFT##name(const T* pSrc, T* pDst, const HuxsFFTRecord* pCtx, Hux8u* pBuffer) { \
-    return hux::__VA_ARGS__(pSrc, pDst, pCtx, pBuffer);                                        \
-  }
-EXPORT(Fwd_CToC_32fc, Hux32fc, complexTransform<hux::Way::forward>)
-EXPORT(Inv_CToC_32fc, Hux32fc, complexTransform<hux::Way::inverse>)
-EXPORT(Fwd_RToPack_32f, Hux32f, realTransform<hux::Way::forward, hux::Order::pack>)
-EXPORT(Fwd_RToPerm_32f, Hux32f, realTransform<hux::Way::forward, hux::Order::perm>)
-EXPORT(Inv_PackToR_32f, Hux32f, realTransform<hux::Way::inverse, hux::Order::pack>)
-EXPORT(Inv_PermToR_32f, Hux32f, realTransform<hux::Way::inverse, hux::Order::perm>)
+HUX_FOURIER_VECTORS(FFT)
+HUX_VECTOR_TRANSFORM(FFTFwd_RToPerm_32f, Hux32f, HuxsFFTRecord, permTransform<hux::Way::forward>)
+HUX_VECTOR_TRANSFORM(FFTInv_PermToR_32f, Hux32f, HuxsFFTRecord, permTransform<hux::Way::inverse>)
