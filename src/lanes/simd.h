@@ -140,17 +140,23 @@ inline void copyFew(void* to, const void* from, Index bytes) {
 // reads and writes, and lives until its last store.
 #if defined(__SSE2__)
 inline constexpr bool kStreams = true;
-inline void stream(void* aligned, Vec v) {
-#if defined(__AVX512VBMI__) && defined(__AVX512BW__) && defined(__AVX512VL__)
-  _mm512_stream_si512(static_cast<__m512i*>(aligned), __m512i(v));
-#else
-  _mm_stream_si128(static_cast<__m128i*>(aligned), __m128i(v));
+template <class V>
+void stream(void* aligned, V v) {
+#if defined(__AVX512F__)
+  if constexpr (sizeof(V) == 64) return _mm512_stream_si512(static_cast<__m512i*>(aligned), __m512i(v));
 #endif
+#if defined(__AVX__)
+  if constexpr (sizeof(V) == 32) return _mm256_stream_si256(static_cast<__m256i*>(aligned), __m256i(v));
+#endif
+  if constexpr (sizeof(V) == 16) _mm_stream_si128(static_cast<__m128i*>(aligned), __m128i(v));
 }
 inline void endStreams() { _mm_sfence(); }
 #else
 inline constexpr bool kStreams = false;
-inline void stream(void* aligned, Vec v) { store(aligned, v); }
+template <class V>
+void stream(void* aligned, V v) {
+  std::memcpy(aligned, &v, sizeof v);
+}
 inline void endStreams() {}
 #endif
 
@@ -177,13 +183,13 @@ class Streaming {
   bool on_;
 };
 
-// Pixels to pass from p on until one starts at a vector boundary, where streams start; -1 where none does. A pixel is a
-// power of two bytes or three times that.
-inline Index pixelsToBoundary(const void* p, int pixelBytes) {
-  const auto bytes = Index(-reinterpret_cast<std::uintptr_t>(p) % kBytes);
+// Pixels to pass from p on until one starts at a boundary, such as that of a vector, where streams start; -1 where none
+// does. A pixel is a power of two bytes or three times that.
+inline Index pixelsToBoundary(const void* p, int pixelBytes, Index boundary = kBytes) {
+  const auto bytes = Index(-reinterpret_cast<std::uintptr_t>(p) % std::uintptr_t(boundary));
   const Index power = pixelBytes & -pixelBytes, inverseOf3 = 43;  // modulo 64
   if (bytes % power != 0) return -1;
-  return bytes / power * (pixelBytes == power ? 1 : inverseOf3) % (kBytes / power);
+  return bytes / power * (pixelBytes == power ? 1 : inverseOf3) % (boundary / power);
 }
 
 // permuteBy(a, b, index): byte j of the result is byte index[j] of a and b laid end to end. Where kPermutes holds. For
@@ -313,6 +319,13 @@ constexpr Mask written() {
 // Lanes of 16 bytes, within which interleaving is one instruction on every machine.
 typedef std::uint8_t Quad __attribute__((vector_size(16)));
 
+// The widest vector of such lanes.
+#if defined(__AVX2__)
+typedef std::uint8_t Quads __attribute__((vector_size(kBytes == 64 ? 64 : 32)));
+#else
+using Quads = Quad;
+#endif
+
 // In each lane, the low or the high halves of a and b interleaved, in elements of ElementBytes. The shuffle is written
 // in elements, in which compilers know the instruction.
 template <int ElementBytes, bool High, class V>
@@ -330,7 +343,7 @@ V zip(V a, V b) {
   (std::make_index_sequence<std::size_t(all)>{});
 }
 
-// A vector whose lanes come from p, p + step, ...; one of the two widths above.
+// A vector whose lanes come from p, p + step, ...
 template <class V>
 V loadQuads(const std::byte* p, Index step) {
   const auto lane = [&](Index i) {
@@ -345,6 +358,10 @@ V loadQuads(const std::byte* p, Index step) {
     v = _mm512_inserti32x4(v, __m128i(lane(2)), 2);
     return V(_mm512_inserti32x4(v, __m128i(lane(3)), 3));
   }
+#endif
+#if defined(__AVX2__)
+  if constexpr (sizeof(V) == 32)
+    return V(_mm256_inserti128_si256(_mm256_castsi128_si256(__m128i(lane(0))), __m128i(lane(1)), 1));
 #endif
   if constexpr (sizeof(V) == sizeof(Quad)) return lane(0);
 }

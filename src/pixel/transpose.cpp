@@ -1,12 +1,14 @@
 // Transpose: pixel (x, y) goes to (y, x), in blocks that keep both images in cache.
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstring>
 
 #include "core/rows.h"
 #include "core/stamp.h"
 #include "huxi_pixel.h"
-#include "lanes/simd.h"
+#include "lanes/unrolled.h"
+#include "lanes/windows.h"
 
 namespace hux {
 namespace {
@@ -19,12 +21,26 @@ struct Plane {
   std::byte* at(Index x, Index y) const { return first + y * step + x * Bytes; }
 };
 
+// Transposes the squares of cells that the lanes of these vectors hold, a row in each vector: interleaving the first
+// half of the vectors with the second, as often as halving leads to one.
+template <int Cell, class V, std::size_t N>
+HUX_INLINE inline void transposeLanes(V (&v)[N]) {
+  static_assert(N * Cell == 16);
+  for (std::size_t stage = 1; stage < N; stage *= 2) {
+    V t[N];
+    for (std::size_t i = 0; i < N / 2; ++i) {
+      t[2 * i] = simd::zip < Cell == 16 ? 8 : Cell, false > (v[i], v[i + N / 2]);
+      t[2 * i + 1] = simd::zip < Cell == 16 ? 8 : Cell, true > (v[i], v[i + N / 2]);
+    }
+    for (std::size_t i = 0; i < N; ++i) v[i] = t[i];
+  }
+}
+
 // Transposes `rows` by `columns` pixels of Bytes bytes in registers, to `columns` rows of whole vectors.
 //
 // Of each source row 16 bytes are loaded, rows to lanes in such a way that lane l of vector i holds row l * columns +
-// i. Interleaving the first half of the vectors with the second, as often as halving leads to one, transposes the
-// square of each lane, after which vector x is column x of all these rows in order. A pixel of three times a power of
-// two bytes is moved in a cell of four times that; its groups of vectors are closed up when they are stored.
+// i. With the square of each lane transposed, vector x is column x of all these rows in order. A pixel of three times a
+// power of two bytes is moved in a cell of four times that; its groups of vectors are closed up when they are stored.
 template <int Bytes, class V, int Groups = 1>
 struct Square {
   static constexpr int cell = int(std::bit_ceil(unsigned(Bytes)));
@@ -51,20 +67,12 @@ struct Square {
   static void move(const std::byte* src, Index srcStep, std::byte* dst, Index dstStep) {
     V column[columns][Groups];
     for (int g = 0; g < Groups; ++g) {
-      [[maybe_unused]] V v[columns], t[columns];
+      V v[columns];
       for (int i = 0; i < columns; ++i) {
         v[i] = simd::loadQuads<V>(src + (g * groupRows + i) * srcStep - (Before ? rest : 0), columns * srcStep);
         if constexpr (cell != Bytes) v[i] = simd::permute<Open<Before>, 1>(&v[i]);
       }
-      if constexpr (columns > 1) {
-        for (int stage = 1; stage < columns; stage *= 2) {
-          for (int i = 0; i < columns / 2; ++i) {
-            t[2 * i] = simd::zip<cell, false>(v[i], v[i + columns / 2]);
-            t[2 * i + 1] = simd::zip<cell, true>(v[i], v[i + columns / 2]);
-          }
-          for (int i = 0; i < columns; ++i) v[i] = t[i];
-        }
-      }
+      transposeLanes<cell>(v);
       for (int x = 0; x < columns; ++x) column[x][g] = v[x];
     }
     for (int x = 0; x < columns; ++x) {
@@ -86,24 +94,98 @@ struct Square {
       }
     }
   }
+};
 
-  // A source region `rows` high. The last columns may be moved twice, so that all are moved in registers.
-  template <bool PastCache>
-  static void strip(const std::byte* src, Index srcStep, std::byte* dst, Index dstStep, Index width) {
-    for (Index next = 0; next < width; next += columns) {
-      const Index x = std::min(next, width - columns);
-      if (x * Bytes + 16 <= width * Bytes)
-        move<false, PastCache>(src + x * Bytes, srcStep, dst + x * dstStep, dstStep);
-      else
-        move<true, PastCache>(src + x * Bytes, srcStep, dst + x * dstStep, dstStep);
+// The same of pixels of three times a power of two bytes, where vectors are short: lanes hold rows of their own, so
+// that pixels are closed up without leaving their lane.
+template <int Bytes>
+struct LaneSquare {
+  static constexpr int cell = 4 * Bytes / 3;
+  static constexpr int columns = 16 / cell;
+  static constexpr int laneRows = 4 * columns;
+  static constexpr int rows = kWindows * laneRows;
+  static constexpr int rest = 4;
+  using V = WindowBytes;
+
+  // Picks the same bytes in each lane; source(j) for byte j of one.
+  template <class Source>
+  static constexpr auto picks(Source source) {
+    std::array<std::uint8_t, sizeof(V)> all{};
+    for (int j = 0; j < int(sizeof(V)); ++j) all[std::size_t(j)] = std::uint8_t(source(j % 16));
+    return all;
+  }
+  template <bool Before>
+  static V open(V v) {
+    static constexpr auto pick =
+        picks([](int j) { return j % cell < Bytes ? (Before ? rest : 0) + j / cell * Bytes + j % cell : 0x80; });
+    return Before || columns > 1 ? pickBytes(v, loadLanes<V>(pick.data())) : v;
+  }
+  // The 12 bytes of group g's pixels at the places that they have among those of all groups, modulo 16.
+  template <int G>
+  static V placed(V v) {
+    static constexpr auto pick = picks([](int j) {
+      const int q = (j - 12 * G + 48) % 16;
+      return q < 12 ? q / Bytes * cell + q % Bytes : 0x80;
+    });
+    return pickBytes(v, loadLanes<V>(pick.data()));
+  }
+  // Of each lane the first `Words` words of a, the others of b.
+  template <int Words>
+  static V joined(V a, V b) {
+    using W = Lanes<Hux32u, int(sizeof(V)) / 4>;
+    return [&]<std::size_t... I>(std::index_sequence<I...>) {
+      return V(__builtin_shufflevector(W(a), W(b), (int(I) % 4 < Words ? int(I) : int(I) + lanesIn<W>)...));
+    }
+    (std::make_index_sequence<std::size_t(lanesIn<W>)>{});
+  }
+
+  template <bool Before, bool PastCache>
+  static void move(const std::byte* src, Index srcStep, std::byte* dst, Index dstStep) {
+    V column[columns][4];
+    for (int g = 0; g < 4; ++g) {
+      V v[columns];
+      for (int i = 0; i < columns; ++i)
+        v[i] = open<Before>(
+            simd::loadQuads<V>(src + (g * columns + i) * srcStep - (Before ? rest : 0), laneRows * srcStep));
+      transposeLanes<cell>(v);
+      for (int x = 0; x < columns; ++x) column[x][g] = v[x];
+    }
+    for (int x = 0; x < columns; ++x) {
+      const V a = placed<0>(column[x][0]), b = placed<1>(column[x][1]);
+      const V c = placed<2>(column[x][2]), d = placed<3>(column[x][3]);
+      const V closed[3] = {joined<3>(a, b), joined<2>(b, c), joined<1>(c, d)};
+      for (int l = 0; l < kWindows; ++l)
+        for (int k = 0; k < 3; ++k) {
+          simd::Quad quad;
+          std::memcpy(&quad, reinterpret_cast<const std::byte*>(&closed[k]) + 16 * l, 16);
+          std::byte* to = dst + x * dstStep + (3 * l + k) * 16;
+          if constexpr (PastCache)
+            simd::stream(to, quad);
+          else
+            std::memcpy(to, &quad, 16);
+        }
     }
   }
 };
 
+// A source region S::rows high. The last columns may be moved twice, so that all are moved in registers.
+template <int Bytes, class S, bool PastCache>
+void transposeStrip(const std::byte* src, Index srcStep, std::byte* dst, Index dstStep, Index width) {
+  for (Index next = 0; next < width; next += S::columns) {
+    const Index x = std::min(next, width - S::columns);
+    if (x * Bytes + 16 <= width * Bytes)
+      S::template move<false, PastCache>(src + x * Bytes, srcStep, dst + x * dstStep, dstStep);
+    else
+      S::template move<true, PastCache>(src + x * Bytes, srcStep, dst + x * dstStep, dstStep);
+  }
+}
+
 template <int Bytes>
 constexpr bool kThirds = Bytes % 3 == 0;
 template <int Bytes>
-using WideSquare = Square<Bytes, simd::Vec, kThirds<Bytes> ? 4 : 1>;
+using WideSquare =
+    std::conditional_t<!kThirds<Bytes>, Square<Bytes, simd::Quads>,
+                       std::conditional_t<simd::kBytes == 64, Square<Bytes, simd::Vec, 4>, LaneSquare<Bytes>>>;
 template <int Bytes>
 using NarrowSquare = Square<Bytes, std::conditional_t<kThirds<Bytes>, simd::Vec, simd::Quad>>;
 
@@ -114,7 +196,7 @@ void transposeBlock(const std::byte* src, Index srcStep, std::byte* dst, Index d
   const auto inStrips = [&]<class S>(S) {
     for (Index next = 0; next < height; next += S::rows) {
       const Index y = std::min(next, height - S::rows);
-      S::template strip<PastCache>(src + y * srcStep, srcStep, dst + y * Bytes, dstStep, width);
+      transposeStrip<Bytes, S, PastCache>(src + y * srcStep, srcStep, dst + y * Bytes, dstStep, width);
     }
   };
   if ((simd::kPermutes || !kThirds<Bytes>)&&width * Bytes >= 16) {
@@ -126,27 +208,58 @@ void transposeBlock(const std::byte* src, Index srcStep, std::byte* dst, Index d
     for (Index y = 0; y < height; ++y) std::memcpy(dst + x * dstStep + y * Bytes, src + y * srcStep + x * Bytes, Bytes);
 }
 
-// In tiles, so that the pages of both images are used well before they are left, and that what a strip has written of
-// the destination's lines is still in the cache when the next strip adds the rest: rows of large pixels are often so
-// far apart that their lines compete for few places. Where a vector is less than a line, a tile is as narrow as a line
-// of the source, since the rest of each line of the destination is written when as many lines have been begun as the
-// tile has columns.
+// Blocks of as many pixels as fill whole lines, on both sides, by way of a copy: rows of an image are often so far
+// apart that their lines compete for few places in the cache, those of the copy do not. So each line of the source is
+// read at once, and of the destination few are begun before they are full. Large pixels take two lines, which memory
+// fetches together.
+template <int Bytes>
+constexpr Index kLinePixels = (Bytes < 4 || kThirds<Bytes> ? 64 : 128) / (Bytes & -Bytes);
+template <int Bytes, bool PastCache>
+void transposeLines(const std::byte* src, Index srcStep, std::byte* dst, Index dstStep) {
+  using S = WideSquare<Bytes>;
+  constexpr Index side = kLinePixels<Bytes>, step = side * Bytes;
+  alignas(64) std::byte kept[side * step + 16];
+  for (Index y = 0; y < side; ++y)
+    for (Index k = 0; k < step; k += Index(sizeof(WindowBytes)))
+      storeLanes(kept + y * step + k, loadLanes<WindowBytes>(src + y * srcStep + k));
+  for (Index x = 0; x < side; x += S::columns)
+    for (Index y = 0; y < side; y += S::rows)
+      S::template move<false, PastCache>(kept + y * step + x * Bytes, step, dst + x * dstStep + y * Bytes, dstStep);
+}
+
+// In tiles, so that the pages of both images are used well before they are left.
 template <int Bytes, bool PastCache>
 void transposeTiles(Plane<Bytes> src, Plane<Bytes> dst, Index width, Index top, Index bottom) {
-  constexpr Index tileHeight = 512, tileWidth = simd::kBytes < 64         ? std::max(64 / Bytes, 4)
-                                                : PastCache || Bytes <= 4 ? 512
-                                                                          : 256 / Bytes;
-  for (Index y = top; y < bottom; y += tileHeight)
-    for (Index x = 0; x < width; x += tileWidth)
-      transposeBlock<Bytes, PastCache>(src.at(x, y), src.step, dst.at(y, x), dst.step, std::min(tileWidth, width - x),
-                                       std::min(tileHeight, bottom - y));
+  const auto forTiles = [=](Index tileWidth, auto body) {
+    constexpr Index tileHeight = 512;
+    for (Index y = top; y < bottom; y += tileHeight)
+      for (Index x = 0; x < width; x += tileWidth)
+        body(x, y, std::min(x + tileWidth, width), std::min(y + tileHeight, bottom));
+  };
+  if constexpr (simd::kBytes < 64 && (simd::kPermutes || !kThirds<Bytes>)) {
+    // The last blocks may lie over those before them.
+    constexpr Index side = kLinePixels<Bytes>;
+    if (width >= side && bottom - top >= side)
+      return forTiles(512, [=](Index left, Index above, Index right, Index below) {
+        for (Index nextY = above; nextY < below; nextY += side)
+          for (Index nextX = left; nextX < right; nextX += side) {
+            const Index x = std::min(nextX, width - side), y = std::min(nextY, bottom - side);
+            transposeLines<Bytes, PastCache>(src.at(x, y), src.step, dst.at(y, x), dst.step);
+          }
+      });
+  }
+  // What a strip has written of the destination's lines is still in the cache when the next strip adds the rest: rows
+  // of large pixels are often so far apart that their lines compete for few places.
+  forTiles(PastCache || Bytes <= 4 ? 512 : 256 / Bytes, [=](Index x, Index y, Index right, Index below) {
+    transposeBlock<Bytes, PastCache>(src.at(x, y), src.step, dst.at(y, x), dst.step, right - x, below - y);
+  });
 }
 
 template <int Bytes>
 void transposeImage(Plane<Bytes> src, Plane<Bytes> dst, Index width, Index height, bool streaming) {
-  constexpr Index rows = WideSquare<Bytes>::rows;
-  const bool vectors = dst.step % simd::kBytes == 0 && width * Bytes >= 16 && height >= 2 * rows;
-  const Index head = streaming && vectors ? simd::pixelsToBoundary(dst.first, Bytes) : -1;
+  constexpr Index rows = simd::kBytes < 64 ? kLinePixels<Bytes> : WideSquare<Bytes>::rows;
+  const bool vectors = dst.step % 64 == 0 && width >= rows && width * Bytes >= 16 && height >= 2 * rows;
+  const Index head = streaming && vectors ? simd::pixelsToBoundary(dst.first, Bytes, 64) : -1;
   if (head < 0) return transposeTiles<Bytes, false>(src, dst, width, 0, height);
   const Index end = head + (height - head) / rows * rows;
   if (head > 0) transposeTiles<Bytes, false>(src, dst, width, 0, rows);
