@@ -1,0 +1,405 @@
+// CrossCorr and SqrDistance: every member bit for bit beside the steps taken one by one with the transforms of images,
+// and near the definition of its measure.
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+#include "huxcore.h"
+#include "huxi_stats.h"
+#include "huxi_transform.h"
+#include "support/failing_malloc.h"
+#include "support/forms.h"
+
+namespace hux::test {
+namespace {
+
+enum Extent { kFull, kSame, kValid };
+enum Measure { kCorrelation, kLevel, kDistance };
+enum class Type { k32f, k8u, k8s };
+
+struct Member : Form {
+  Extent extent;
+  Measure measure;
+  Type type;
+  bool scaled;
+  HuxStatus (*call)(const void*, int, HuxiSize, const void*, int, HuxiSize, void*, int, int scaleFactor);
+
+  int channels() const { return layout.touched; }
+};
+
+#define MEMBER(Name, extent, measure, types, s, d, l, suffix, ...)                                                  \
+  Member {                                                                                                          \
+    {#Name "_" #types "_" #l #suffix, sizeof(Hux##s), l}, extent, measure, Type::k##s, sizeof(Hux##d) == 1,         \
+        [](const void* src, int srcStep, HuxiSize size, const void* tpl, int tplStep, HuxiSize tplSize, void* dst,  \
+           int dstStep, [[maybe_unused]] int scaleFactor) {                                                         \
+          return huxi##Name##_##types##_##l##suffix(static_cast<const Hux##s*>(src), srcStep, size,                 \
+                                                    static_cast<const Hux##s*>(tpl), tplStep, tplSize,              \
+                                                    static_cast<Hux##d*>(dst), dstStep __VA_OPT__(, ) __VA_ARGS__); \
+        }                                                                                                           \
+  }
+#define MEASURES(N, ...)                                           \
+  MEMBER(CrossCorr##N##_Norm, k##N, kCorrelation, __VA_ARGS__),    \
+      MEMBER(CrossCorr##N##_NormLevel, k##N, kLevel, __VA_ARGS__), \
+      MEMBER(SqrDistance##N##_Norm, k##N, kDistance, __VA_ARGS__)
+#define EXTENTS(...) MEASURES(Full, __VA_ARGS__), MEASURES(Same, __VA_ARGS__), MEASURES(Valid, __VA_ARGS__)
+#define MEMBERS(_, l)                                                                         \
+  EXTENTS(32f, 32f, 32f, l, R), EXTENTS(8u32f, 8u, 32f, l, R), EXTENTS(8s32f, 8s, 32f, l, R), \
+      EXTENTS(8u, 8u, 8u, l, RSfs, scaleFactor),
+const Member kMembers[] = {HUX_STAMP(MEMBERS, (_), (C1, C3, C4, AC4))};
+static_assert(std::size(kMembers) == 144);
+
+// Fractions of eight, so that sums of squares are exact.
+Image makeImage(Rng& rng, const Member& m, HuxiSize size) {
+  Image image(rng, size.width, size.height, m.pixelBytes(), Place(between(rng, 0, 2)));
+  if (m.type == Type::k32f) image.fill<Hux32f>([&] { return Hux32f(between(rng, -40, 400)) / 8; });
+  return image;
+}
+
+// One channel of an image, and zeros around it.
+struct Plane {
+  HuxiSize size;
+  std::vector<Hux32f> pixels;
+
+  Plane(HuxiSize s) : size(s), pixels(std::size_t(s.width) * std::size_t(s.height)) {}
+  Plane(const Member& m, const Image& image, int c) : Plane(image.size()) {
+    for (int y = 0; y < size.height; ++y)
+      for (int x = 0; x < size.width; ++x)
+        at(x, y) = m.type == Type::k32f  ? image.get<Hux32f>(x, y, c)
+                   : m.type == Type::k8u ? Hux32f(image.get<Hux8u>(x, y, c))
+                                         : Hux32f(image.get<Hux8s>(x, y, c));
+  }
+  Hux32f& at(int x, int y) { return pixels[std::size_t(y) * std::size_t(size.width) + std::size_t(x)]; }
+  Hux32f get(int x, int y) const {
+    const bool inside = x >= 0 && y >= 0 && x < size.width && y < size.height;
+    return inside ? pixels[std::size_t(y) * std::size_t(size.width) + std::size_t(x)] : 0;
+  }
+  int step() const { return size.width * int(sizeof(Hux32f)); }
+};
+
+HuxiSize resultSize(Extent extent, HuxiSize src, HuxiSize tpl) {
+  if (extent == kSame) return src;
+  const int sign = extent == kFull ? 1 : -1;
+  return {src.width + sign * (tpl.width - 1), src.height + sign * (tpl.height - 1)};
+}
+HuxiPoint firstWindow(Extent extent, HuxiSize tpl) {
+  if (extent == kFull) return {1 - tpl.width, 1 - tpl.height};
+  return extent == kSame ? HuxiPoint{-(tpl.width / 2), -(tpl.height / 2)} : HuxiPoint{0, 0};
+}
+
+int blockOrder(int tpl, int result) {
+  int order = 1;
+  while (1 << order < 2 * tpl) ++order;
+  return order < 7 && 1 << order < result ? order + 1 : order;
+}
+
+// 2^scaleFactor as the bits of a float give it.
+Hux32f factorOf(int scaleFactor) {
+  const int field = int((std::int64_t(scaleFactor) + 127) & 511), exponent = field & 255;
+  const Hux32f value = exponent == 0     ? 0
+                       : exponent == 255 ? std::numeric_limits<Hux32f>::infinity()
+                                         : std::ldexp(1.0f, exponent - 127);
+  return field > 255 ? -value : value;
+}
+
+// The sums of products of a channel, tile by tile.
+Plane products(const Member& m, const Plane& src, const Plane& tpl) {
+  const HuxiSize result = resultSize(m.extent, src.size, tpl.size);
+  const HuxiPoint first = firstWindow(m.extent, tpl.size);
+  const int orderX = blockOrder(tpl.size.width, result.width), orderY = blockOrder(tpl.size.height, result.height);
+  const HuxiSize block = {1 << orderX, 1 << orderY};
+  const bool whole = m.extent == kFull && block.width >= result.width && block.height >= result.height;
+  const HuxiSize tile = whole ? result : HuxiSize{block.width - tpl.size.width + 1, block.height - tpl.size.height + 1};
+
+  HuxiFFTRecord* context = nullptr;
+  huxiFFTInitAlloc_R_32f(&context, orderX, orderY, huxFftScaleInv, huxHintNone);
+  const auto spectrum = [&](const Plane& from, int x0, int y0) {
+    Plane p(block);
+    for (int y = 0; y < block.height; ++y)
+      for (int x = 0; x < block.width; ++x) p.at(x, y) = from.get(x0 + x, y0 + y);
+    huxiFFTFwd_RToPack_32f_C1IR(p.pixels.data(), p.step(), context, nullptr);
+    return p;
+  };
+  const Plane factors = spectrum(tpl, 0, 0);
+  Plane all(result);
+  for (int y0 = 0; y0 < result.height; y0 += tile.height)
+    for (int x0 = 0; x0 < result.width; x0 += tile.width) {
+      Plane p = spectrum(src, first.x + x0, first.y + y0);
+      huxiMulPackConj_32f_C1R(p.pixels.data(), p.step(), factors.pixels.data(), p.step(), p.pixels.data(), p.step(),
+                              block);
+      huxiFFTInv_PackToR_32f_C1IR(p.pixels.data(), p.step(), context, nullptr);
+      for (int y = 0; y < std::min(tile.height, result.height - y0); ++y)
+        for (int x = 0; x < std::min(tile.width, result.width - x0); ++x) all.at(x0 + x, y0 + y) = p.get(x, y);
+    }
+  huxiFFTFree_R_32f(context);
+  return all;
+}
+
+void normAndMean(const Member& m, const Image& tpl, Hux64f (&norm)[4], Hux64f (&mean)[4]) {
+  if (m.type == Type::k32f) {
+    const auto measure = [&](auto normOf, auto meanOf) {
+      normOf(tpl.data<Hux32f>(), tpl.step(), tpl.size(), norm, huxHintNone);
+      meanOf(tpl.data<Hux32f>(), tpl.step(), tpl.size(), mean, huxHintNone);
+    };
+    if (m.layout.stride == 1) return measure(huxiNorm_L2_32f_C1R, huxiMean_32f_C1R);
+    if (m.layout.stride == 3) return measure(huxiNorm_L2_32f_C3R, huxiMean_32f_C3R);
+    if (m.layout.touched == 3) return measure(huxiNorm_L2_32f_AC4R, huxiMean_32f_AC4R);
+    return measure(huxiNorm_L2_32f_C4R, huxiMean_32f_C4R);
+  }
+  const Hux64f n = Hux64f(tpl.width()) * tpl.height();
+  for (int c = 0; c < m.channels(); ++c) {
+    const Plane plane(m, tpl, c);
+    Hux64f sum = 0, squares = 0;
+    for (Hux32f p : plane.pixels) sum += p, squares += Hux64f(p) * p;
+    norm[c] = std::sqrt(squares), mean[c] = m.layout.stride == 1 ? sum / n : sum * (1 / n);
+  }
+}
+
+// What a call puts into a channel, as floats, step by step; and the definition, within what transforms in single
+// precision can do to it.
+Plane expectedOf(const Member& m, const Plane& src, Plane tpl, Hux64f norm, Hux64f mean, int scaleFactor) {
+  const int n = tpl.size.width * tpl.size.height;
+  const Hux32f floor = m.type == Type::k32f ? 0.0005f : 1.0f, g = m.scaled ? factorOf(scaleFactor) : 1;
+  const Plane original = tpl;
+  Hux32f term = std::max(Hux32f(norm), floor) * g;
+  if (m.measure == kLevel) {
+    for (Hux32f& t : tpl.pixels) t = t - Hux32f(mean);
+    term = std::max(Hux32f(norm * norm - n * mean * mean), floor) * g * g;
+  }
+  if (term < 1.17549435e-38f) term = 1;
+  Plane result = products(m, src, tpl);
+  const HuxiPoint first = firstWindow(m.extent, tpl.size);
+  Hux64f size = 0;
+  for (Hux32f p : src.pixels) size += Hux64f(p) * p;
+  size = std::sqrt(size);
+  for (int y = 0; y < result.size.height; ++y)
+    for (int x = 0; x < result.size.width; ++x) {
+      Hux64f squares = 0, sum = 0, direct = 0;
+      for (int j = 0; j < tpl.size.height; ++j)
+        for (int i = 0; i < tpl.size.width; ++i) {
+          const Hux64f p = src.get(first.x + x + i, first.y + y + j), t = original.get(i, j);
+          squares += p * p, sum += p;
+          direct += m.measure == kDistance ? (t - p) * (t - p) : m.measure == kLevel ? (t - mean) * p : t * p;
+        }
+      const Hux32f energy = Hux32f(squares), s = Hux32f(sum), c = result.get(x, y);
+      Hux32f denominator, numerator = c;
+      if (m.measure == kLevel) {
+        const Hux32f square = s * s, less = square * (1.0f / Hux32f(n)), variance = energy - less;
+        denominator = std::sqrt(std::max(variance, floor) * term);
+      } else {
+        const Hux32f root = std::sqrt(std::max(energy, floor));
+        denominator = root * term;
+        if (m.measure == kDistance) {
+          const Hux32f minusTwice = c * -2.0f, more = minusTwice + energy;
+          numerator = more + Hux32f(norm * norm);
+        }
+      }
+      result.at(x, y) = numerator / denominator;
+      EXPECT_NEAR(numerator, direct, 1e-6 * (norm + 1) * size + 1e-6 * squares + 1e-6) << x << ", " << y;
+    }
+  return result;
+}
+
+Hux8u rounded(Hux32f v) {
+  if (v >= 255) return 255;
+  if (!(v > 0)) return 0;
+  const Hux32f t = v + 0.5f;
+  const int i = int(t);
+  return Hux8u(i % 2 && Hux32f(i) == t ? i - 1 : i);
+}
+
+void compare(Rng& rng, const Member& m, HuxiSize srcSize, HuxiSize tplSize, int scaleFactor) {
+  const Image src = makeImage(rng, m, srcSize), tpl = makeImage(rng, m, tplSize);
+  const HuxiSize size = resultSize(m.extent, srcSize, tplSize);
+  const int bytes = m.scaled ? 1 : 4;
+  Image dst(rng, size.width, size.height, bytes * m.layout.stride, Place(between(rng, 0, 2)));
+  Image expected = dst;
+  Hux64f norm[4], mean[4];
+  normAndMean(m, tpl, norm, mean);
+  for (int c = 0; c < m.channels(); ++c) {
+    const Plane plane = expectedOf(m, Plane(m, src, c), Plane(m, tpl, c), norm[c], mean[c], scaleFactor);
+    for (int y = 0; y < size.height; ++y)
+      for (int x = 0; x < size.width; ++x)
+        if (m.scaled)
+          expected.set<Hux8u>(x, y, c, rounded(plane.get(x, y)));
+        else
+          expected.set<Hux32f>(x, y, c, plane.get(x, y));
+  }
+  ASSERT_EQ(
+      m.call(src.bytes(), src.step(), srcSize, tpl.bytes(), tpl.step(), tplSize, dst.bytes(), dst.step(), scaleFactor),
+      huxStsOk);
+  ASSERT_TRUE(same(dst, expected));
+}
+
+class Match : public testing::Test {
+ protected:
+  ~Match() override { huxSetThreadCount(before_); }
+  Rng rng_{7};
+
+ private:
+  Hux32u before_ = huxGetThreadCount();
+};
+
+// Templates of every small size, and their results on both sides of the lengths at which blocks double or one block
+// holds a full result; tiles are several, along one axis or both.
+TEST_F(Match, EveryMember) {
+  for (const Member& m : kMembers)
+    for (int round = 0; round < 6; ++round) {
+      const auto side = [&](int most) {
+        const int tpl = between(rng_, 0, 2) ? between(rng_, 1, 9) : between(rng_, 10, most);
+        int block = 2;
+        while (block < 2 * tpl) block *= 2;
+        const int result = between(rng_, 0, 1) ? block + between(rng_, -1, 1) : between(rng_, tpl, 2 * block);
+        const int image = result - (resultSize(m.extent, {0, 0}, {tpl, 1}).width);
+        return std::array{std::max(image, tpl), tpl};
+      };
+      const auto x = side(round ? 20 : 70), y = side(12);
+      const int scaleFactor = between(rng_, -9, -3);
+      SCOPED_TRACE(m.name + ", " + std::to_string(x[0]) + " x " + std::to_string(y[0]) + " by " + std::to_string(x[1]) +
+                   " x " + std::to_string(y[1]));
+      huxSetThreadCount(Hux32u(between(rng_, 1, 3)));
+      ASSERT_NO_FATAL_FAILURE(compare(rng_, m, {x[0], y[0]}, {x[1], y[1]}, scaleFactor));
+      ASSERT_FALSE(HasNonfatalFailure());
+    }
+}
+
+// The factor in the exponent: small, large, beyond what floats hold, and into the sign.
+TEST_F(Match, EveryScaleFactor) {
+  for (const Member& m : kMembers) {
+    if (!m.scaled || m.layout.stride > 1) continue;
+    for (int scaleFactor : {0,
+                            1,
+                            -1,
+                            30,
+                            -30,
+                            63,
+                            -60,
+                            -64,
+                            -70,
+                            100,
+                            -126,
+                            -127,
+                            -128,
+                            127,
+                            128,
+                            129,
+                            383,
+                            384,
+                            385,
+                            512,
+                            std::numeric_limits<int>::min(),
+                            std::numeric_limits<int>::max()}) {
+      SCOPED_TRACE(m.name + ", " + std::to_string(scaleFactor));
+      ASSERT_NO_FATAL_FAILURE(compare(rng_, m, {19, 11}, {5, 4}, scaleFactor));
+    }
+  }
+}
+
+// Floors: nothing but zeros, and windows or templates without variance.
+TEST_F(Match, FlatImages) {
+  for (const Member& m : kMembers) {
+    SCOPED_TRACE(m.name);
+    for (int value : {0, 1, 100}) {
+      const auto flat = [&](HuxiSize size, int v) {
+        Image image(rng_, size.width, size.height, m.pixelBytes());
+        if (m.type == Type::k32f)
+          image.fill<Hux32f>([=] { return Hux32f(v); });
+        else
+          image.fill<Hux8u>([=] { return Hux8u(v); });
+        return image;
+      };
+      const Image src = flat({12, 9}, value), tpl = flat({4, 3}, value ? 100 - value : 7);
+      const HuxiSize size = resultSize(m.extent, src.size(), tpl.size());
+      Image dst(rng_, size.width, size.height, (m.scaled ? 1 : 4) * m.layout.stride);
+      m.call(src.bytes(), src.step(), src.size(), tpl.bytes(), tpl.step(), tpl.size(), dst.bytes(), dst.step(), 0);
+      if (m.scaled) continue;
+      for (int y = 0; y < size.height; ++y)
+        for (int x = 0; x < size.width; ++x) {
+          const Hux32f result = dst.get<Hux32f>(x, y, 0);
+          ASSERT_TRUE(std::isfinite(result));
+          ASSERT_EQ(value || m.measure == kDistance ? 0 : result, 0);
+        }
+    }
+  }
+}
+
+// What a NaN cannot reach it does not change: it stays within its tiles.
+TEST_F(Match, NaNStaysInItsTiles) {
+  const HuxiSize size = {70, 50}, tplSize = {8, 8}, result = {63, 43};  // blocks of 32, tiles of 25
+  const Member& m = *std::find_if(std::begin(kMembers), std::end(kMembers),
+                                  [](const Member& f) { return f.name == "CrossCorrValid_NormLevel_32f_C1R"; });
+  Image src = makeImage(rng_, m, size);
+  const Image tpl = makeImage(rng_, m, tplSize);
+  Image clean(rng_, result.width, result.height, 4), spoiled = clean;
+  const auto call = [&](Image& dst) {
+    m.call(src.bytes(), src.step(), size, tpl.bytes(), tpl.step(), tplSize, dst.bytes(), dst.step(), 0);
+  };
+  call(clean);
+  src.set<Hux32f>(60, 10, 0, std::numeric_limits<Hux32f>::quiet_NaN());
+  call(spoiled);
+  for (int y = 0; y < result.height; ++y)
+    for (int x = 0; x < result.width; ++x)
+      if (x >= 50 && y < 25) {
+        ASSERT_TRUE(std::isnan(spoiled.get<Hux32f>(x, y)));
+      } else {
+        ASSERT_EQ(spoiled.get<Hux32f>(x, y), clean.get<Hux32f>(x, y));
+      }
+}
+
+// Sums over windows of numbers of very different size: what a bright row leaves behind ends with its band.
+TEST_F(Match, RoundingDoesNotBuildUp) {
+  const int width = 40, height = 60;
+  Image src(rng_, width, height, 4), tpl(rng_, 3, 3, 4), dst(rng_, width - 2, height - 2, 4);
+  src.fill<Hux32f>([&] { return Hux32f(between(rng_, 100, 999)) / 1000; });
+  tpl.fill<Hux32f>([&] { return Hux32f(between(rng_, 100, 999)) / 1000; });
+  huxiSqrDistanceValid_Norm_32f_C1R(src.data<Hux32f>(), src.step(), src.size(), tpl.data<Hux32f>(), tpl.step(),
+                                    tpl.size(), dst.data<Hux32f>(), dst.step());
+  for (int y = 0; y < dst.height(); ++y)
+    for (int x = 0; x < dst.width(); ++x) {
+      Hux64f distance = 0, p2 = 0, t2 = 0;
+      for (int j = 0; j < 3; ++j)
+        for (int i = 0; i < 3; ++i) {
+          const Hux64f p = src.get<Hux32f>(x + i, y + j), t = tpl.get<Hux32f>(i, j);
+          distance += (p - t) * (p - t), p2 += p * p, t2 += t * t;
+        }
+      ASSERT_NEAR(dst.get<Hux32f>(x, y), distance / std::sqrt(p2 * t2), 1e-5);
+    }
+}
+
+TEST_F(Match, ChecksInOrderAndMemory) {
+  const Image image(rng_, 64, 8, 16);
+  for (const Member& m : kMembers) {
+    SCOPED_TRACE(m.name);
+    const void *src = image.bytes(), *tpl = src;
+    void* dst = image.bytes(0, 4);
+    int srcStep = 64, tplStep = 64, dstStep = 64;
+    HuxiSize size = {2, 2}, tplSize = {1, 1};
+    const auto call = [&] { return m.call(src, srcStep, size, tpl, tplStep, tplSize, dst, dstStep, 0); };
+    CheckOrder order(call);
+    order.breaks(huxStsNullPtr, src, nullptr).breaks(huxStsNullPtr, tpl, nullptr).breaks(huxStsNullPtr, dst, nullptr);
+    order.breaks(huxStsBadSize, size.width, 0).breaks(huxStsBadSize, size.height, -1);
+    order.breaks(huxStsBadSize, tplSize.width, 0).breaks(huxStsBadSize, tplSize.height, 0);
+    order.breaks(huxStsBadSize, tplSize.width, 3).breaks(huxStsBadSize, tplSize.height, 3);
+    order.breaks(huxStsBadStep, srcStep, 0).breaks(huxStsBadStep, tplStep, -1).breaks(huxStsBadStep, dstStep, 0);
+    order.run(image);
+
+    // Of blocks beyond the largest transform, and beyond what a work buffer may be.
+    const Image before = image;
+    size.width = tplSize.width = 1 << 30;
+    EXPECT_EQ(call(), huxStsBadOrder);
+    size.width = tplSize.width = 1 << 29;
+    EXPECT_EQ(call(), huxStsNoMem);
+    size.width = tplSize.width = 2;
+    const int blocks = liveBlocks();
+    int failures = 0;
+    walkAllocationFailures(call, [&](HuxStatus s) {
+      ++failures;
+      EXPECT_EQ(s, huxStsNoMem);
+      EXPECT_TRUE(same(image, before));
+    });
+    EXPECT_GT(failures, 1);
+    EXPECT_EQ(liveBlocks(), blocks);
+  }
+}
+
+}  // namespace
+}  // namespace hux::test
