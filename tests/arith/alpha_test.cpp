@@ -1,9 +1,6 @@
 // Alpha composition and premultiplication, against the tables of their rules, element by element.
-#include "core/layout.h"
-#include "core/stamp.h"
 #include "huxi_arith.h"
-#include "support/image.h"
-#include "support/order.h"
+#include "support/forms.h"
 
 namespace hux::test {
 namespace {
@@ -40,69 +37,38 @@ struct Scalar {
   }
 };
 
-// How the elements of a pixel lie: AC1 is alpha alone, AP4 are four planes of one step.
-struct AC1 : Layout<1, 0> {};
-struct AP4 : Layout<4, 3> {};
-template <class L>
-constexpr bool kPlanar = std::is_same_v<L, AP4>;
+// AC1 is alpha alone, AP4 are four planes of one step.
+constexpr Layout AC1{1, 0}, AP4{4, 3};
 
-// An image argument as the public functions take it, from a pointer, or from an array of pointers to planes.
-template <class L, class T>
-struct Argument {
-  T* planes[4] = {};
-  const void* given;
-  explicit Argument(const void* p) : given(p) {
-    for (int c = 0; c < 4 && kPlanar<L> && p; ++c) planes[c] = static_cast<T*>(static_cast<void* const*>(p)[c]);
-  }
-  operator T*() const requires(!kPlanar<L>) { return static_cast<T*>(const_cast<void*>(given)); }
-  operator T* const*() const requires kPlanar<L> { return given ? planes : nullptr; }
-};
-
-// What a member is given: two images or one, the alphas of those that take them by value, the rule of AlphaComp.
-struct Operands {
-  const void *a, *b;
-  const void* dst;
-  int aStep, bStep, dstStep;
-  HuxiSize roi;
+// The alphas of members that take them by value, the rule of AlphaComp.
+using AlphaFn = HuxStatus(const void* a, int aStep, const void* b, int bStep, const void* d, int dStep, HuxiSize roi,
+                          int alpha1, int alpha2, HuxiAlphaType rule);
+struct Operands : Arguments {
   int alpha1, alpha2;
   HuxiAlphaType rule;
 };
 
 enum class Family { kComp, kCompC, kPremul, kPremulC };
-
-struct Member {
-  std::string name;
+struct Member : Form {
   Family family;
-  int bytes, channels, colours;
   bool planar;
-  HuxStatus (*call)(const Operands& o);
-  HuxStatus (*inPlace)(const Operands& o);
+  AlphaFn *alpha, *alphaInPlace = nullptr;
+
+  HuxStatus call(const Operands& o, bool inPlace = false) const {
+    return (inPlace ? alphaInPlace : alpha)(o.a, o.aStep, o.b, o.bStep, o.d, o.dStep, o.roi, o.alpha1, o.alpha2,
+                                            o.rule);
+  }
 };
 
-#define MEMBER(f, t, l, call, inPlace)           \
-  Member{"huxi" #f "_" #t "_" #l,                \
-         Family::k##f,                           \
-         sizeof(Hux##t),                         \
-         l::channels,                            \
-         l::processed,                           \
-         kPlanar<l>,                             \
-         [](const Operands& o) { return call; }, \
-         inPlace},
-#define SRC(t, l, x) Argument<l, const Hux##t>(o.x), o.x##Step
-#define DST(t, l) Argument<l, Hux##t>(o.dst), o.dstStep, o.roi
-#define ALPHA(t, n) Hux##t(o.alpha##n)
-#define COMP(t, l) \
-  MEMBER(Comp, t, l, huxiAlphaComp_##t##_##l##R(SRC(t, l, a), SRC(t, l, b), DST(t, l), o.rule), nullptr)
-#define COMP_C(t, l)                                                                                           \
-  MEMBER(CompC, t, l,                                                                                          \
-         huxiAlphaCompC_##t##_##l##R(SRC(t, l, a), ALPHA(t, 1), SRC(t, l, b), ALPHA(t, 2), DST(t, l), o.rule), \
-         nullptr)
-#define PREMUL(t, l)                                                          \
-  MEMBER(Premul, t, l, huxiAlphaPremul_##t##_##l##R(SRC(t, l, a), DST(t, l)), \
-         ([](const Operands& o) { return huxiAlphaPremul_##t##_##l##IR(DST(t, l)); }))
-#define PREMUL_C(t, l)                                                                       \
-  MEMBER(PremulC, t, l, huxiAlphaPremulC_##t##_##l##R(SRC(t, l, a), ALPHA(t, 1), DST(t, l)), \
-         ([](const Operands& o) { return huxiAlphaPremulC_##t##_##l##IR(ALPHA(t, 1), DST(t, l)); }))
+#define MEMBER(f, t, l, ...) Member{HUX_FORM(t, l), Family::k##f, #l[1] == 'P', __VA_ARGS__},
+#define COMP(t, l) MEMBER(Comp, t, l, as<AlphaFn, huxiAlphaComp_##t##_##l##R, 0, 1, 2, 3, 4, 5, 6, 9>)
+#define COMP_C(t, l) MEMBER(CompC, t, l, as<AlphaFn, huxiAlphaCompC_##t##_##l##R, 0, 1, 7, 2, 3, 8, 4, 5, 6, 9>)
+#define PREMUL(t, l)                                                             \
+  MEMBER(Premul, t, l, as<AlphaFn, huxiAlphaPremul_##t##_##l##R, 0, 1, 4, 5, 6>, \
+         as<AlphaFn, huxiAlphaPremul_##t##_##l##IR, 4, 5, 6>)
+#define PREMUL_C(t, l)                                                                \
+  MEMBER(PremulC, t, l, as<AlphaFn, huxiAlphaPremulC_##t##_##l##R, 0, 1, 7, 4, 5, 6>, \
+         as<AlphaFn, huxiAlphaPremulC_##t##_##l##IR, 7, 4, 5, 6>)
 
 std::vector<Member> members() {
   return {
@@ -118,37 +84,37 @@ struct Picture {
   const Member& m;
   Image image;
   int height;
-  std::array<const void*, 4> planes{};
+  void* planes[4] = {};
 
   Picture(Rng& rng, const Member& m, int width, int height, Place place)
       : m(m),
-        image(rng, width, m.planar ? 4 * height : height, m.planar ? m.bytes : m.channels * m.bytes, place),
+        image(rng, width, m.planar ? 4 * height : height, m.planar ? m.elementBytes : m.pixelBytes(), place),
         height(height) {
     for (int y = 0; y < height; ++y)  // random bytes already; one in three gets an end of the range
       for (int x = 0; x < width; ++x)
-        for (int c = 0; c < m.channels; ++c)
+        for (int c = 0; c < m.layout.stride; ++c)
           if (const auto roll = rng(); roll % 3 == 0) set(x, y, c, roll % 2 ? 0 : -1);
   }
   std::byte* at(int x, int y, int c) const {
-    return m.planar ? image.bytes(x, c * height + y) : image.bytes(x, y) + c * m.bytes;
+    return m.planar ? image.bytes(x, c * height + y) : image.bytes(x, y) + c * m.elementBytes;
   }
   int get(int x, int y, int c) const {
     Hux16u v = 0;
-    std::memcpy(&v, at(x, y, c), std::size_t(m.bytes));
+    std::memcpy(&v, at(x, y, c), std::size_t(m.elementBytes));
     return v;
   }
-  void set(int x, int y, int c, std::int64_t v) { std::memcpy(at(x, y, c), &v, std::size_t(m.bytes)); }
-  const void* argument() {
-    for (int c = 0; c < 4 && m.planar; ++c) planes[std::size_t(c)] = image.bytes(0, c * height);
-    return m.planar ? static_cast<const void*>(planes.data()) : image.bytes();
+  void set(int x, int y, int c, std::int64_t v) { std::memcpy(at(x, y, c), &v, std::size_t(m.elementBytes)); }
+  void* argument() {
+    for (int c = 0; c < 4 && m.planar; ++c) planes[c] = image.bytes(0, c * height);
+    return m.planar ? static_cast<void*>(planes) : image.bytes();
   }
 };
 
 // Element c of the destination, or -1 where the member leaves it alone.
 std::int64_t defined(const Member& m, const Scalar& s, const Operands& o, const Picture& A, const Picture& B, int x,
                      int y, int c) {
-  const bool colour = c < m.colours;
-  const int last = m.channels - 1;
+  const bool colour = c < m.layout.touched;
+  const int last = m.layout.stride - 1;
   switch (m.family) {
     case Family::kComp: {
       const int a = A.get(x, y, last), b = B.get(x, y, last);
@@ -164,20 +130,19 @@ std::int64_t defined(const Member& m, const Scalar& s, const Operands& o, const 
 }
 
 void expectDefined(Rng& rng, const Member& m, HuxiAlphaType rule, int width, int height, Place place) {
-  const Scalar s{8 * m.bytes};
+  const Scalar s{8 * m.elementBytes};
   Picture A(rng, m, width, height, place), B(rng, m, width, height, place), dst(rng, m, width, height, place);
   const int edges[] = {0, 1, 77, int(s.m / 2), int(s.m) - 1, int(s.m)};
   const bool overA = between(rng, 0, 1);  // the destination is the first source as well
   Picture& D = overA ? A : dst;
-  const Operands o = {A.argument(),   B.argument(),    D.argument(),     A.image.step(),   B.image.step(),
-                      D.image.step(), {width, height}, edges[rng() % 6], edges[rng() % 6], rule};
+  Operands o{Arguments(A.image, {width, height}), edges[rng() % 6], edges[rng() % 6], rule};
+  o.a = A.argument(), o.b = B.argument(), o.d = D.argument(), o.bStep = B.image.step(), o.dStep = D.image.step();
   const Picture before = A;
   Picture expected = D;
-  for (int y = 0; y < height; ++y)
-    for (int x = 0; x < width; ++x)
-      for (int c = 0; c < m.channels; ++c)
-        if (const auto v = defined(m, s, o, before, B, x, y, c); v >= 0) expected.set(x, y, c, v);
-  ASSERT_EQ((overA && m.inPlace ? m.inPlace : m.call)(o), huxStsOk);
+  forElements({width, height}, m.layout.stride, [&](int x, int y, int c) {
+    if (const auto v = defined(m, s, o, before, B, x, y, c); v >= 0) expected.set(x, y, c, v);
+  });
+  ASSERT_EQ(m.call(o, overA && m.alphaInPlace), huxStsOk);
   ASSERT_TRUE(same(D.image, expected.image)) << "alphas " << o.alpha1 << ", " << o.alpha2;
 }
 
@@ -185,7 +150,7 @@ TEST(Alpha, EveryElementIsThatOfTheTables) {
   Rng rng(1);
   for (const Member& m : members())
     for (HuxiAlphaType rule = 0; rule <= (m.family <= Family::kCompC ? 11 : 0); ++rule) {
-      SCOPED_TRACE(m.name + ", rule " + std::to_string(rule));
+      SCOPED_TRACE(m.name + ", family " + std::to_string(int(m.family)) + ", rule " + std::to_string(rule));
       forShapes(rng, 70,
                 [&](int width, int height, Place place) { expectDefined(rng, m, rule, width, height, place); });
       // Longer than the pieces in which planes are gone through.
@@ -214,20 +179,21 @@ TEST(Alpha, ChecksPointersThenSizeThenTheRule) {
   Rng rng(3);
   for (const Member& m : members())
     for (bool inPlace : {false, true}) {
-      if (inPlace && !m.inPlace) continue;
-      SCOPED_TRACE(m.name + (inPlace ? ", in place" : ""));
+      if (inPlace && !m.alphaInPlace) continue;
+      SCOPED_TRACE(m.name + ", family " + std::to_string(int(m.family)) + (inPlace ? ", in place" : ""));
       Picture A(rng, m, 1, 1, Place::kEnd), B = A, D(rng, m, 1, 1, Place::kEnd);
-      Operands o = {A.argument(), B.argument(), D.argument(), 0, -1, 0, {1, 1}, 0, 0, 0};
+      Operands o{Arguments(A.image), 0, 0, 0};
+      o.a = A.argument(), o.b = B.argument(), o.d = D.argument(), o.aStep = 0, o.bStep = -1, o.dStep = 0;
       const bool comp = m.family <= Family::kCompC;
-      CheckOrder order([&] { return (inPlace ? m.inPlace : m.call)(o); });
-      const auto breakImage = [&](const void*& image, Picture& picture) {
-        order.breaks(huxStsNullPtr, image, nullptr);
-        for (int c = 0; c < 4 && m.planar; ++c) order.breaks(huxStsNullPtr, picture.planes[std::size_t(c)], nullptr);
+      CheckOrder order([&] { return m.call(o, inPlace); });
+      const auto breakImage = [&](const char* letter, Picture& picture) {
+        order.in(o, letter);
+        for (int c = 0; c < 4 && m.planar; ++c) order.nulls(picture.planes[c]);
       };
-      if (!inPlace) breakImage(o.a, A);
-      if (comp) breakImage(o.b, B);
-      breakImage(o.dst, D);
-      order.breaks(huxStsBadSize, o.roi.width, 0).breaks(huxStsBadSize, o.roi.height, 0);
+      if (!inPlace) breakImage("a", A);
+      if (comp) breakImage("b", B);
+      breakImage("d", D);
+      order.in(o, "z");
       if (comp) order.breaks(huxStsBadAlphaType, o.rule, 12).breaks(huxStsBadAlphaType, o.rule, -1);
       order.run(D.image);
     }

@@ -79,13 +79,6 @@ Hux16u byReciprocal(Hux16u d, Hux16u n, int scaleFactor) {
   return s == 0 ? n : Hux16u((n + (1 << (s - 1)) - 1 + (n >> s & 1)) >> s);
 }
 
-template <class T>
-std::vector<Member<T>> quotients() {
-  auto list = members<T>();
-  std::erase_if(list, [](const auto& m) { return m.op != Op::Div; });
-  return list;
-}
-
 // Whether the colours of an image have a zero, or a NaN.
 template <class T>
 bool hasZero(const Image& image, int colours) {
@@ -103,16 +96,16 @@ TYPED_TEST_SUITE(Div, Types);
 
 TYPED_TEST(Div, FollowsTheRulesInAllShapes) {
   using T = TypeParam;
-  for (const auto& m : quotients<T>()) {
+  for (const auto& m : members<T>(Op::Div)) {
     // 8u and 16s divide in all but one channel.
-    const bool divides = m.channels > 1 && std::is_integral_v<T> && !std::is_same_v<T, Hux16u>;
+    const bool divides = m.layout.stride > 1 && std::is_integral_v<T> && !std::is_same_v<T, Hux16u>;
     const auto images = [&](T d, T n, int scale) { return quotient(d, n, scale); };
     const auto constant = [&](T d, T n, int scale) {
       return divides ? quotient(d, n, scale) : byReciprocal(d, n, scale);
     };
-    compareWith(m, 1, kScaleFactors, images, constant, [&](const Image* denominators, const Image* constants) {
-      if (denominators) return hasZero<T>(*denominators, m.processed) ? huxStsDivByZeroWarn : huxStsOk;
-      return hasZero<T>(*constants, m.processed) ? huxStsDivByZero : huxStsOk;
+    compareWith<T>(m, 1, kScaleFactors, images, constant, [&](const Image* denominators, const Image* constants) {
+      if (denominators) return hasZero<T>(*denominators, m.layout.touched) ? huxStsDivByZeroWarn : huxStsOk;
+      return hasZero<T>(*constants, m.layout.touched) ? huxStsDivByZero : huxStsOk;
     });
   }
 }
@@ -125,8 +118,8 @@ TYPED_TEST_SUITE(DivOfIntegers, Integers);
 TYPED_TEST(DivOfIntegers, FollowsTheRulesForAllPairsAtAllScaleFactors) {
   using T = TypeParam;
   Pairs<T> p(richValues<T>());
-  const auto m = quotients<T>().front();
-  ASSERT_EQ(m.channels, 1);
+  const auto m = members<T>(Op::Div).front();
+  ASSERT_EQ(m.layout.stride, 1);
   for (int scale : kScaleFactors) {
     ASSERT_EQ(m.images(p.first.data(), p.step(), p.second.data(), p.step(), p.result.data(), p.step(), p.size, scale),
               huxStsDivByZeroWarn);
@@ -169,12 +162,12 @@ TEST(Div16u, RoundsNextToTiesAsTheFixedPointTells) {
 // A single zero warns wherever it is met, but for alpha.
 TYPED_TEST(Div, WarnsOfTheZerosOfColours) {
   using T = TypeParam;
-  for (const auto& m : quotients<T>()) {
-    const int pixels = 40, elements = pixels * m.channels;
+  for (const auto& m : members<T>(Op::Div)) {
+    const int pixels = 40, elements = pixels * m.layout.stride;
     std::vector<T> d(std::size_t(elements), T(3)), q(d);
     for (int at = 0; at < elements; ++at) {
       d[std::size_t(at)] = 0;
-      const HuxStatus expected = at % m.channels < m.processed ? huxStsDivByZeroWarn : huxStsOk;
+      const HuxStatus expected = at % m.layout.stride < m.layout.touched ? huxStsDivByZeroWarn : huxStsOk;
       for (int scale : {0, -1})
         ASSERT_EQ(m.images(d.data(), 1, d.data(), 1, q.data(), 1, {pixels, 1}, scale), expected) << m.name << " " << at;
       d[std::size_t(at)] = 3;
@@ -187,34 +180,27 @@ TYPED_TEST(Div, ChecksInOrder) {
   constexpr bool word = std::is_same_v<T, Hux16u>;
   Rng rng(3);
   const Image image(rng, 16, 4, 16);
-  for (const auto& m : quotients<T>()) {
+  for (const auto& m : members<T>(Op::Div)) {
     SCOPED_TRACE(m.name);
     T values[] = {1, 2, 3, 0};
-    if (m.channels == m.processed) values[3] = 4;
-    const T* a = image.data<T>();
-    const T* b = image.data<T>() + 1;
+    if (m.layout.stride == m.layout.touched) values[3] = 4;
+    Arguments a(image);
     const T* c = values;
-    T* d = image.data<T>();
-    HuxiSize roi{1, 1};
-    int step = word ? 0 : 1, scale = 0;
-    const bool widthFirst = word && m.equalChannels();
-    CheckOrder images([&] { return std::min<HuxStatus>(m.images(a, step, b, step, d, step, roi, scale), huxStsOk); });
-    if (widthFirst) images.breaks(huxStsBadSize, roi.width, 0);
-    images.breaks(huxStsNullPtr, a, nullptr).breaks(huxStsNullPtr, b, nullptr).breaks(huxStsNullPtr, d, nullptr);
-    if (!widthFirst) images.breaks(huxStsBadSize, roi.width, INT_MIN);
-    images.breaks(huxStsBadSize, roi.height, 0);
-    if (!word) images.breaks(huxStsBadStep, step, 0);
+    int step = word ? 0 : 1;
+    const auto failure = [](HuxStatus status) { return std::min<HuxStatus>(status, huxStsOk); };
+    CheckOrder images([&] { return failure(m.images(a.a, step, a.b, step, a.d, step, a.roi, 0)); });
+    images.in(a, word && m.equalChannels() ? "wabdh" : "abdz");
+    if (!word) images.steps(step);
     images.run(image);
 
-    T& last = values[m.processed - 1];
-    CheckOrder constant([&] { return m.constant(b, step, c, d, step, roi, scale); });
-    if (m.channels > 1) constant.breaks(huxStsNullPtr, c, nullptr);
-    if (word && m.channels > 1) constant.breaks(huxStsDivByZero, last, 0);
-    constant.breaks(huxStsNullPtr, b, nullptr).breaks(huxStsNullPtr, d, nullptr);
-    constant.breaks(huxStsBadSize, roi.width, INT_MIN).breaks(huxStsBadSize, roi.height, -1);
-    if (!word) constant.breaks(huxStsBadStep, step, -1);
+    T& last = values[m.layout.touched - 1];
+    CheckOrder constant([&] { return m.constant(a.b, step, c, a.d, step, a.roi, 0); });
+    if (m.layout.stride > 1) constant.nulls(c);
+    if (word && m.layout.stride > 1) constant.breaks(huxStsDivByZero, last, 0);
+    constant.in(a, "bdz");
+    if (!word) constant.steps(step);
     const bool carriesOn = sizeof(T) == 1 && m.equalChannels();
-    if (!(word && m.channels > 1) && !carriesOn) constant.breaks(huxStsDivByZero, last, 0);
+    if (!(word && m.layout.stride > 1) && !carriesOn) constant.breaks(huxStsDivByZero, last, 0);
     constant.run(image);
   }
 }
@@ -222,7 +208,7 @@ TYPED_TEST(Div, ChecksInOrder) {
 // Past 16 every quotient by a 16u constant is 0, and the region is Set's, which looks at dstStep.
 TEST(Div16u, ConstantsHandTheRegionToSet) {
   Hux16u src[8] = {}, dst[8] = {};
-  for (const auto& m : quotients<Hux16u>())
+  for (const auto& m : members<Hux16u>(Op::Div))
     for (int scale : {16, 17, INT_MAX})
       for (const auto& values : {std::array<Hux16u, 4>{7, 7, 7, 7}, std::array<Hux16u, 4>{7, 8, 9, 7}}) {
         EXPECT_EQ(m.constant(src, 0, values.data(), dst, 0, {2, 1}, scale), scale > 16 ? huxStsBadStep : huxStsOk)
@@ -236,34 +222,19 @@ TYPED_TEST(Div, ReportsWhenThereIsNoMemory) {
   using T = TypeParam;
   Rng rng(4);
   const T values[] = {1, 2, 3, 4};
-  for (const auto& m : quotients<T>()) {
+  for (const auto& m : members<T>(Op::Div)) {
     SCOPED_TRACE(m.name);
-    Image src(rng, 9, 3, m.channels * int(sizeof(T))), dst = src;
+    const Image src(rng, 9, 3, m.pixelBytes()), dst = src;
     src.fill<T>([] { return T(1); });
-    const Image before = dst;
-    const int blocks = liveBlocks();
-    const auto failures = [&](auto call) {
-      int count = 0;
-      const HuxStatus status = walkAllocationFailures(call, [&](HuxStatus failed) {
-        ++count;
-        EXPECT_EQ(failed, huxStsNoMem);
-        EXPECT_TRUE(same(dst, before));
-      });
-      EXPECT_EQ(status, huxStsOk);
-      EXPECT_EQ(liveBlocks(), blocks);
-      std::memcpy(dst.bytes(), before.bytes(), std::size_t(dst.step() * 2 + dst.width() * m.channels * int(sizeof(T))));
-      return count;
-    };
     const bool fixedPoint = std::is_same_v<T, Hux16u>;
-    EXPECT_EQ(failures([&] {
-                return m.images(src.data<T>(), src.step(), src.data<T>(), src.step(), dst.data<T>(), dst.step(),
-                                dst.size(), 0);
-              }) > 0,
-              !fixedPoint && m.channels != m.processed);
-    EXPECT_EQ(failures([&] {
-                return m.constant(src.data<T>(), src.step(), values, dst.data<T>(), dst.step(), dst.size(), 0);
-              }) > 0,
-              !fixedPoint && std::is_integral_v<T> && m.channels > 1);
+    const auto images = [&] {
+      return m.images(src.bytes(), src.step(), src.bytes(), src.step(), dst.bytes(), dst.step(), dst.size(), 0);
+    };
+    const auto constant = [&] {
+      return m.constant(src.bytes(), src.step(), values, dst.bytes(), dst.step(), dst.size(), 0);
+    };
+    EXPECT_EQ(failuresOf(images, dst) > 0, !fixedPoint && m.layout.stride != m.layout.touched);
+    EXPECT_EQ(failuresOf(constant, dst) > 0, !fixedPoint && std::is_integral_v<T> && m.layout.stride > 1);
   }
 }
 

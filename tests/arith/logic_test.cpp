@@ -1,29 +1,20 @@
 // Bit operations, shifts and products of fractions, against their definitions on single elements in 64 bits.
-#include "arith/samples.h"
-#include "core/stamp.h"
-#include "huxi_arith.h"
-#include "support/image.h"
-#include "support/order.h"
+#include "arith/operation.h"
 
 namespace hux::test {
 namespace {
 
-// The second operand of a member: an image, a pixel of constants, or none.
-enum class Second { kImage, kConstant, kNone };
+using Definition = std::int64_t (*)(std::int64_t a, std::int64_t b, int bits);
+struct Member : Operation {
+  Definition define;  // of the second operand, an image, and the first
+  int constantBytes = 0;
 
-// In place, the first operand is none in the forms with one image, and the destination is the second of two images.
-using Call = HuxStatus (*)(const void* a, int aStep, const void* b, int bStep, void* dst, int dstStep, HuxiSize roi);
-
-struct Member {
-  std::string name;
-  int bytes;
-  bool isSigned;
-  int channels, processed;
-  Second second;
-  int constantBytes;
-  bool sizeFirst, sizeFirstInPlace;
-  std::int64_t (*define)(std::int64_t a, std::int64_t b, int bits);
-  Call call, inPlace;
+  int bits() const { return 8 * elementBytes; }
+  bool isSigned() const { return type == Number::k8s || type == Number::k16s || type == Number::k32s; }
+  // C3 and C4 forms on two images stand for C1, as does Not where it is not in place.
+  bool sizeFirst(bool inPlaceForm) const {
+    return equalChannels() && (first == First::kImage || (first == First::kNone && !inPlaceForm));
+  }
 };
 
 std::int64_t definedAnd(std::int64_t a, std::int64_t b, int) { return a & b; }
@@ -45,32 +36,9 @@ std::int64_t definedRShift(std::int64_t a, std::int64_t count, int bits) {
   return a >= 0 ? a / divisor : -((-a + divisor - 1) / divisor);
 }
 
-// C3 and C4 forms on two images stand for C1.
-template <class L>
-constexpr bool kDelegates = L::channels > 1 && L::channels == L::processed;
-
-#define CALL(...)                                                                                \
-  [](const void* a, int aStep, const void* b, int bStep, void* dst, int dstStep, HuxiSize roi) { \
-    (void)a, (void)aStep, (void)b, (void)bStep;                                                  \
-    return __VA_ARGS__;                                                                          \
-  }
-#define MEMBER(f, t, l, second, constantBytes, sizeFirst, sizeFirstInPlace, define, call, inPlace)                 \
-  Member{"huxi" #f "_" #t "_" #l, sizeof(Hux##t), Hux##t(-1) < 0,   l::channels,     l::processed, Second::second, \
-         constantBytes,           sizeFirst,      sizeFirstInPlace, defined##define, call,         inPlace},
-#define IMAGES(f, define, t, l)                                                                                  \
-  MEMBER(f, t, l, kImage, 0, kDelegates<l>, kDelegates<l>, define,                                               \
-         CALL(huxi##f##_##t##_##l##R(static_cast<const Hux##t*>(a), aStep, static_cast<const Hux##t*>(b), bStep, \
-                                     static_cast<Hux##t*>(dst), dstStep, roi)),                                  \
-         CALL(huxi##f##_##t##_##l##IR(static_cast<const Hux##t*>(a), aStep, static_cast<Hux##t*>(dst), dstStep, roi)))
-#define CONSTANT(f, define, t, l, ct)                                                          \
-  MEMBER(f, t, l, kConstant, sizeof(ct), false, false, define,                                 \
-         CALL(huxi##f##_##t##_##l##R(static_cast<const Hux##t*>(a), aStep, constant<l, ct>(b), \
-                                     static_cast<Hux##t*>(dst), dstStep, roi)),                \
-         CALL(huxi##f##_##t##_##l##IR(constant<l, ct>(b), static_cast<Hux##t*>(dst), dstStep, roi)))
-#define NOT(t, l)                                                                                                   \
-  MEMBER(Not, t, l, kNone, 0, kDelegates<l>, false, Not,                                                            \
-         CALL(huxiNot_##t##_##l##R(static_cast<const Hux##t*>(a), aStep, static_cast<Hux##t*>(dst), dstStep, roi)), \
-         CALL(huxiNot_##t##_##l##IR(static_cast<Hux##t*>(dst), dstStep, roi)))
+#define IMAGES(f, define, t, l) Member{HUX_OF_IMAGES(f, t, l, ), defined##define},
+#define CONSTANT(f, define, t, l, ct) Member{HUX_OF_CONSTANT(f, t, l, ), defined##define, sizeof(ct)},
+#define NOT(t, l) Member{HUX_OF_ONE(Not, t, l, ), definedNot},
 #define BITS(t, l)       \
   IMAGES(And, And, t, l) \
   IMAGES(Or, Or, t, l)   \
@@ -82,9 +50,9 @@ constexpr bool kDelegates = L::channels > 1 && L::channels == L::processed;
 
 std::vector<Member> members() {
   return {
-    MEMBER(Complement, 32s, C1, kNone, 0, false, false, Complement, nullptr,
-           CALL(huxiComplement_32s_C1IR(static_cast<Hux32s*>(dst), dstStep, roi)))
-    HUX_STAMP(BITS, (8u, 16u, 32s), (C1, C3, C4, AC4))
+    Member{{HUX_NAMED(Complement, 32s, C1), First::kNone, nullptr, as<OperationFn, huxiComplement_32s_C1IR, 4, 5, 6>},
+           definedComplement},
+        HUX_STAMP(BITS, (8u, 16u, 32s), (C1, C3, C4, AC4))
     HUX_STAMP(NOT, (8u), (C1, C3, C4, AC4))
     HUX_STAMP(LSHIFT, (8u, 16u, 32s), (C1, C3, C4, AC4))
     HUX_STAMP(RSHIFT, (8u, 8s, 16u, 16s, 32s), (C1, C3, C4, AC4))
@@ -102,28 +70,28 @@ std::int64_t number(const std::byte* p, int bytes, bool isSigned) {
 // Random bytes already; a third of the elements become 0, 1, -1 or an end of the type.
 void addExtremes(Rng& rng, const Member& m, const Image& image) {
   for (int y = 0; y < image.height(); ++y)
-    for (int e = 0; e < image.width() * m.channels; ++e) {
+    for (int e = 0; e < image.width() * m.layout.stride; ++e) {
       const std::uint64_t roll = rng();
-      if (roll % 3) continue;
-      const std::uint32_t top = 1u << (8 * m.bytes - 1), values[] = {0, 1, ~0u, top, top - 1, top + 1};
-      std::memcpy(image.bytes(0, y) + e * m.bytes, &values[roll / 3 % 6], std::size_t(m.bytes));
+      const std::uint32_t top = 1u << (m.bits() - 1), values[] = {0, 1, ~0u, top, top - 1, top + 1};
+      if (roll % 3 == 0)
+        std::memcpy(image.bytes(0, y) + e * m.elementBytes, &values[roll / 3 % 6], std::size_t(m.elementBytes));
     }
 }
 
 // The constants of a pixel, with nothing readable behind the last. Counts of shifts are mostly about the limit.
 Image makeConstants(Rng& rng, const Member& m) {
-  Image pixel(rng, 1, 1, m.processed * m.constantBytes, Place::kEnd);
+  Image pixel(rng, 1, 1, m.layout.touched * m.constantBytes, Place::kEnd);
   if (m.name.find("Shift") != std::string::npos) {
     const bool equal = between(rng, 0, 2) == 0, above = between(rng, 0, 4) == 0;
     const auto count = [&] {
-      const Hux32u large[] = {Hux32u(8 * m.bytes), 31, 32, 40, 256, 0x80000000, 0xffffffff};
-      return above || between(rng, 0, 5) == 0 ? std::max(large[rng() % 7], Hux32u(8 * m.bytes))
-                                              : Hux32u(between(rng, 0, 8 * m.bytes - 1));
+      const Hux32u large[] = {Hux32u(m.bits()), 31, 32, 40, 256, 0x80000000, 0xffffffff};
+      return above || between(rng, 0, 5) == 0 ? std::max(large[rng() % 7], Hux32u(m.bits()))
+                                              : Hux32u(between(rng, 0, m.bits() - 1));
     };
     const Hux32u first = count();
-    for (int c = 0; c < m.processed; ++c) pixel.set<Hux32u>(0, 0, c, equal ? first : count());
+    for (int c = 0; c < m.layout.touched; ++c) pixel.set<Hux32u>(0, 0, c, equal ? first : count());
   } else if (between(rng, 0, 2) == 0) {
-    for (int c = 1; c < m.processed; ++c)
+    for (int c = 1; c < m.layout.touched; ++c)
       std::memcpy(pixel.bytes() + c * m.constantBytes, pixel.bytes(), std::size_t(m.constantBytes));
   }
   return pixel;
@@ -135,31 +103,27 @@ TEST(Logic, EveryElementIsThatOfTheDefinition) {
     SCOPED_TRACE(m.name);
     forShapes(rng, 150, [&](int width, int height, Place place) {
       const bool inPlace = !m.call || between(rng, 0, 1);
-      const Image a(rng, width, height, m.channels * m.bytes, place),
-          b(rng, width, height, m.channels * m.bytes, place), dst(rng, width, height, m.channels * m.bytes, place);
-      for (const Image* image : {&a, &b, &dst}) addExtremes(rng, m, *image);
-      const Image pixel = m.second == Second::kConstant ? makeConstants(rng, m) : Image(rng, 1, 1, 1);
+      const Image a(rng, width, height, m.pixelBytes(), place), b(rng, width, height, m.pixelBytes(), place),
+          other(rng, width, height, m.pixelBytes(), place), &dst = inPlace ? b : other;
+      for (const Image* image : {&a, &b, &other}) addExtremes(rng, m, *image);
+      const Image pixel = m.first == First::kConstant ? makeConstants(rng, m) : Image(rng, 1, 1, 1);
       const Image aBefore = a, bBefore = b, expected = dst;
-      // Of two images the destination is the second, else the only one.
-      const Image &first = inPlace && m.second != Second::kImage ? dst : a, &second = inPlace ? dst : b;
       const auto at = [&](const Image& image, int x, int y, int c) {
-        return number(image.bytes(x, y) + c * m.bytes, m.bytes, m.isSigned);
+        return number(image.bytes(x, y) + c * m.elementBytes, m.elementBytes, m.isSigned());
       };
-      for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-          for (int c = 0; c < m.processed; ++c) {
-            const std::int64_t other = m.second == Second::kImage
-                                           ? at(second, x, y, c)
-                                           : number(pixel.bytes() + c * m.constantBytes, m.constantBytes, false);
-            const std::int64_t v = m.define(at(first, x, y, c), other, 8 * m.bytes);
-            std::memcpy(expected.bytes(x, y) + c * m.bytes, &v, std::size_t(m.bytes));
-          }
-      const void* operand = m.second == Second::kConstant ? pixel.bytes() : b.bytes();
-      ASSERT_EQ(
-          (inPlace ? m.inPlace : m.call)(a.bytes(), a.step(), operand, b.step(), dst.bytes(), dst.step(), dst.size()),
-          huxStsOk);
+      forElements({width, height}, m.layout.touched, [&](int x, int y, int c) {
+        const std::int64_t first = m.first == First::kImage
+                                       ? at(a, x, y, c)
+                                       : number(pixel.bytes() + c * m.constantBytes, m.constantBytes, false);
+        const std::int64_t v = m.define(at(bBefore, x, y, c), first, m.bits());
+        std::memcpy(expected.bytes(x, y) + c * m.elementBytes, &v, std::size_t(m.elementBytes));
+      });
+      const void* first = m.first == First::kConstant ? pixel.bytes() : a.bytes();
+      ASSERT_EQ((inPlace ? m.inPlace : m.call)(first, a.step(), b.bytes(), b.step(), dst.bytes(), dst.step(),
+                                               dst.size(), nullptr),
+                huxStsOk);
       ASSERT_TRUE(same(dst, expected)) << (inPlace ? "in place" : "out of place");
-      ASSERT_TRUE(same(a, aBefore) && same(b, bBefore));
+      ASSERT_TRUE(same(a, aBefore) && (inPlace || same(b, bBefore)));
     });
   }
 }
@@ -193,23 +157,15 @@ TEST(Logic, ChecksPointersThenStepsThenSize) {
     for (bool inPlace : {false, true}) {
       if (!inPlace && !m.call) continue;
       SCOPED_TRACE(m.name + (inPlace ? ", in place" : ""));
-      const void *a = image.bytes(), *b = m.second == Second::kConstant ? static_cast<const void*>(counts) : a;
-      void* dst = image.bytes();
-      int aStep = 1, bStep = 1, dstStep = 1;
-      HuxiSize roi = {1, 1};
-      CheckOrder order([&] { return (inPlace ? m.inPlace : m.call)(a, aStep, b, bStep, dst, dstStep, roi); });
-      const auto breakSize = [&] { order.breaks(huxStsBadSize, roi.width, 0).breaks(huxStsBadSize, roi.height, -1); };
-      const bool sizeFirst = inPlace ? m.sizeFirstInPlace : m.sizeFirst;
-      const bool hasA = !inPlace || m.second == Second::kImage, hasB = !inPlace && m.second == Second::kImage;
-      if (sizeFirst) breakSize();
-      if (hasA) order.breaks(huxStsNullPtr, a, nullptr);
-      if (hasB || (m.second == Second::kConstant && m.channels > 1)) order.breaks(huxStsNullPtr, b, nullptr);
-      order.breaks(huxStsNullPtr, dst, nullptr);
-      if (hasA) order.breaks(huxStsBadStep, aStep, 0);
-      if (hasB) order.breaks(huxStsBadStep, bStep, -1);
-      order.breaks(huxStsBadStep, dstStep, 0);
-      if (!sizeFirst) breakSize();
-      order.run(image);
+      const bool images = m.first == First::kImage, constant = m.first == First::kConstant;
+      Arguments a(image);
+      if (constant) a.a = counts;
+      CheckOrder order(
+          [&] { return (inPlace ? m.inPlace : m.call)(a.a, a.aStep, a.b, a.bStep, a.d, a.dStep, a.roi, nullptr); });
+      const std::string without = inPlace ? "bB" : "", none = images                            ? ""
+                                                              : constant && m.layout.stride > 1 ? "A"
+                                                                                                : "aA";
+      order.in(a, m.sizeFirst(inPlace) ? "zabdABD" : "abdABDz", without + none).run(image);
     }
 }
 

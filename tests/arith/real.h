@@ -3,74 +3,57 @@
 
 #include <climits>
 
-#include "core/layout.h"
-#include "core/stamp.h"
-#include "huxi_arith.h"
+#include "arith/operation.h"
 #include "support/failing_malloc.h"
-#include "support/image.h"
-#include "support/order.h"
 
 namespace hux::test {
 
 enum class Op { Add, Sub, Mul, Div };
 
-// The four functions of an operation, a type and a layout. A constant comes as a pointer to one element per channel.
-template <class T>
-struct Member {
-  std::string name;
+// The functions of an operation, a type and a layout: of two images, and of a constant and an image.
+struct Member : Form {
   Op op;
-  int channels, processed;
-  HuxStatus (*images)(const T*, int, const T*, int, T*, int, HuxiSize, int);
-  HuxStatus (*imagesInPlace)(const T*, int, T*, int, HuxiSize, int);
-  HuxStatus (*constant)(const T*, int, const T*, T*, int, HuxiSize, int);
-  HuxStatus (*constantInPlace)(const T*, T*, int, HuxiSize, int);
-  bool equalChannels() const { return channels == processed && channels > 1; }
+  Operation ofImages, ofConstant;
+  bool equalChannels() const { return ofImages.equalChannels(); }
+
+  HuxStatus images(const void* a, int aStep, const void* b, int bStep, void* d, int dStep, HuxiSize roi,
+                   int scale) const {
+    return ofImages.call(a, aStep, b, bStep, d, dStep, roi, &scale);
+  }
+  HuxStatus imagesInPlace(const void* a, int aStep, void* d, int dStep, HuxiSize roi, int scale) const {
+    return ofImages.inPlace(a, aStep, nullptr, 0, d, dStep, roi, &scale);
+  }
+  HuxStatus constant(const void* b, int bStep, const void* pixel, void* d, int dStep, HuxiSize roi, int scale) const {
+    return ofConstant.call(pixel, 0, b, bStep, d, dStep, roi, &scale);
+  }
+  HuxStatus constantInPlace(const void* pixel, void* d, int dStep, HuxiSize roi, int scale) const {
+    return ofConstant.inPlace(pixel, 0, nullptr, 0, d, dStep, roi, &scale);
+  }
 };
 
-template <class L, class T>
-auto constantOf(const T* p) {
-  if constexpr (L::channels == 1)
-    return *p;
-  else
-    return p;
+#define HUX_MEMBER(op, t, l, s) \
+  Member{HUX_NAMED(op, t, l), Op::op, HUX_OF_IMAGES(op, t, l, s), HUX_OF_CONSTANT(op##C, t, l, s)},
+#define HUX_OPERATIONS(t, l, s) \
+  HUX_MEMBER(Add, t, l, s) HUX_MEMBER(Sub, t, l, s) HUX_MEMBER(Mul, t, l, s) HUX_MEMBER(Div, t, l, s)
+#define HUX_INTEGERS(t, l) HUX_OPERATIONS(t, l, Sfs)
+#define HUX_FLOATS(t, l) HUX_OPERATIONS(t, l, )
+
+inline std::vector<Member> allMembers() {
+  return {
+    HUX_STAMP(HUX_INTEGERS, (8u, 16s, 16u), (C1, C3, C4, AC4))
+    HUX_STAMP(HUX_FLOATS, (32f), (C1, C3, C4, AC4))
+  };
 }
-
-#define HUX_MEMBER(op, t, l, sfs, SCALE)                                                                          \
-  Member<Hux##t>{#op "_" #t "_" #l,                                                                               \
-                 Op::op,                                                                                          \
-                 l::channels,                                                                                     \
-                 l::processed,                                                                                    \
-                 [](const Hux##t* a, int aStep, const Hux##t* b, int bStep, Hux##t* d, int dStep, HuxiSize roi,   \
-                    [[maybe_unused]] int scale) {                                                                 \
-                   return huxi##op##_##t##_##l##R##sfs(a, aStep, b, bStep, d, dStep, roi SCALE);                  \
-                 },                                                                                               \
-                 [](const Hux##t* a, int aStep, Hux##t* d, int dStep, HuxiSize roi, [[maybe_unused]] int scale) { \
-                   return huxi##op##_##t##_##l##IR##sfs(a, aStep, d, dStep, roi SCALE);                           \
-                 },                                                                                               \
-                 [](const Hux##t* s, int sStep, const Hux##t* c, Hux##t* d, int dStep, HuxiSize roi,              \
-                    [[maybe_unused]] int scale) {                                                                 \
-                   return huxi##op##C_##t##_##l##R##sfs(s, sStep, constantOf<l>(c), d, dStep, roi SCALE);         \
-                 },                                                                                               \
-                 [](const Hux##t* c, Hux##t* d, int dStep, HuxiSize roi, [[maybe_unused]] int scale) {            \
-                   return huxi##op##C_##t##_##l##IR##sfs(constantOf<l>(c), d, dStep, roi SCALE);                  \
-                 }},
-#define HUX_SCALE , scale
-#define HUX_MEMBER_8u(op, l) HUX_MEMBER(op, 8u, l, Sfs, HUX_SCALE)
-#define HUX_MEMBER_16s(op, l) HUX_MEMBER(op, 16s, l, Sfs, HUX_SCALE)
-#define HUX_MEMBER_16u(op, l) HUX_MEMBER(op, 16u, l, Sfs, HUX_SCALE)
-#define HUX_MEMBER_32f(op, l) HUX_MEMBER(op, 32f, l, , )
-
+// Those of the type T that do `op`, or all but those.
 template <class T>
-std::vector<Member<T>> members() {
-  if constexpr (std::is_same_v<T, Hux8u>) return {
-      HUX_STAMP(HUX_MEMBER_8u, (Add, Sub, Mul, Div), (C1, C3, C4, AC4))
-    };
-  else if constexpr (std::is_same_v<T, Hux16s>)
-    return { HUX_STAMP(HUX_MEMBER_16s, (Add, Sub, Mul, Div), (C1, C3, C4, AC4)) };
-  else if constexpr (std::is_same_v<T, Hux16u>)
-    return { HUX_STAMP(HUX_MEMBER_16u, (Add, Sub, Mul, Div), (C1, C3, C4, AC4)) };
-  else
-    return { HUX_STAMP(HUX_MEMBER_32f, (Add, Sub, Mul, Div), (C1, C3, C4, AC4)) };
+std::vector<Member> members(Op op, bool but = false) {
+  constexpr Number number = std::is_same_v<T, Hux8u>    ? Number::k8u
+                            : std::is_same_v<T, Hux16s> ? Number::k16s
+                            : std::is_same_v<T, Hux16u> ? Number::k16u
+                                                        : Number::k32f;
+  std::vector<Member> list = allMembers();
+  std::erase_if(list, [&](const Member& m) { return m.type != number || (m.op == op) == but; });
+  return list;
 }
 
 // Around every scale factor at which some type changes its way.
@@ -101,27 +84,27 @@ T operand(Rng& rng) {
 // the one that is not meant null, is the expected status; an error leaves the destination alone, but for the one family
 // that carries on.
 template <class T, class Images, class Constant, class Status>
-void compareWith(const Member<T>& m, unsigned seed, const std::vector<int>& scales, Images images, Constant constant,
+void compareWith(const Member& m, unsigned seed, const std::vector<int>& scales, Images images, Constant constant,
                  Status expectedStatus) {
   SCOPED_TRACE(m.name);
   Rng rng(seed);
   forShapes(rng, 150, [&](int width, int height, Place place) {
     const auto image = [&] {
-      Image i(rng, width, height, m.channels * int(sizeof(T)), place);
+      const Image i(rng, width, height, m.pixelBytes(), place);
       i.fill<T>([&] { return operand<T>(rng); });
       return i;
     };
     const int scale = scales[std::size_t(between(rng, 0, int(scales.size()) - 1))];
     SCOPED_TRACE("scale factor " + std::to_string(scale));
     const Image a = image(), b = image(), d = image();
-    Image c(rng, 1, 1, m.processed * int(sizeof(T)), Place::kEnd);  // what lies behind the constants cannot be read
+    const Image c(rng, 1, 1, int(m.touchedBytes()), Place::kEnd);  // what lies behind the constants cannot be read
     const bool equal = between(rng, 0, 2) == 0;
     c.fill<T>([&, first = operand<T>(rng)] { return equal ? first : operand<T>(rng); });
     const auto expect = [&](const Image& base, auto element) {
       Image e = base;
       for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x)
-          for (int k = 0; k < m.processed; ++k) e.set<T>(x, y, k, element(x, y, k));
+          for (int k = 0; k < m.layout.touched; ++k) e.set<T>(x, y, k, element(x, y, k));
       return e;
     };
     const auto ofImages = [&](int x, int y, int k) { return images(a.get<T>(x, y, k), b.get<T>(x, y, k), scale); };
@@ -134,16 +117,16 @@ void compareWith(const Member<T>& m, unsigned seed, const std::vector<int>& scal
       ASSERT_TRUE(same(actual, written ? expect(base, element) : base));
     };
     run(d, &a, ofImages, [&](const Image& dst) {
-      return m.images(a.data<T>(), a.step(), b.data<T>(), b.step(), dst.data<T>(), dst.step(), d.size(), scale);
+      return m.images(a.bytes(), a.step(), b.bytes(), b.step(), dst.bytes(), dst.step(), d.size(), scale);
     });
     run(b, &a, ofImages, [&](const Image& dst) {
-      return m.imagesInPlace(a.data<T>(), a.step(), dst.data<T>(), dst.step(), d.size(), scale);
+      return m.imagesInPlace(a.bytes(), a.step(), dst.bytes(), dst.step(), d.size(), scale);
     });
     run(d, nullptr, ofConstant, [&](const Image& dst) {
-      return m.constant(b.data<T>(), b.step(), c.data<T>(), dst.data<T>(), dst.step(), d.size(), scale);
+      return m.constant(b.bytes(), b.step(), c.bytes(), dst.bytes(), dst.step(), d.size(), scale);
     });
     run(b, nullptr, ofConstant,
-        [&](const Image& dst) { return m.constantInPlace(c.data<T>(), dst.data<T>(), dst.step(), d.size(), scale); });
+        [&](const Image& dst) { return m.constantInPlace(c.bytes(), dst.bytes(), dst.step(), d.size(), scale); });
   });
 }
 

@@ -7,16 +7,9 @@
 #include <limits>
 #include <vector>
 
-#include "core/layout.h"
+#include "support/image.h"
 
 namespace hux::test {
-
-template <class T>
-T at(const void* p, int i = 0) {
-  T value;
-  std::memcpy(&value, static_cast<const std::byte*>(p) + i * int(sizeof(T)), sizeof value);
-  return value;
-}
 
 template <class T>
 std::vector<std::byte> samples() {
@@ -37,15 +30,6 @@ std::vector<std::byte> samples() {
   }
   const auto* first = reinterpret_cast<const std::byte*>(values.data());
   return {first, first + values.size() * sizeof(T)};
-}
-
-// Bytes as a function of the layout takes its constants.
-template <class L, class T>
-Constant<L, T> constant(const void* p) {
-  if constexpr (L::channels == 1)
-    return at<T>(p);
-  else
-    return static_cast<const T*>(p);
 }
 
 }  // namespace hux::test

@@ -21,13 +21,6 @@ void forMembers(Body body) {
   HUX_STAMP(MEMBER, (8u, 16s), (C1, C3, C4))
 }
 
-template <class T>
-T at(const Image& image, int x, int y, int c) {
-  T value;
-  std::memcpy(&value, image.bytes(x, y) + c * int(sizeof(T)), sizeof value);
-  return value;
-}
-
 // The image is the region and what the windows reach, and nothing else of it can be read where it ends at a page.
 template <class T>
 void expectSums(Rng& rng, const Member<T>& m, HuxiSize roi, int mask, int anchor, bool extremes) {
@@ -43,7 +36,7 @@ void expectSums(Rng& rng, const Member<T>& m, HuxiSize roi, int mask, int anchor
   for (int c = 0; c < stride; ++c)
     for (int j = 0; j < (m.along ? roi.height : roi.width); ++j) {
       // Pixel i of line j, a row or a column.
-      const auto pixelAt = [&](int i) { return at<T>(src, m.along ? i : j, m.along ? j : i, c); };
+      const auto pixelAt = [&](int i) { return src.get<T>(m.along ? i : j, m.along ? j : i, c); };
       Hux32f sum = Hux32f(pixelAt(0));
       for (int k = 1; k < mask; ++k) sum = sum + Hux32f(pixelAt(k));
       for (int i = 0; i < (m.along ? roi.width : roi.height); ++i) {
@@ -112,7 +105,7 @@ TEST(WindowSum, ChecksInOrder) {
     CheckOrder([&] {
       return m.sum(pSrc + 60, src.step(), pDst, dst.step(), {4, 4}, mask, anchor);
     })
-        .breaks(huxStsNullPtr, pDst, nullptr)
+        .nulls(pDst)
         .breaks(huxStsBadMaskSize, mask, 0)
         .breaks(huxStsBadAnchor, anchor, -1)
         .breaks(huxStsBadAnchor, anchor, 3)
@@ -124,14 +117,12 @@ TEST(WindowSum, ChecksInOrder) {
 // Without memory the columns are summed in strips: no failure, the same sums.
 TEST(WindowSum, ColumnsNeedNoMemory) {
   Rng rng(5);
-  const int before = liveBlocks();
   forMembers([&](auto m) {
     if (m.along) return;
     failAllocation(0);
     expectSums(rng, m, {700, 5}, 4, 2, false);
     stopFailing();
   });
-  EXPECT_EQ(liveBlocks(), before);
 }
 
 }  // namespace

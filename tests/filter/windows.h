@@ -7,14 +7,6 @@
 
 namespace hux::test {
 
-// Calls body(T()) with the element type of a form; forms are told apart by their width.
-template <class Body>
-auto withElement(const Form& f, Body body) {
-  if (f.elementBytes == 1) return body(Hux8u());
-  if (f.elementBytes == 2) return body(Hux16s());
-  return body(Hux32f());
-}
-
 enum class Contents { kAny, kFewValues, kWithNaN };
 inline Contents anyContents(Rng& rng) { return Contents(between(rng, 0, 2)); }
 
@@ -79,12 +71,10 @@ class WindowImage {
 // Sets element c of the output pixel (x, y) of an image of such a form to value(x, y, c), for all elements touched.
 template <class Value>
 void expectPixels(const Form& f, const Image& expected, HuxiSize roi, Value value) {
-  for (int y = 0; y < roi.height; ++y)
-    for (int x = 0; x < roi.width; ++x)
-      for (int c = 0; c < f.layout.touched; ++c) {
-        const auto v = value(x, y, c);
-        std::memcpy(expected.bytes(x * f.pixelBytes() + c * f.elementBytes, y), &v, sizeof v);
-      }
+  forElements(roi, f.layout.touched, [&](int x, int y, int c) {
+    const auto v = value(x, y, c);
+    std::memcpy(expected.bytes(x * f.pixelBytes() + c * f.elementBytes, y), &v, sizeof v);
+  });
 }
 
 inline HuxiPoint anyAnchor(Rng& rng, HuxiSize mask) {

@@ -136,30 +136,14 @@ TEST(Windows, ChecksInOrderAndMemory) {
   const Image image(rng, 16, 8, 4);
   for (const Member& m : kMembers) {
     SCOPED_TRACE(m.name);
-    const void* src = image.bytes();
-    void* dst = image.bytes();
-    int srcStep = image.step(), dstStep = srcStep;
-    HuxiSize size = {3, 3};
-    const auto apart = [&] { return m.apart(src, srcStep, dst, dstStep, size); };
-    const auto inPlace = [&] { return m.inPlace(dst, dstStep, size); };
+    Arguments a(image, {3, 3});
+    const auto apart = [&] { return m.apart(a.a, a.aStep, a.d, a.dStep, a.roi); };
+    const auto inPlace = [&] { return m.inPlace(a.d, a.dStep, a.roi); };
     CheckOrder order(apart);
-    order.breaks(huxStsNullPtr, src, nullptr).breaks(huxStsNullPtr, dst, nullptr).breaks(huxStsBadSize, size.width, 2);
-    order.breaks(huxStsBadSize, size.height, 2).breaks(huxStsBadStep, srcStep, 0).breaks(huxStsBadStep, dstStep, -1);
+    order.in(a, "ad").breaks(huxStsBadSize, a.roi.width, 2).breaks(huxStsBadSize, a.roi.height, 2).in(a, "AD");
     order.run(image);
-    CheckOrder same_(inPlace);
-    same_.breaks(huxStsNullPtr, dst, nullptr).breaks(huxStsBadSize, size.height, 0).breaks(huxStsBadStep, dstStep, 0);
-    same_.run(image);
-
-    const int blocks = liveBlocks();
-    int failures = 0;
-    for (const bool place : {false, true})
-      walkAllocationFailures([&] { return place ? inPlace() : apart(); },
-                             [&](HuxStatus s) {
-                               ++failures;
-                               EXPECT_EQ(s, huxStsNoMem);
-                             });
-    EXPECT_EQ(failures, 4);
-    EXPECT_EQ(liveBlocks(), blocks);
+    CheckOrder(inPlace).in(a, "dzD").run(image);
+    EXPECT_EQ(failuresOf(apart) + failuresOf(inPlace), 4);
   }
   Hux32f value = 1;
   for (auto* line : {huxsWinBartlett_32f_I, huxsWinHamming_32f_I}) {

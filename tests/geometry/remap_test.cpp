@@ -7,41 +7,30 @@
 namespace hux::test {
 namespace {
 
-using RemapFn = HuxStatus (*)(const void*, HuxiSize, int, HuxiRect, const void*, int, const void*, int, const void*,
-                              int, HuxiSize, HuxiInterpolation);
+using RemapFn = HuxStatus(const void*, HuxiSize, int, HuxiRect, const void*, int, const void*, int, const void*, int,
+                          HuxiSize, HuxiInterpolation);
 struct Member : Format {
-  RemapFn remap;
+  RemapFn* remap;
 };
-#define MEMBER(t, l) Member{HUX_FORMAT(t, l), untyped<huxiRemap_##t##_##l##R>},
+#define MEMBER(t, l) Member{HUX_FORMAT(t, l), as<RemapFn, huxiRemap_##t##_##l##R>},
 std::vector<Member> members() {
   return { HUX_STAMP(MEMBER, (8u, 16u, 32f), (C1, C3, AC4, C4, P3, P4)) };
 }
 
 // A coordinate next to one of the ends, on a pixel, between pixels, far outside, or none.
 Hux32f coordinate(Rng& rng, int first, int last) {
-  const Hux32f inside = Hux32f(first) + Hux32f(last - first) * Hux32f(between(rng, 0, 1 << 20)) / (1 << 20);
-  switch (between(rng, 0, 20)) {
-    case 0:
-      return std::nextafter(Hux32f(first), -1.0f);
-    case 1:
-      return Hux32f(first);
-    case 2:
-      return Hux32f(last);
-    case 3:
-      return std::nextafter(Hux32f(last), 1e9f);
-    case 4:
-      return std::numeric_limits<Hux32f>::quiet_NaN();
-    case 5:
-      return -1e30f;
-    case 6:
-      return std::numeric_limits<Hux32f>::infinity();
-    case 7:
-      return std::floor(inside);
-    case 8:
-      return std::nextafter(std::ceil(inside), -1.0f);
-    default:
-      return inside;
-  }
+  constexpr Hux32f inf = std::numeric_limits<Hux32f>::infinity();
+  const Hux32f a = Hux32f(first), b = Hux32f(last), inside = a + (b - a) * Hux32f(between(rng, 0, 1 << 20)) / (1 << 20);
+  const Hux32f some[] = {std::nextafter(a, -inf),
+                         a,
+                         b,
+                         std::nextafter(b, inf),
+                         NAN,
+                         -1e30f,
+                         inf,
+                         std::floor(inside),
+                         std::nextafter(std::ceil(inside), -1.0f)};
+  return between(rng, 0, 1) ? some[rng() % std::size(some)] : inside;
 }
 
 TEST(Remap, PixelsComeFromWhereTheMapsTell) {
@@ -52,7 +41,7 @@ TEST(Remap, PixelsComeFromWhereTheMapsTell) {
         SCOPED_TRACE(f.name + " mode " + std::to_string(mode) + " turn " + std::to_string(turn));
         const Place place = Place(turn % 3);
         const int least = turn < 12 ? 1 + turn / 3 : 1;
-        const Picture src(rng, f, between(rng, least, 20), between(rng, least, 12), place);
+        const Picture src(rng, f, {between(rng, least, 20), between(rng, least, 12)}, place);
         const HuxiSize roi = {between(rng, 1, turn % 2 ? 300 : 20), between(rng, 1, 4)};
         const Image xMap(rng, roi.width, roi.height, 4, place), yMap(rng, roi.width, roi.height, 4, place);
         const int x1 = between(rng, 0, src.size().width - 1), y1 = between(rng, 0, src.size().height - 1);
@@ -60,19 +49,19 @@ TEST(Remap, PixelsComeFromWhereTheMapsTell) {
         const int x2 = std::min(src.size().width, x1 + part.width) - 1;
         const int y2 = std::min(src.size().height, y1 + part.height) - 1;
         const bool allInside = turn % 4 == 0;
-        Picture dst(rng, f, roi.width, roi.height, place), expected = dst;
+        const Picture dst(rng, f, roi, place), expected = dst;
         for (int j = 0; j < roi.height; ++j)
           for (int i = 0; i < roi.width; ++i) {
             Hux32f x = coordinate(rng, x1, x2), y = coordinate(rng, y1, y2);
             const bool inside = x >= Hux32f(x1) && x <= Hux32f(x2) && y >= Hux32f(y1) && y <= Hux32f(y2);
             if (allInside && !inside) x = Hux32f(x2), y = Hux32f(y1);
-            std::memcpy(xMap.bytes(i, j), &x, sizeof x), std::memcpy(yMap.bytes(i, j), &y, sizeof y);
+            xMap.set(i, j, 0, x), yMap.set(i, j, 0, y);
             if (allInside || inside) setSampled(expected, i, j, src, f, mode, x, y);
           }
         ASSERT_EQ(f.remap(src.argument(), src.size(), src.step(), part, xMap.bytes(), xMap.step(), yMap.bytes(),
                           yMap.step(), dst.argument(), dst.step(), roi, mode),
                   huxStsOk);
-        ASSERT_TRUE(same(dst.memory, expected.memory));
+        ASSERT_TRUE(same(dst, expected));
       }
 }
 
@@ -80,36 +69,21 @@ TEST(Remap, ChecksInterpolationBeforeStepsAndPlanesLast) {
   Rng rng(2);
   for (const Member& f : members()) {
     SCOPED_TRACE(f.name);
-    const Picture picture(rng, f, 4, 4);
+    Picture picture(rng, f, {4, 4});
     const Image map(rng, 4, 4, 4);
-    const void *src = picture.argument(), *dst = src, *x = map.bytes(), *y = map.bytes();
-    HuxiSize size = picture.size(), roi = {1, 1};
+    Arguments a(picture.memory);
+    a.a = a.d = picture.argument();
+    const void *x = map.bytes(), *y = map.bytes();
+    HuxiSize size = picture.size();
     HuxiRect part = {0, 0, 4, 4};
-    int srcStep = picture.step(), dstStep = srcStep, xStep = 4, yStep = 4;
+    int xStep = 4, yStep = 4;
     HuxiInterpolation mode = huxiInterNearest;
-    CheckOrder order([&] { return f.remap(src, size, srcStep, part, x, xStep, y, yStep, dst, dstStep, roi, mode); });
-    order.breaks(huxStsNullPtr, src, nullptr)
-        .breaks(huxStsNullPtr, dst, nullptr)
-        .breaks(huxStsNullPtr, x, nullptr)
-        .breaks(huxStsNullPtr, y, nullptr)
-        .breaks(huxStsBadSize, size.width, 0)
-        .breaks(huxStsBadSize, size.height, -1)
-        .breaks(huxStsBadSize, part.x, -1)
-        .breaks(huxStsBadSize, part.y, -1)
-        .breaks(huxStsBadSize, part.width, 0)
-        .breaks(huxStsBadSize, part.height, 0)
-        .breaks(huxStsBadSize, roi.width, 0)
-        .breaks(huxStsBadSize, roi.height, 0)
-        .breaks(huxStsBadInterpolation, mode, huxiInterSuper)
-        .breaks(huxStsBadInterpolation, mode, huxiInterLinear | huxiInterSmoothEdge)
-        .breaks(huxStsBadStep, srcStep, 0)
-        .breaks(huxStsBadStep, dstStep, 0)
-        .breaks(huxStsBadStep, xStep, 0)
-        .breaks(huxStsBadStep, yStep, -4)
-        .breaks(huxStsNoOverlapWarn, part.x, 4)
-        .breaks(huxStsNoOverlapWarn, part.y, 4);
-    for (int p = 0; f.planes > 1 && p < f.planes; ++p)
-      order.breaks(huxStsNullPtr, static_cast<void**>(picture.argument())[p], nullptr);
+    CheckOrder order([&] { return f.remap(a.a, size, a.aStep, part, x, xStep, y, yStep, a.d, a.dStep, a.roi, mode); });
+    order.in(a, "ad").nulls(x, y).sizes(size).sizes(part).in(a, "z");
+    order.breaks(huxStsBadInterpolation, mode, huxiInterSuper);
+    order.breaks(huxStsBadInterpolation, mode, huxiInterLinear | huxiInterSmoothEdge).in(a, "AD").steps(xStep, yStep);
+    order.breaks(huxStsNoOverlapWarn, part.x, 4).breaks(huxStsNoOverlapWarn, part.y, 4);
+    for (int p = 0; f.planes > 1 && p < f.planes; ++p) order.nulls(picture.plane(p));
     order.run(picture.memory);
   }
 }

@@ -1,13 +1,7 @@
 // Interpolation as it is defined, one pixel at a time: what resizing is compared with.
 #pragma once
 
-#include <algorithm>
-#include <cmath>
-#include <functional>
-#include <vector>
-
-#include "huxdefs.h"
-#include "support/forms.h"
+#include "geometry/picture.h"
 
 namespace hux::test {
 
@@ -52,41 +46,35 @@ inline float lanczos(const float* p, float t) {
   return value;
 }
 
-template <class T>
-T rounded(float v) {
-  if constexpr (std::is_floating_point_v<T>) return v;
-  const double whole = std::trunc(double(v) + 0.5000001);
-  return T(std::clamp(whole, 0.0, double(std::numeric_limits<T>::max())));
+// What a float becomes as an element of so many bytes.
+inline double rounded(int bytes, float v) {
+  return bytes == 4 ? v : std::clamp(std::trunc(double(v) + 0.5000001), 0.0, bytes == 1 ? 255.0 : 65535.0);
 }
 
 // The pixel between samples get(x, y), of an image of that many columns and rows.
-template <class T, class Get>
-T interpolated(int mode, Place1d x, Place1d y, long columns, long rows, Get get) {
+template <class Get>
+double interpolated(int bytes, int mode, Place1d x, Place1d y, long columns, long rows, Get get) {
   const auto at = [&](int k, int j) { return get(inside(x.first + k, columns), inside(y.first + j, rows)); };
-  if (mode == huxiInterLinear && std::is_integral_v<T>) {
-    const bool wide = sizeof(T) == 2;
+  if (mode == huxiInterLinear && bytes < 4) {
+    const bool wide = bytes == 2;
     const int q = int(x.fraction * 16384 + 1e-7), f = int(y.fraction * 16384 + 1e-7);
     const auto along = [&](int j) {
       const long sum = long(q) * long(at(1, j)) + (16384L - q) * long(at(0, j));
       return wide ? std::clamp((sum + 8192) >> 14, 0L, 65535L) : (sum + 128) >> 8;  // lines are of 16 bits
     };
     const long sum = along(1) * f + along(0) * (16384 - f);
-    return T(std::clamp(wide ? (sum + 8192) >> 14 : (sum + 0x80000) >> 20, 0L, wide ? 65535L : 255L));
+    return double(std::clamp(wide ? (sum + 8192) >> 14 : (sum + 0x80000) >> 20, 0L, wide ? 65535L : 255L));
   }
-  const int taps = tapsOf(mode);
-  float lines[6];
-  for (int j = 0; j < taps; ++j) {
-    float p[6];
-    for (int k = 0; k < taps; ++k) p[k] = float(at(k, j));
-    const float t = float(x.fraction);
-    lines[j] = mode == huxiInterLinear  ? (p[1] - p[0]) * t + p[0]
-               : mode == huxiInterCubic ? newton(p, t)
-                                        : lanczos(p, t);
+  const auto between = [&](const float* p, float t, bool down) {
+    if (mode != huxiInterLinear) return mode == huxiInterCubic ? newton(p, t) : lanczos(p, t);
+    return down ? p[1] * t + p[0] * (1.0f - t) : (p[1] - p[0]) * t + p[0];
+  };
+  float lines[6], p[6];
+  for (int j = 0; j < tapsOf(mode); ++j) {
+    for (int k = 0; k < tapsOf(mode); ++k) p[k] = float(at(k, j));
+    lines[j] = between(p, float(x.fraction), false);
   }
-  const float t = float(y.fraction);
-  return rounded<T>(mode == huxiInterLinear  ? lines[1] * t + lines[0] * (1.0f - t)
-                    : mode == huxiInterCubic ? newton(lines, t)
-                                             : lanczos(lines, t));
+  return rounded(bytes, between(lines, float(y.fraction), true));
 }
 
 // The mode that an image has room for.
@@ -98,40 +86,23 @@ inline int modeFor(HuxiSize image, int mode) {
   return mode;
 }
 
-// Images of all formats of the family: P3 and P4 are three and four images of one channel, below each other.
-struct Geometry {
-  int elementBytes, planes;
-  Layout layout;
+inline constexpr int kResizeModes[] = {huxiInterNearest, huxiInterLinear, huxiInterCubic, huxiInterLanczos};
+
+// Images of one call, often smaller than a mode needs, sometimes wider than a strip of the passes.
+struct ResizeScene {
+  Picture src, dst;
+
+  ResizeScene(Rng& rng, const Format& f, HuxiSize srcSize, HuxiSize dstSize)
+      : src(rng, f, srcSize, Place(between(rng, 0, 2)), LastPixel::kTouched),
+        dst(rng, f, dstSize, Place(between(rng, 0, 2)), LastPixel::kTouched) {}
+  ResizeScene(Rng& rng, const Format& f, int n)
+      : ResizeScene(rng, f,
+                    {between(rng, 1,
+                             n % 8 == 0   ? 600
+                             : n % 3 == 0 ? 10
+                                          : 70),
+                     between(rng, 1, 12)},
+                    {between(rng, 1, n % 8 == 1 ? 1500 : 90), between(rng, 1, 20)}) {}
 };
-inline Image imageOf(Rng& rng, const Geometry& g, HuxiSize size, Place place) {
-  Image image = g.planes > 1 ? Image(rng, size.width * g.elementBytes, size.height * g.planes, 1, place)
-                             : touchedImage(rng, size.width, size.height, g.layout, g.elementBytes, place);
-  if (g.elementBytes == 4)  // numbers, and no strange ones
-    for (int y = 0; y < image.height(); ++y)
-      for (int x = 0; x + 4 <= image.width(); x += 4) {
-        const float v = float(between(rng, -1000000, 1000000)) / 1024.0f;
-        std::memcpy(image.bytes(x, y), &v, sizeof v);
-      }
-  return image;
-}
-// Where channel c of a pixel stands in it.
-inline std::byte* channelAt(const Image& image, const Geometry& g, long x, long y, int c) {
-  const long row = g.planes > 1 ? y + c * (image.height() / g.planes) : y;
-  const long element = g.planes > 1 ? x : x * g.layout.stride + c;
-  return image.bytes() + row * image.step() + element * g.elementBytes;
-}
-inline int channelsOf(const Geometry& g) { return g.planes > 1 ? g.planes : g.layout.touched; }
-// The image argument of a call: its first pixel, or the planes in `array`.
-inline void* argumentOf(const Image& image, const Geometry& g, std::byte* (&array)[4]) {
-  if (g.planes == 1) return image.bytes();
-  for (int c = 0; c < g.planes; ++c) array[c] = channelAt(image, g, 0, 0, c);
-  return array;
-}
-template <class T>
-T load(const std::byte* p) {
-  T value;
-  std::memcpy(&value, p, sizeof value);
-  return value;
-}
 
 }  // namespace hux::test

@@ -5,16 +5,12 @@
 namespace hux::test {
 namespace {
 
-using SquareFn = std::function<HuxStatus(const void*, HuxiSize, int, HuxiRect, void*, int, HuxiRect, double, double,
-                                         double, double, int, void*)>;
-struct SquareForm : Geometry {
-  std::string name;
-  SquareFn resize;
+using SquareFn = HuxStatus(const void*, HuxiSize, int, HuxiRect, void*, int, HuxiRect, double, double, double, double,
+                           int, void*);
+struct SquareForm : Format {
+  SquareFn* resize;
 };
-constexpr Layout P3{1, 1}, P4{1, 1};
-#define FORM(t, l) \
-  SquareForm{      \
-      {int(sizeof(Hux##t)), #l[0] == 'P' ? #l[1] - '0' : 1, l}, #t "_" #l, erased<huxiResizeSqrPixel_##t##_##l##R>},
+#define FORM(t, l) SquareForm{HUX_FORMAT(t, l), as<SquareFn, huxiResizeSqrPixel_##t##_##l##R>},
 std::vector<SquareForm> forms() {
   return { HUX_STAMP(FORM, (8u, 16u, 32f), (C1, C3, AC4, C4, P3, P4)) };
 }
@@ -44,41 +40,35 @@ struct Axis1d {
   }
 };
 
-template <class T>
-T once(T p0, T p1, double fraction, bool across) {
-  if constexpr (std::is_integral_v<T>) {
+double once(int bytes, double p0, double p1, double fraction, bool across) {
+  if (bytes < 4) {
     const long q = long(fraction * 16384 + 1e-7);
-    return T((q * p1 + (16384 - q) * p0 + 8192) >> 14);
-  } else {
-    const float f = float(fraction);
-    return across ? p1 * f + p0 * (1.0f - f) : (p1 - p0) * f + p0;
+    return double((q * long(p1) + (16384 - q) * long(p0) + 8192) >> 14);
   }
+  const float f = float(fraction), a = float(p0), b = float(p1);
+  return across ? b * f + a * (1.0f - f) : (b - a) * f + a;
 }
 
-template <class T>
-void expectPixels(const SquareForm& f, const Image& src, const Image& dst, const Axis1d& x, const Axis1d& y, int mode) {
+void expectPixels(const SquareForm& f, const Picture& src, const Picture& dst, const Axis1d& x, const Axis1d& y,
+                  int mode) {
   for (long j = y.first; j < y.end; ++j)
     for (long i = x.first; i < x.end; ++i)
-      for (int c = 0; c < channelsOf(f); ++c) {
-        const auto get = [&](long u, long v) {
-          return load<T>(channelAt(src, f, inside(u, x.image), inside(v, y.image), c));
-        };
-        T value;
+      for (int c = 0; c < f.channels(); ++c) {
+        const auto get = [&](long u, long v) { return src.get(inside(u, x.image), inside(v, y.image), c); };
+        const Place1d px = x.place(mode, i), py = y.place(mode, j);
+        double value;
         if (mode == huxiInterNearest) {
           value = get(x.nearest(i), y.nearest(j));
+        } else if (mode == huxiInterLinear && y.outside(j)) {
+          const long row = y.at(j) < 0 ? 0 : y.image - 1;
+          value = once(f.elementBytes, get(px.first, row), get(px.first + 1, row), px.fraction, false);
+        } else if (mode == huxiInterLinear && x.outside(i)) {
+          const long column = x.at(i) < 0 ? 0 : x.image - 1;
+          value = once(f.elementBytes, get(column, py.first), get(column, py.first + 1), py.fraction, true);
         } else {
-          const Place1d px = x.place(mode, i), py = y.place(mode, j);
-          if (mode == huxiInterLinear && y.outside(j)) {
-            const long row = y.at(j) < 0 ? 0 : y.image - 1;
-            value = once<T>(get(px.first, row), get(px.first + 1, row), px.fraction, false);
-          } else if (mode == huxiInterLinear && x.outside(i)) {
-            const long column = x.at(i) < 0 ? 0 : x.image - 1;
-            value = once<T>(get(column, py.first), get(column, py.first + 1), py.fraction, true);
-          } else {
-            value = interpolated<T>(mode, px, py, x.image, y.image, get);
-          }
+          value = interpolated(f.elementBytes, mode, px, py, x.image, y.image, get);
         }
-        std::memcpy(channelAt(dst, f, i, j, c), &value, sizeof value);
+        dst.set(i, j, c, value);
       }
 }
 
@@ -86,13 +76,11 @@ TEST(ResizeSquare, PixelsAreThoseOfTheDefinition) {
   Rng rng(1);
   int written = 0;
   for (const SquareForm& f : forms())
-    for (int mode : {huxiInterNearest, huxiInterLinear, huxiInterCubic, huxiInterLanczos})
+    for (int mode : kResizeModes)
       for (int n = 0; n < 40; ++n) {
         SCOPED_TRACE(f.name + " mode " + std::to_string(mode) + " case " + std::to_string(n));
-        const HuxiSize size = {between(rng, 1, n % 8 == 0 ? 500 : n % 3 ? 60 : 10), between(rng, 1, 12)};
-        const HuxiSize room = {between(rng, 1, n % 8 == 1 ? 1200 : 80), between(rng, 1, 20)};
-        const Image src = imageOf(rng, f, size, Place(between(rng, 0, 2)));
-        const Image dst = imageOf(rng, f, room, Place(between(rng, 0, 2)));
+        const ResizeScene s(rng, f, n);
+        const HuxiSize size = s.src.size(), room = s.dst.size();
         const bool whole = n % 4 == 0;
         const HuxiRect roi = {whole ? 0 : between(rng, 0, (size.width - 1) / 3),
                               whole ? 0 : between(rng, 0, (size.height - 1) / 3), between(rng, 1, size.width + 3),
@@ -107,24 +95,18 @@ TEST(ResizeSquare, PixelsAreThoseOfTheDefinition) {
         const Axis1d x(size.width, roi.x, roi.width, dstRoi.x, dstRoi.width, xf, xs);
         const Axis1d y(size.height, roi.y, roi.height, dstRoi.y, dstRoi.height, yf, ys);
         const bool empty = x.first > x.end || y.first > y.end;
-        const int used = modeFor(size, mode);
-        const Image expected = dst;
-        if (!empty) {
-          written += x.first < x.end && y.first < y.end;
-          if (f.elementBytes == 1) expectPixels<Hux8u>(f, src, expected, x, y, used);
-          if (f.elementBytes == 2) expectPixels<Hux16u>(f, src, expected, x, y, used);
-          if (f.elementBytes == 4) expectPixels<Hux32f>(f, src, expected, x, y, used);
-        }
-        std::byte *from[4], *to[4];
+        const Picture expected = s.dst;
+        if (!empty) expectPixels(f, s.src, expected, x, y, modeFor(size, mode));
+        written += x.first < x.end && y.first < y.end;
         int bytes;
         ASSERT_EQ(huxiResizeSqrPixelGetBufSize({dstRoi.width, dstRoi.height}, f.planes > 1 ? 1 : f.layout.stride, mode,
                                                &bytes),
                   huxStsOk);
         const Image buffer(rng, bytes, 1, 1, Place::kEnd);
-        ASSERT_EQ(f.resize(argumentOf(src, f, from), size, src.step(), roi, argumentOf(dst, f, to), dst.step(), dstRoi,
-                           xf, yf, xs, ys, mode, buffer.bytes()),
+        ASSERT_EQ(f.resize(s.src.argument(), size, s.src.step(), roi, s.dst.argument(), s.dst.step(), dstRoi, xf, yf,
+                           xs, ys, mode, buffer.bytes()),
                   empty ? huxStsEmptyDestWarn : huxStsOk);
-        ASSERT_TRUE(same(dst, expected));
+        ASSERT_TRUE(same(s.dst, expected));
       }
   EXPECT_GT(written, 1000);
 }
@@ -133,36 +115,27 @@ TEST(ResizeSquare, ChecksComeInOrder) {
   Rng rng(2);
   for (const SquareForm& f : forms()) {
     SCOPED_TRACE(f.name);
-    HuxiSize size = {20, 12};
-    const Image src = imageOf(rng, f, size, Place::kInside), dst = imageOf(rng, f, {9, 9}, Place::kInside);
-    std::byte *from[4], *to[4];
-    const void* pSrc = argumentOf(src, f, from);
-    void* pDst = argumentOf(dst, f, to);
+    Picture src(rng, f, {20, 12}), dst(rng, f, {9, 9});
+    HuxiSize size = src.size();
+    const void* pSrc = src.argument();
+    void* pDst = dst.argument();
     Hux8u work[20000];
     void* buffer = work;
     HuxiRect roi = {2, 3, 10, 5}, dstRoi = {1, 1, 7, 7};
-    double xf = 0.5, yf = 0.5;
+    double xf = 0.5, yf = 0.5, shift = 0;
     int mode = huxiInterCubic;
-    CheckOrder order(
-        [&] { return f.resize(pSrc, size, src.step(), roi, pDst, dst.step(), dstRoi, xf, yf, 0, 0, mode, buffer); });
-    order.breaks(huxStsNullPtr, pSrc, nullptr).breaks(huxStsNullPtr, pDst, nullptr);
-    if (f.planes > 1)
-      order.breaks(huxStsNullPtr, from[f.planes - 1], nullptr).breaks(huxStsNullPtr, to[f.planes - 1], nullptr);
-    order.breaks(huxStsNullPtr, buffer, nullptr)
-        .breaks(huxStsBadSize, size.width, 0)
-        .breaks(huxStsBadSize, size.height, 0)
-        .breaks(huxStsBadSize, roi.x, -1)
-        .breaks(huxStsBadSize, roi.height, 0)
-        .breaks(huxStsBadSize, dstRoi.y, -1)
-        .breaks(huxStsBadSize, dstRoi.width, 0)
-        .breaks(huxStsBadResizeFactor, xf, -1)
-        .breaks(huxStsBadResizeFactor, yf, 0)
-        .breaks(huxStsBadInterpolation, mode, huxiInterSuper)
-        .breaks(huxStsNoOverlapWarn, roi.x, 20)
-        .breaks(huxStsNoOverlapWarn, roi.y, 12)
-        .run(dst);
-    EXPECT_EQ(f.resize(pSrc, size, src.step(), roi, pDst, dst.step(), dstRoi, xf, yf, std::nan(""), 0, mode, buffer),
-              huxStsEmptyDestWarn);
+    const auto call = [&] {
+      return f.resize(pSrc, size, src.step(), roi, pDst, dst.step(), dstRoi, xf, yf, shift, 0, mode, buffer);
+    };
+    CheckOrder order(call);
+    order.nulls(pSrc, pDst);
+    if (f.planes > 1) order.nulls(src.plane(f.planes - 1), dst.plane(f.planes - 1));
+    order.nulls(buffer).sizes(size).sizes(roi).sizes(dstRoi);
+    order.breaks(huxStsBadResizeFactor, xf, -1).breaks(huxStsBadResizeFactor, yf, 0);
+    order.breaks(huxStsBadInterpolation, mode, huxiInterSuper);
+    order.breaks(huxStsNoOverlapWarn, roi.x, 20).breaks(huxStsNoOverlapWarn, roi.y, 12).run(dst.memory);
+    shift = std::nan("");
+    EXPECT_EQ(call(), huxStsEmptyDestWarn);
   }
 }
 

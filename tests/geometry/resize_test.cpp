@@ -1,29 +1,21 @@
 // Resize by factors, about a point and by steps, by every interpolation.
-#include "huxi_geometry.h"
-
 #include "geometry/resampling.h"
+#include "huxi_geometry.h"
 #include "support/failing_malloc.h"
 
 namespace hux::test {
 namespace {
 
-using FactorFn =
-    std::function<HuxStatus(const void*, HuxiSize, int, HuxiRect, void*, int, HuxiSize, double, double, int)>;
-using CenterFn = std::function<HuxStatus(const void*, HuxiSize, int, HuxiRect, void*, int, HuxiSize, double, double,
-                                         double, double, int)>;
-
-struct ResizeForm : Geometry {
-  std::string name;
-  FactorFn resize;
-  CenterFn center, shift;
+using FactorFn = HuxStatus(const void*, HuxiSize, int, HuxiRect, void*, int, HuxiSize, double, double, int);
+using PointFn = HuxStatus(const void*, HuxiSize, int, HuxiRect, void*, int, HuxiSize, double, double, double, double,
+                          int);
+struct ResizeForm : Format {
+  FactorFn* resize;
+  PointFn *center, *shift;
 };
-constexpr Layout P3{1, 1}, P4{1, 1};
-#define FORM(t, l)                                                     \
-  ResizeForm{{int(sizeof(Hux##t)), #l[0] == 'P' ? #l[1] - '0' : 1, l}, \
-             #t "_" #l,                                                \
-             erased<huxiResize_##t##_##l##R>,                          \
-             erased<huxiResizeCenter_##t##_##l##R>,                    \
-             erased<huxiResizeShift_##t##_##l##R>},
+#define FORM(t, l)                                                                                                \
+  ResizeForm{HUX_FORMAT(t, l), as<FactorFn, huxiResize_##t##_##l##R>, as<PointFn, huxiResizeCenter_##t##_##l##R>, \
+             as<PointFn, huxiResizeShift_##t##_##l##R>},
 std::vector<ResizeForm> forms() {
   return { HUX_STAMP(FORM, (8u, 16u, 32f), (C1, C3, AC4, C4, P3, P4)) };
 }
@@ -76,25 +68,18 @@ struct Axis1d {
 };
 
 // Writes what a resize writes from (dx, dy) of the destination on.
-template <class T>
-void expectPixels(const ResizeForm& f, const Image& src, const Image& dst, HuxiSize srcSize, const Axis1d& x,
-                  const Axis1d& y, int mode, long dx, long dy) {
+void expectPixels(const ResizeForm& f, const Picture& src, const Picture& dst, const Axis1d& x, const Axis1d& y,
+                  int mode, long dx = 0, long dy = 0) {
   const auto columns = x.places(mode), rows = y.places(mode);
   for (std::size_t j = 0; j < rows.size(); ++j)
     for (std::size_t i = 0; i < columns.size(); ++i)
-      for (int c = 0; c < channelsOf(f); ++c) {
-        const auto get = [&](long u, long v) { return load<T>(channelAt(src, f, u, v, c)); };
-        const T value = mode == huxiInterNearest
-                            ? get(columns[i].first, rows[j].first)
-                            : interpolated<T>(mode, columns[i], rows[j], srcSize.width, srcSize.height, get);
-        std::memcpy(channelAt(dst, f, dx + long(i), dy + long(j), c), &value, sizeof value);
+      for (int c = 0; c < f.channels(); ++c) {
+        const auto get = [&](long u, long v) { return src.get(u, v, c); };
+        dst.set(dx + long(i), dy + long(j), c,
+                mode == huxiInterNearest ? get(columns[i].first, rows[j].first)
+                                         : interpolated(f.elementBytes, mode, columns[i], rows[j], src.size().width,
+                                                        src.size().height, get));
       }
-}
-void expectPixels(const ResizeForm& f, const Image& src, const Image& dst, HuxiSize srcSize, const Axis1d& x,
-                  const Axis1d& y, int mode, long dx = 0, long dy = 0) {
-  if (f.elementBytes == 1) return expectPixels<Hux8u>(f, src, dst, srcSize, x, y, mode, dx, dy);
-  if (f.elementBytes == 2) return expectPixels<Hux16u>(f, src, dst, srcSize, x, y, mode, dx, dy);
-  return expectPixels<Hux32f>(f, src, dst, srcSize, x, y, mode, dx, dy);
 }
 
 double anyFactor(Rng& rng) {
@@ -106,68 +91,54 @@ HuxiRect anyRegion(Rng& rng, HuxiSize size) {
   const int y = between(rng, 0, 2) ? between(rng, 0, size.height - 1) : 0;
   return {x, y, between(rng, 1, size.width - x + 3), between(rng, 1, size.height - y + 3)};
 }
-constexpr int kModes[] = {huxiInterNearest, huxiInterLinear, huxiInterCubic, huxiInterLanczos};
 
-// One image with room for any form of call: sources against unreadable pages, up and down.
-struct Scene {
-  HuxiSize srcSize, dstSize;
+struct Scene : ResizeScene {
   HuxiRect roi;
-  Image src, dst;
-  std::byte *srcPlanes[4], *dstPlanes[4];
-  int srcStep;
 
-  Scene(Rng& rng, const ResizeForm& f, HuxiSize srcSize, HuxiSize dstSize)
-      : srcSize(srcSize),
-        dstSize(dstSize),
-        roi(anyRegion(rng, srcSize)),
-        src(imageOf(rng, f, srcSize, Place(between(rng, 0, 2)))),
-        dst(imageOf(rng, f, dstSize, Place(between(rng, 0, 2)))),
-        srcStep(src.step()) {
-    srcArgument = argumentOf(src, f, srcPlanes), dstArgument = argumentOf(dst, f, dstPlanes);
-  }
-  void *srcArgument, *dstArgument;
+  template <class... A>
+  Scene(Rng& rng, const Format& f, A... sizes) : ResizeScene(rng, f, sizes...), roi(anyRegion(rng, src.size())) {}
   Axis1d x(double factor, double shift, bool bySteps) const {
-    return {srcSize.width, roi.x, std::min(roi.width, srcSize.width - roi.x), dstSize.width, factor, shift, bySteps};
+    const int width = src.size().width;
+    return {width, roi.x, std::min(roi.width, width - roi.x), dst.size().width, factor, shift, bySteps};
   }
   Axis1d y(double factor, double shift, bool bySteps) const {
-    return {srcSize.height, roi.y,  std::min(roi.height, srcSize.height - roi.y), dstSize.height, factor,
-            shift,          bySteps};
+    const int height = src.size().height;
+    return {height, roi.y, std::min(roi.height, height - roi.y), dst.size().height, factor, shift, bySteps};
+  }
+  template <class Fn, class... A>
+  HuxStatus call(Fn* resize, A... parameters) const {
+    return resize(src.argument(), src.size(), src.step(), roi, dst.argument(), dst.step(), dst.size(), parameters...);
   }
 };
-// Sometimes wider than a strip of the passes, and often smaller than a mode needs.
-Scene anyScene(Rng& rng, const ResizeForm& f, int n) {
-  const int wide = n % 8 == 0 ? 600 : n % 3 == 0 ? 10 : 70;
-  return Scene(rng, f, {between(rng, 1, wide), between(rng, 1, 12)},
-               {between(rng, 1, n % 8 == 1 ? 1500 : 90), between(rng, 1, 20)});
+template <class Body>
+void forScenes(int seed, int count, Body body) {
+  Rng rng(seed);
+  for (const ResizeForm& f : forms())
+    for (int mode : kResizeModes)
+      for (int n = 0; n < count; ++n) {
+        SCOPED_TRACE(f.name + " mode " + std::to_string(mode) + " case " + std::to_string(n));
+        const Scene s(rng, f, n);
+        body(rng, f, s, mode, modeFor(s.src.size(), mode));
+        if (testing::Test::HasFatalFailure()) return;
+      }
 }
 
 TEST(Resize, PixelsAreThoseOfTheDefinition) {
-  Rng rng(1);
-  for (const ResizeForm& f : forms())
-    for (int mode : kModes)
-      for (int n = 0; n < 40; ++n) {
-        Scene s = anyScene(rng, f, n);
-        const double xf = anyFactor(rng), yf = anyFactor(rng);
-        SCOPED_TRACE(f.name + " mode " + std::to_string(mode) + " case " + std::to_string(n));
-        const int used = modeFor(s.srcSize, mode);
-        const bool nearest = used == huxiInterNearest;
-        const Axis1d x = s.x(xf, 0, false), y = s.y(yf, 0, false);
-        const bool small = !x.count(nearest) || !y.count(nearest);
-        Image expected = s.dst;
-        if (!small) expectPixels(f, s.src, expected, s.srcSize, x, y, used);
-        ASSERT_EQ(
-            f.resize(s.srcArgument, s.srcSize, s.srcStep, s.roi, s.dstArgument, s.dst.step(), s.dstSize, xf, yf, mode),
-            small ? huxStsResizeTooSmall : huxStsOk);
-        ASSERT_TRUE(same(s.dst, expected));
+  forScenes(1, 40, [](Rng& rng, const ResizeForm& f, const Scene& s, int mode, int used) {
+    const double xf = anyFactor(rng), yf = anyFactor(rng);
+    const bool nearest = used == huxiInterNearest;
+    const Axis1d x = s.x(xf, 0, false), y = s.y(yf, 0, false);
+    const bool small = !x.count(nearest) || !y.count(nearest);
+    const Picture expected = s.dst;
+    if (!small) expectPixels(f, s.src, expected, x, y, used);
+    ASSERT_EQ(s.call(f.resize, xf, yf, mode), small ? huxStsResizeTooSmall : huxStsOk);
+    ASSERT_TRUE(same(s.dst, expected));
 
-        const double xs = between(rng, -300, 900) / 100.0, ys = between(rng, -300, 900) / 100.0;
-        const Axis1d xb = s.x(xf, xs, true), yb = s.y(yf, ys, true);
-        expectPixels(f, s.src, expected, s.srcSize, xb, yb, used);
-        ASSERT_EQ(f.shift(s.srcArgument, s.srcSize, s.srcStep, s.roi, s.dstArgument, s.dst.step(), s.dstSize, xf, yf,
-                          xs, ys, mode),
-                  huxStsOk);
-        ASSERT_TRUE(same(s.dst, expected)) << "by steps";
-      }
+    const double xs = between(rng, -300, 900) / 100.0, ys = between(rng, -300, 900) / 100.0;
+    expectPixels(f, s.src, expected, s.x(xf, xs, true), s.y(yf, ys, true), used);
+    ASSERT_EQ(s.call(f.shift, xf, yf, xs, ys, mode), huxStsOk);
+    ASSERT_TRUE(same(s.dst, expected)) << "by steps";
+  });
 }
 
 // The part of the destination, and the part of the source, that a resize about a point has.
@@ -186,43 +157,34 @@ Part partOf(double origin, double extent, double dst, double factor, double cent
 }
 
 TEST(Resize, AboutAPointItIsAResizeOfThePartThatIsSeen) {
-  Rng rng(2);
   int seen = 0;
-  for (const ResizeForm& f : forms())
-    for (int mode : kModes)
-      for (int n = 0; n < 30; ++n) {
-        Scene s = anyScene(rng, f, n);
-        SCOPED_TRACE(f.name + " mode " + std::to_string(mode) + " case " + std::to_string(n));
-        const double xf = anyFactor(rng), yf = anyFactor(rng);
-        const double xc = between(rng, -100, 100 * s.srcSize.width) / 100.0;
-        const double yc = between(rng, -100, 100 * s.srcSize.height) / 100.0;
-        Axis1d x = s.x(xf, 0, false), y = s.y(yf, 0, false);
-        const Part px = partOf(double(x.origin), double(x.extent), s.dstSize.width, xf, xc);
-        const Part py = partOf(double(y.origin), double(y.extent), s.dstSize.height, yf, yc);
-        const auto axis = [](Axis1d& a, const Part& p) {
-          a.origin = long(p.src), a.most = long(p.dstCount), a.shift = p.shift;
-          a.extent = std::min(long(std::min(p.srcCount, 1e9)), a.image - a.origin);
-        };
-        axis(x, px), axis(y, py);
-        const int used = modeFor(s.srcSize, mode);
-        const bool nearest = used == huxiInterNearest;
-        HuxStatus status = huxStsOk;
-        if (px.src < 0 || py.src < 0 || px.srcCount < 1 || py.srcCount < 1)
-          status = huxStsBadSize;
-        else if (px.src >= s.srcSize.width || py.src >= s.srcSize.height)
-          status = huxStsNoOverlapWarn;
-        else if (px.dstCount < 1 || py.dstCount < 1)
-          status = huxStsBadSize;
-        else if (!x.count(nearest) || !y.count(nearest))
-          status = huxStsResizeTooSmall;
-        Image expected = s.dst;
-        if (status == huxStsOk)
-          ++seen, expectPixels(f, s.src, expected, s.srcSize, x, y, used, long(px.dst), long(py.dst));
-        ASSERT_EQ(f.center(s.srcArgument, s.srcSize, s.srcStep, s.roi, s.dstArgument, s.dst.step(), s.dstSize, xf, yf,
-                           xc, yc, mode),
-                  status);
-        ASSERT_TRUE(same(s.dst, expected));
-      }
+  forScenes(2, 30, [&](Rng& rng, const ResizeForm& f, const Scene& s, int mode, int used) {
+    const HuxiSize size = s.src.size();
+    const double xf = anyFactor(rng), yf = anyFactor(rng);
+    const double xc = between(rng, -100, 100 * size.width) / 100.0, yc = between(rng, -100, 100 * size.height) / 100.0;
+    Axis1d x = s.x(xf, 0, false), y = s.y(yf, 0, false);
+    const Part px = partOf(double(x.origin), double(x.extent), s.dst.size().width, xf, xc);
+    const Part py = partOf(double(y.origin), double(y.extent), s.dst.size().height, yf, yc);
+    const auto axis = [](Axis1d& a, const Part& p) {
+      a.origin = long(p.src), a.most = long(p.dstCount), a.shift = p.shift;
+      a.extent = std::min(long(std::min(p.srcCount, 1e9)), a.image - a.origin);
+    };
+    axis(x, px), axis(y, py);
+    const bool nearest = used == huxiInterNearest;
+    HuxStatus status = huxStsOk;
+    if (px.src < 0 || py.src < 0 || px.srcCount < 1 || py.srcCount < 1)
+      status = huxStsBadSize;
+    else if (px.src >= size.width || py.src >= size.height)
+      status = huxStsNoOverlapWarn;
+    else if (px.dstCount < 1 || py.dstCount < 1)
+      status = huxStsBadSize;
+    else if (!x.count(nearest) || !y.count(nearest))
+      status = huxStsResizeTooSmall;
+    const Picture expected = s.dst;
+    if (status == huxStsOk) ++seen, expectPixels(f, s.src, expected, x, y, used, long(px.dst), long(py.dst));
+    ASSERT_EQ(s.call(f.center, xf, yf, xc, yc, mode), status);
+    ASSERT_TRUE(same(s.dst, expected));
+  });
   EXPECT_GT(seen, 500);
 }
 
@@ -241,70 +203,56 @@ TEST(Resize, SupersamplingIsTheMeanByArea) {
   constexpr double factors[] = {1, 0.5, 0.25, 1.0 / 3, 0.1, 0.3, 0.6, 0.77, 0.9, 0.999};
   for (const ResizeForm& f : forms())
     for (int n = 0; n < 60; ++n) {
-      Scene s = anyScene(rng, f, n);
+      const Scene s(rng, f, n);
       SCOPED_TRACE(f.name + " case " + std::to_string(n));
       const double xf = factors[rng() % 10], yf = n % 3 ? factors[rng() % 10] : xf;
       const Axis1d x = s.x(xf, 0, false), y = s.y(yf, 0, false);
       const long width = x.count(true), height = y.count(true);
-      const Image before = s.dst;
-      ASSERT_EQ(f.resize(s.srcArgument, s.srcSize, s.srcStep, s.roi, s.dstArgument, s.dst.step(), s.dstSize, xf, yf,
-                         huxiInterSuper),
-                width && height ? huxStsOk : huxStsResizeTooSmall);
+      const Picture before = s.dst;
+      ASSERT_EQ(s.call(f.resize, xf, yf, huxiInterSuper), width && height ? huxStsOk : huxStsResizeTooSmall);
       for (long j = 0; j < height && width; ++j)
         for (long i = 0; i < width; ++i)
-          for (int c = 0; c < channelsOf(f); ++c) {
+          for (int c = 0; c < f.channels(); ++c) {
             const auto cx = coverage(1 / xf, i, x.image - x.origin), cy = coverage(1 / yf, j, y.image - y.origin);
             double sum = 0, largest = 0;
             for (std::size_t v = 0; v < cy.size(); ++v)
               for (std::size_t u = 0; u < cx.size(); ++u)
                 if (cx[u] > 0 && cy[v] > 0) {
-                  const std::byte* at = channelAt(s.src, f, x.origin + long(u), y.origin + long(v), c);
-                  const double p = f.elementBytes == 1   ? load<Hux8u>(at)
-                                   : f.elementBytes == 2 ? load<Hux16u>(at)
-                                                         : double(load<Hux32f>(at));
+                  const double p = s.src.get(x.origin + long(u), y.origin + long(v), c);
                   sum += p * cx[u] * cy[v], largest = std::max(largest, std::fabs(p));
                 }
-            std::byte* at = channelAt(s.dst, f, i, j, c);
-            const double mean = sum * xf * yf;
             const bool whole = 1 / xf == std::floor(1 / xf) && 1 / yf == std::floor(1 / yf);
-            if (f.elementBytes == 4)
-              ASSERT_NEAR(load<Hux32f>(at), mean, largest * 1e-5);
-            else if (whole)
-              ASSERT_EQ(f.elementBytes == 1 ? load<Hux8u>(at) : load<Hux16u>(at), long(sum * (xf * yf) + 0.5));
+            if (f.elementBytes < 4 && whole)
+              ASSERT_EQ(s.dst.get(i, j, c), double(long(sum * (xf * yf) + 0.5)));
             else
-              ASSERT_NEAR(f.elementBytes == 1 ? load<Hux8u>(at) : load<Hux16u>(at), mean, 0.5 + largest * 1e-5);
-            std::memcpy(at, channelAt(before, f, i, j, c), std::size_t(f.elementBytes));
+              ASSERT_NEAR(s.dst.get(i, j, c), sum * xf * yf, (f.elementBytes < 4 ? 0.5 : 0) + largest * 1e-5);
+            s.dst.set(i, j, c, before.get(i, j, c));
           }
       ASSERT_TRUE(same(s.dst, before)) << "outside the result";
     }
 }
 
-// Nothing is left behind and nothing breaks when memory runs out.
+// Nothing is left behind when memory runs out.
 TEST(Resize, SupersamplingTellsOfNoMemory) {
   Rng rng(4);
-  const int blocks = liveBlocks();
   for (const ResizeForm& f : forms()) {
-    Scene s(rng, f, {30, 20}, {10, 10});
-    walkAllocationFailures(
-        [&] {
-          return f.resize(s.srcArgument, s.srcSize, s.srcStep, {0, 0, 30, 20}, s.dstArgument, s.dst.step(), s.dstSize,
-                          0.3, 0.5, huxiInterSuper);
-        },
-        [](HuxStatus status) { EXPECT_EQ(status, huxStsNoMem); });
+    Scene s(rng, f, HuxiSize{30, 20}, HuxiSize{10, 10});
+    s.roi = {0, 0, 30, 20};
+    failuresOf([&] { return s.call(f.resize, 0.3, 0.5, huxiInterSuper); });
   }
-  EXPECT_EQ(liveBlocks(), blocks);
 }
 
 TEST(Resize, NegativeSourceStepsWalkUp) {
   Rng rng(5);
-  const ResizeForm f = forms()[0];
-  Scene s(rng, f, {20, 12}, {40, 30}), up(rng, f, {20, 12}, {40, 30});
-  for (int y = 0; y < 12; ++y) std::memcpy(up.src.bytes(0, y), s.src.bytes(0, 11 - y), 20);
-  for (int mode : kModes) {
-    f.resize(s.src.bytes(), s.srcSize, s.srcStep, {0, 0, 20, 12}, s.dst.bytes(), s.dst.step(), s.dstSize, 2, 2.2, mode);
-    f.resize(up.src.bytes(0, 11), s.srcSize, -up.srcStep, {0, 0, 20, 12}, up.dst.bytes(), up.dst.step(), s.dstSize, 2,
-             2.2, mode);
-    for (int y = 0; y < 26; ++y) ASSERT_EQ(std::memcmp(s.dst.bytes(0, y), up.dst.bytes(0, y), 40), 0) << y;
+  const Image src(rng, 20, 12, 1), up(rng, 20, 12, 1), dst(rng, 40, 30, 1), expected = dst;
+  for (int y = 0; y < 12; ++y) std::memcpy(up.bytes(0, y), src.bytes(0, 11 - y), 20);
+  const auto last = reinterpret_cast<const Hux8u*>(up.bytes(0, 11));
+  for (int mode : kResizeModes) {
+    huxiResize_8u_C1R(src.data<Hux8u>(), {20, 12}, src.step(), {0, 0, 20, 12}, expected.data<Hux8u>(), dst.step(),
+                      {40, 30}, 2, 2.2, mode);
+    huxiResize_8u_C1R(last, {20, 12}, -up.step(), {0, 0, 20, 12}, dst.data<Hux8u>(), dst.step(), {40, 30}, 2, 2.2,
+                      mode);
+    ASSERT_TRUE(same(dst, expected));
   }
 }
 
@@ -312,54 +260,32 @@ TEST(Resize, ChecksComeInOrder) {
   Rng rng(6);
   for (const ResizeForm& f : forms()) {
     SCOPED_TRACE(f.name);
-    Scene s(rng, f, {20, 12}, {9, 9});
-    s.roi = {2, 3, 10, 5};
-    const void* src = s.srcArgument;
-    void* dst = s.dstArgument;
+    Picture from(rng, f, {20, 12}), to(rng, f, {9, 9});
+    HuxiSize srcSize = from.size(), dstSize = to.size();
+    HuxiRect roi = {2, 3, 10, 5};
+    const void* src = from.argument();
+    void* dst = to.argument();
     double xf = 0.5, yf = 0.5;
     int mode = huxiInterLinear;
-    const auto common = [&](CheckOrder order) {
-      order.breaks(huxStsBadSize, s.srcSize.width, 0)
-          .breaks(huxStsBadSize, s.srcSize.height, -1)
-          .breaks(huxStsBadSize, s.roi.x, -1)
-          .breaks(huxStsBadSize, s.roi.y, -1)
-          .breaks(huxStsBadSize, s.roi.width, 0)
-          .breaks(huxStsBadSize, s.roi.height, 0)
-          .breaks(huxStsNoOverlapWarn, s.roi.x, 20)
-          .breaks(huxStsNoOverlapWarn, s.roi.y, 12)
-          .breaks(huxStsBadSize, s.dstSize.width, 0)
-          .breaks(huxStsBadSize, s.dstSize.height, 0)
-          .breaks(huxStsBadResizeFactor, xf, 0)
-          .breaks(huxStsBadResizeFactor, yf, std::nan(""));
-      return order;
+    const auto call = [&](auto* fn, auto... point) {
+      return [&, fn, point...] {
+        return fn(src, srcSize, from.step(), roi, dst, to.step(), dstSize, xf, yf, point..., mode);
+      };
     };
-    const auto byFactors = [&] {
-      return f.resize(src, s.srcSize, s.srcStep, s.roi, dst, s.dst.step(), s.dstSize, xf, yf, mode);
+    const auto byFactors = call(f.resize);
+    const auto bySteps = call(f.shift, 0, 0), aboutAPoint = call(f.center, 6, 5);
+    // About a point, an interleaved source is looked at behind the factors.
+    const auto run = [&](auto fn, bool sourceLast) {
+      CheckOrder order(fn);
+      order.nulls(dst);
+      if (!sourceLast) order.nulls(src);
+      if (f.planes > 1) order.nulls(from.plane(f.planes - 1), to.plane(f.planes - 1));
+      order.sizes(srcSize).sizes(roi).breaks(huxStsNoOverlapWarn, roi.x, 20).breaks(huxStsNoOverlapWarn, roi.y, 12);
+      order.sizes(dstSize).breaks(huxStsBadResizeFactor, xf, 0).breaks(huxStsBadResizeFactor, yf, std::nan(""));
+      if (sourceLast) order.nulls(src);
+      order.breaks(huxStsBadInterpolation, mode, 3).breaks(huxStsBadInterpolation, mode, 32).run(to.memory);
     };
-    const auto bySteps = [&] {
-      return f.shift(src, s.srcSize, s.srcStep, s.roi, dst, s.dst.step(), s.dstSize, xf, yf, 0, 0, mode);
-    };
-    const auto aboutAPoint = [&] {
-      return f.center(src, s.srcSize, s.srcStep, s.roi, dst, s.dst.step(), s.dstSize, xf, yf, 6, 5, mode);
-    };
-    const auto planes = [&](CheckOrder& order, bool both) {
-      order.breaks(huxStsNullPtr, dst, nullptr);
-      if (both) order.breaks(huxStsNullPtr, src, nullptr);
-      if (f.planes > 1) {
-        order.breaks(huxStsNullPtr, s.srcPlanes[f.planes - 1], nullptr);
-        order.breaks(huxStsNullPtr, s.dstPlanes[f.planes - 1], nullptr);
-      }
-    };
-    CheckOrder factors(byFactors), steps(bySteps), centre(aboutAPoint);
-    planes(factors, true), planes(steps, true), planes(centre, f.planes > 1);
-    const auto run = [&](CheckOrder order, bool last) {
-      order = common(order);
-      if (last) order.breaks(huxStsNullPtr, src, nullptr);
-      order.breaks(huxStsBadInterpolation, mode, 3).breaks(huxStsBadInterpolation, mode, 32);
-      s.dstSize = {9, 9}, mode = huxiInterLinear;
-      order.run(s.dst);
-    };
-    run(factors, false), run(steps, false), run(centre, f.planes == 1);
+    run(byFactors, false), run(bySteps, false), run(aboutAPoint, f.planes == 1);
     mode = huxiInterSuper;
     EXPECT_EQ(bySteps(), huxStsBadInterpolation);
     xf = 1.01;

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <vector>
 
-#include "support/failing_malloc.h"
 #include "support/image.h"
 
 namespace hux::test {
@@ -95,13 +94,6 @@ TEST(Spans, NeverLeaveTheBox) {
     for (Index y = spans.first; y <= spans.last; ++y)
       ASSERT_TRUE(spans[y].left > spans[y].right || (spans[y].left >= 3 && spans[y].right <= 52));
   }
-}
-
-TEST(Spans, GiveNoneWithoutMemory) {
-  Spans spans;
-  failAllocation(0);
-  EXPECT_FALSE(ownvi_ClipQuad({{{0, 0}, {9, 0}, {9, 9}, {0, 9}}}, cornersOf({0, 0, 5, 5}), 1, spans));
-  stopFailing();
 }
 
 // The edges of the clipped polygon in order, the closing one last: each point on a slanted edge rewrites its outside

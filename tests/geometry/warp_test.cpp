@@ -13,33 +13,33 @@ namespace hux::test {
 namespace {
 
 using V = const void*;
-using MapFn = HuxStatus (*)(V, HuxiSize, int, HuxiRect, V, int, HuxiRect, V, HuxiInterpolation);
-using QuadFn = HuxStatus (*)(V, HuxiSize, int, HuxiRect, V, V, int, HuxiRect, V, HuxiInterpolation);
-using RotateFn = HuxStatus (*)(V, HuxiSize, int, HuxiRect, V, int, HuxiRect, Hux64f, Hux64f, Hux64f, HuxiInterpolation);
-using ShearFn = HuxStatus (*)(V, HuxiSize, int, HuxiRect, V, int, HuxiRect, Hux64f, Hux64f, Hux64f, Hux64f,
-                              HuxiInterpolation);
+using MapFn = HuxStatus(V, HuxiSize, int, HuxiRect, V, int, HuxiRect, V, HuxiInterpolation);
+using QuadFn = HuxStatus(V, HuxiSize, int, HuxiRect, V, V, int, HuxiRect, V, HuxiInterpolation);
+using RotateFn = HuxStatus(V, HuxiSize, int, HuxiRect, V, int, HuxiRect, Hux64f, Hux64f, Hux64f, HuxiInterpolation);
+using ShearFn = HuxStatus(V, HuxiSize, int, HuxiRect, V, int, HuxiRect, Hux64f, Hux64f, Hux64f, Hux64f,
+                          HuxiInterpolation);
 
 enum Kind { affine, bilinear, perspective };
 constexpr Kind kKinds[] = {affine, bilinear, perspective};
 struct Member : Format {
-  MapFn forward[3], back[3];
-  QuadFn quads[3];
-  RotateFn rotate, rotateCenter;
-  ShearFn shear;
+  MapFn *forward[3], *back[3];
+  QuadFn* quads[3];
+  RotateFn *rotate, *rotateCenter;
+  ShearFn* shear;
 };
-#define THREE(suffix, t, l)                                                                           \
-  {                                                                                                   \
-    untyped<huxiWarpAffine##suffix##_##t##_##l##R>, untyped<huxiWarpBilinear##suffix##_##t##_##l##R>, \
-        untyped<huxiWarpPerspective##suffix##_##t##_##l##R>                                           \
+#define THREE(Fn, suffix, t, l)                                                                     \
+  {                                                                                                 \
+    as<Fn, huxiWarpAffine##suffix##_##t##_##l##R>, as<Fn, huxiWarpBilinear##suffix##_##t##_##l##R>, \
+        as<Fn, huxiWarpPerspective##suffix##_##t##_##l##R>                                          \
   }
-#define MEMBER(t, l)                             \
-  Member{HUX_FORMAT(t, l),                       \
-         THREE(, t, l),                          \
-         THREE(Back, t, l),                      \
-         THREE(Quad, t, l),                      \
-         untyped<huxiRotate_##t##_##l##R>,       \
-         untyped<huxiRotateCenter_##t##_##l##R>, \
-         untyped<huxiShear_##t##_##l##R>},
+#define MEMBER(t, l)                                  \
+  Member{HUX_FORMAT(t, l),                            \
+         THREE(MapFn, , t, l),                        \
+         THREE(MapFn, Back, t, l),                    \
+         THREE(QuadFn, Quad, t, l),                   \
+         as<RotateFn, huxiRotate_##t##_##l##R>,       \
+         as<RotateFn, huxiRotateCenter_##t##_##l##R>, \
+         as<ShearFn, huxiShear_##t##_##l##R>},
 std::vector<Member> members() {
   return { HUX_STAMP(MEMBER, (8u, 16u, 32f), (C1, C3, AC4, C4, P3, P4)) };
 }
@@ -52,12 +52,16 @@ struct Scene {
   bool wide;
 
   Scene(Rng& rng, const Format& f, HuxiInterpolation mode, int turn)
-      : src(rng, f, between(rng, 2, 30), between(rng, 2, 20), Place(turn % 3)),
-        dst(rng, f, turn % 4 ? between(rng, 1, 30) : between(rng, 130, 300), between(rng, 1, turn % 4 ? 20 : 4)),
+      : src(rng, f, {between(rng, 2, 30), between(rng, 2, 20)}, Place(turn % 3)),
+        dst(rng, f, {turn % 4 ? between(rng, 1, 30) : between(rng, 130, 300), between(rng, 1, turn % 4 ? 20 : 4)}),
         srcRoi(part(rng, src.size(), 2)),
         dstRoi(part(rng, dst.size(), 1)),
         mode(mode),
-        wide(turn % 4 == 0) {}
+        wide(turn % 4 == 0) {
+    // Nothing can be written behind a region that ends with the image.
+    dstRoi.width = std::min(dstRoi.width, dst.size().width - dstRoi.x);
+    dstRoi.height = std::min(dstRoi.height, dst.size().height - dstRoi.y);
+  }
 
   static HuxiRect part(Rng& rng, HuxiSize size, int least) {
     const int x = between(rng, 0, size.width - least), y = between(rng, 0, size.height - least);
@@ -66,11 +70,6 @@ struct Scene {
   Box source() const {
     return {Hux64f(srcRoi.x), Hux64f(srcRoi.y), Hux64f(std::min(srcRoi.x + srcRoi.width, src.size().width) - 1),
             Hux64f(std::min(srcRoi.y + srcRoi.height, src.size().height) - 1)};
-  }
-  // The destination region, which ends with the image so that nothing can be written behind it.
-  void endWithImage() {
-    dstRoi.width = std::min(dstRoi.width, dst.size().width - dstRoi.x);
-    dstRoi.height = std::min(dstRoi.height, dst.size().height - dstRoi.y);
   }
   Box destination() const { return cornersOf(dstRoi); }
 };
@@ -101,7 +100,7 @@ PerspectiveCoeffs perspectiveMap(Rng& rng, const Scene& s) {
 using Visit = std::function<void(Index x, Index y, Point position)>;
 using Rows = std::function<Span(Index)>;
 
-void alongAffine(const AffineCoeffs& c, Index first, Index last, Rows span, Visit visit) {
+void along(const AffineCoeffs& c, Index first, Index last, Rows span, Visit visit) {
   Hux64f rx = c.c01 * Hux64f(first) + c.c02, ry = Hux64f(first) * c.c11 + c.c12;
   for (Index k = first; k <= last; ++k, rx += c.c01, ry += c.c11) {
     const Span s = span(k);
@@ -109,7 +108,7 @@ void alongAffine(const AffineCoeffs& c, Index first, Index last, Rows span, Visi
     for (Index i = s.left; i <= s.right; ++i, x += c.c00, y += c.c10) visit(i, k, {x, y});
   }
 }
-void alongPerspective(const PerspectiveCoeffs& c, Index first, Index last, Rows span, Visit visit) {
+void along(const PerspectiveCoeffs& c, Index first, Index last, Rows span, Visit visit) {
   Hux64f rx = c.c01 * Hux64f(first) + c.c02, ry = c.c11 * Hux64f(first) + c.c12, rd = c.c21 * Hux64f(first) + c.c22;
   for (Index k = first; k <= last; ++k, rx += c.c01, ry += c.c11, rd += c.c21) {
     const Span s = span(k);
@@ -120,7 +119,7 @@ void alongPerspective(const PerspectiveCoeffs& c, Index first, Index last, Rows 
     }
   }
 }
-void alongBilinear(const BilinearCoeffs& c, Index first, Index last, Rows span, Visit visit) {
+void along(const BilinearCoeffs& c, Index first, Index last, Rows span, Visit visit) {
   Hux64f sx = c.c00 * Hux64f(first) + c.c01, sy = c.c10 * Hux64f(first) + c.c11;
   Hux64f rx = c.c02 * Hux64f(first) + c.c03, ry = c.c12 * Hux64f(first) + c.c13;
   for (Index k = first; k <= last; ++k, sx += c.c00, sy += c.c10, rx += c.c02, ry += c.c12) {
@@ -129,23 +128,45 @@ void alongBilinear(const BilinearCoeffs& c, Index first, Index last, Rows span, 
     for (Index i = s.left; i <= s.right; ++i, x += sx, y += sy) visit(i, k, {x, y});
   }
 }
-// A picture that a call is expected to write, pixel by pixel.
+// The pixels that a call is expected to write; of those whose positions leave a box, none.
 struct Expected {
   const Scene& s;
   const Format& f;
   Picture picture;
-  Box box = {-1e300, -1e300, 1e300, 1e300};
+  Box box;
 
-  Expected(const Scene& s, const Format& f) : s(s), f(f), picture(s.dst) {}
+  Expected(const Scene& s, const Format& f, Box box) : s(s), f(f), picture(s.dst), box(box) {}
   Visit visit() {
     return [this](Index x, Index y, Point p) {
       if (box.holds(p)) setSampled(picture, int(x), int(y), s.src, f, s.mode, p.x, p.y);
     };
   }
 };
+constexpr Box kEverywhere = {-1e300, -1e300, 1e300, 1e300};
 
-Rows rowsOf(const Spans& spans) {
-  return [&](Index k) { return spans[k]; };
+// A call on the pixels of a quadrangle that lie in the destination, looked up by an inverse map.
+template <class Coeffs, class Call>
+void expectInside(const Quad& quad, const Coeffs& inverse, Scene& s, const Format& f, Call call, Box box = kEverywhere,
+                  HuxStatus status = huxStsOk) {
+  Expected expected(s, f, box);
+  Spans spans;
+  const bool any = ownvi_ClipQuad(quad, s.destination(), ownvi_CheckQuad(quad), spans);
+  if (any)
+    along(
+        inverse, spans.first, spans.last, [&](Index k) { return spans[k]; }, expected.visit());
+  ASSERT_EQ(call(), any ? status : huxStsQuadOutsideWarn);
+  ASSERT_TRUE(same(s.dst, expected.picture));
+}
+// A call that looks up all pixels of the destination, and keeps what comes from within the source.
+template <class Coeffs, class Call>
+void expectLookedUp(const Coeffs& c, Scene& s, const Format& f, Call call, HuxStatus status = huxStsOk) {
+  Expected expected(s, f, s.source());
+  const Span row = {s.dstRoi.x, s.dstRoi.x + s.dstRoi.width - 1};
+  if (status == huxStsOk)
+    along(
+        c, s.dstRoi.y, s.dstRoi.y + s.dstRoi.height - 1, [&](Index) { return row; }, expected.visit());
+  ASSERT_EQ(call(), status);
+  ASSERT_TRUE(same(s.dst, expected.picture));
 }
 
 const Hux64f* numbers(const AffineCoeffs& c) { return &c.c00; }
@@ -161,16 +182,18 @@ void forScenes(int seed, int turns, Body body) {
       for (int turn = 0; turn < turns; ++turn) {
         SCOPED_TRACE(f.name + " mode " + std::to_string(mode) + " turn " + std::to_string(turn));
         Scene s(rng, f, mode, turn);
-        s.endWithImage();
         body(rng, f, s);
         if (testing::Test::HasFatalFailure()) return;
       }
 }
 
-HuxStatus call(MapFn fn, Scene& s, const Hux64f* coeffs, int flag = 0) {
-  return fn(s.src.argument(), s.src.size(), s.src.step(), s.srcRoi, s.dst.argument(), s.dst.step(), s.dstRoi, coeffs,
-            s.mode | flag);
+// The functions from source to destination, with what they take between their regions and the interpolation.
+template <class Fn, class... A>
+HuxStatus with(Scene& s, int flag, Fn* fn, A... parameters) {
+  return fn(s.src.argument(), s.src.size(), s.src.step(), s.srcRoi, s.dst.argument(), s.dst.step(), s.dstRoi,
+            parameters..., s.mode | flag);
 }
+HuxStatus call(MapFn fn, Scene& s, const Hux64f* coeffs, int flag = 0) { return with(s, flag, fn, coeffs); }
 HuxStatus call(QuadFn fn, Scene& s, const Quad& srcQuad, const Quad& dstQuad, int flag = 0) {
   return fn(s.src.argument(), s.src.size(), s.src.step(), s.srcRoi, numbers(srcQuad), s.dst.argument(), s.dst.step(),
             s.dstRoi, numbers(dstQuad), s.mode | flag);
@@ -188,13 +211,7 @@ TEST(WarpAffine, ForwardSamplesByTheInverseOfTheQuadrangle) {
   forScenes(1, 16, [](Rng& rng, const Member& f, Scene& s) {
     const AffineCoeffs c = affineMap(rng, s);
     const Quad quad = ownvi_WarpRect(c, s.source());
-    const int orientation = ownvi_CheckQuad(quad);
-    Expected expected(s, f);
-    Spans spans;
-    const bool any = ownvi_ClipQuad(quad, s.destination(), orientation, spans);
-    if (any) alongAffine(affineInverse(quad, s.source()), spans.first, spans.last, rowsOf(spans), expected.visit());
-    ASSERT_EQ(call(f.forward[affine], s, numbers(c)), any ? huxStsOk : huxStsQuadOutsideWarn);
-    ASSERT_TRUE(same(s.dst.memory, expected.picture.memory));
+    expectInside(quad, affineInverse(quad, s.source()), s, f, [&] { return call(f.forward[affine], s, numbers(c)); });
   });
 }
 
@@ -206,13 +223,8 @@ TEST(WarpAffine, BackSamplesByTheCoefficientsAndNeverSmooths) {
     const Hux64f D = c.c00 * c.c11 - c.c01 * c.c10;
     const AffineCoeffs forward = {c.c11 / D,  -c.c01 / D, (c.c01 * c.c12 - c.c11 * c.c02) / D,
                                   -c.c10 / D, c.c00 / D,  (c.c10 * c.c02 - c.c00 * c.c12) / D};
-    const Quad quad = ownvi_WarpRect(forward, s.source());
-    Expected expected(s, f);
-    Spans spans;
-    const bool any = ownvi_ClipQuad(quad, s.destination(), ownvi_CheckQuad(quad), spans);
-    if (any) alongAffine(c, spans.first, spans.last, rowsOf(spans), expected.visit());
-    ASSERT_EQ(call(f.back[affine], s, numbers(c), huxiInterSmoothEdge), any ? huxStsOk : huxStsQuadOutsideWarn);
-    ASSERT_TRUE(same(s.dst.memory, expected.picture.memory));
+    expectInside(ownvi_WarpRect(forward, s.source()), c, s, f,
+                 [&] { return call(f.back[affine], s, numbers(c), huxiInterSmoothEdge); });
   });
 }
 
@@ -231,7 +243,7 @@ TEST(WarpAffine, TheIdentityCopiesInEveryFormAndMode) {
     const auto expectCopy = [&](const char* form, HuxStatus status) {
       // A vertex at 0 may come out next to it, which by the rule for nearly equal products is not equal.
       EXPECT_TRUE(status == huxStsOk || status == huxStsQuadNotAffineWarn) << form;
-      EXPECT_TRUE(same(s.dst.memory, expected.memory)) << form;
+      EXPECT_TRUE(same(s.dst, expected)) << form;
       s.dst = before;
     };
     const AffineCoeffs a = {1, 0, 0, 0, 1, 0};
@@ -245,26 +257,17 @@ TEST(WarpAffine, TheIdentityCopiesInEveryFormAndMode) {
       expectCopy("back", call(f.back[k], s, coeffs[k]));
       expectCopy("quads", call(f.quads[k], s, quad, quad));
     }
-    expectCopy("rotate", f.rotate(s.src.argument(), s.src.size(), s.src.step(), s.srcRoi, s.dst.argument(),
-                                  s.dst.step(), s.dstRoi, 720, 0, 0, s.mode));
-    expectCopy("shear", f.shear(s.src.argument(), s.src.size(), s.src.step(), s.srcRoi, s.dst.argument(), s.dst.step(),
-                                s.dstRoi, 0, 0, 0, 0, s.mode));
+    expectCopy("rotate", with(s, 0, f.rotate, 720, 0, 0));
+    expectCopy("shear", with(s, 0, f.shear, 0, 0, 0, 0));
   });
 }
 
-TEST(WarpPerspective, ForwardAndBackSampleByTheInverse) {
+TEST(WarpPerspective, ForwardSamplesByTheInverse) {
   forScenes(4, 12, [](Rng& rng, const Member& f, Scene& s) {
     const PerspectiveCoeffs c = perspectiveMap(rng, s);
     const Quad quad = ownvi_WarpRect(c, s.source());
-    const int orientation = ownvi_CheckQuad(quad);
-    if (orientation < 0) return;
-    Expected expected(s, f);
-    Spans spans;
-    const bool any = ownvi_ClipQuad(quad, s.destination(), orientation, spans);
-    const PerspectiveCoeffs inverse = adjugate(c);
-    if (any) alongPerspective(inverse, spans.first, spans.last, rowsOf(spans), expected.visit());
-    ASSERT_EQ(call(f.forward[perspective], s, numbers(c)), any ? huxStsOk : huxStsQuadOutsideWarn);
-    ASSERT_TRUE(same(s.dst.memory, expected.picture.memory));
+    if (ownvi_CheckQuad(quad) < 0) return;
+    expectInside(quad, adjugate(c), s, f, [&] { return call(f.forward[perspective], s, numbers(c)); });
   });
 }
 
@@ -274,15 +277,8 @@ TEST(WarpPerspective, BehindTheHorizonPixelsInsideTheRegionAreLookedUp) {
     const PerspectiveCoeffs c = {1, 0, real(rng, -2, 2), 0, 1, 0, between(rng, 0, 1) ? -0.25 : real(rng, -0.3, -0.1),
                                  0, 1};
     if (ownvi_CheckQuad(ownvi_WarpRect(adjugate(c), s.source())) >= 0) return;
-    const Quad seen = ownvi_WarpRect(c, s.destination());
-    if (!ownvi_GetQuadrangleBound(seen).meets(s.source())) return;
-    Expected expected(s, f);
-    expected.box = s.source();
-    const Span row = {s.dstRoi.x, s.dstRoi.x + s.dstRoi.width - 1};
-    alongPerspective(
-        c, s.dstRoi.y, s.dstRoi.y + s.dstRoi.height - 1, [&](Index) { return row; }, expected.visit());
-    ASSERT_EQ(call(f.back[perspective], s, numbers(c)), huxStsOk);
-    ASSERT_TRUE(same(s.dst.memory, expected.picture.memory));
+    if (!ownvi_GetQuadrangleBound(ownvi_WarpRect(c, s.destination())).meets(s.source())) return;
+    expectLookedUp(c, s, f, [&] { return call(f.back[perspective], s, numbers(c)); });
   });
 }
 
@@ -294,14 +290,8 @@ TEST(WarpBilinear, BackLooksUpWhatLiesInTheSourceRegion) {
     const HuxStatus status = ownvi_CheckQuad(seen) < 0                          ? huxStsBadQuad
                              : ownvi_GetQuadrangleBound(seen).meets(s.source()) ? huxStsOk
                                                                                 : huxStsQuadOutsideWarn;
-    Expected expected(s, f);
-    expected.box = s.source();
-    const Span row = {s.dstRoi.x, s.dstRoi.x + s.dstRoi.width - 1};
-    if (status == huxStsOk)
-      alongBilinear(
-          c, s.dstRoi.y, s.dstRoi.y + s.dstRoi.height - 1, [&](Index) { return row; }, expected.visit());
-    ASSERT_EQ(call(f.back[bilinear], s, numbers(c)), status);
-    ASSERT_TRUE(same(s.dst.memory, expected.picture.memory));
+    expectLookedUp(
+        c, s, f, [&] { return call(f.back[bilinear], s, numbers(c)); }, status);
   });
 }
 
@@ -313,8 +303,7 @@ struct Located {
 template <class Call>
 Located located(Scene& s, Call call) {
   const auto one = [&](bool column) {
-    for (int y = 0; y < s.src.size().height; ++y)
-      for (int x = 0; x < s.src.size().width; ++x) s.src.set(x, y, 0, column ? x : y);
+    forPixels(s.src.size(), [&](int x, int y) { s.src.set(x, y, 0, column ? x : y); });
     for (int y = 0; y < s.dst.size().height; ++y)
       for (int x = 0; x < s.dst.size().width; ++x) s.dst.set(x, y, 0, -1);
     call();
@@ -357,10 +346,17 @@ void expectPositions(const Scene& s, const Located& found, const Quad& dstQuad, 
       }
     }
 }
-Scene locatingScene(Rng& rng, const Format& f, int turn) {
-  Scene s(rng, f, huxiInterLinear, turn);
-  s.endWithImage();
-  return s;
+// Calls body(rng, scene) on images of 32f_C1.
+template <class Body>
+void forLocated(int seed, int turns, Body body) {
+  Rng rng(seed);
+  const Member f = members()[12];
+  for (int turn = 0; turn < turns; ++turn) {
+    SCOPED_TRACE(turn);
+    Scene s(rng, f, huxiInterLinear, turn);
+    body(rng, f, s, turn);
+    if (testing::Test::HasFatalFailure()) return;
+  }
 }
 // A convex quadrangle about a rectangle, or that rectangle.
 Quad quadAround(Rng& rng, HuxiSize size, Hux64f share, bool upright) {
@@ -370,11 +366,7 @@ Quad quadAround(Rng& rng, HuxiSize size, Hux64f share, bool upright) {
 }
 
 TEST(Warp, BilinearMapsAreInvertedAndQuadranglesJoined) {
-  Rng rng(7);
-  const Member f = members()[12];  // 32f_C1
-  for (int turn = 0; turn < 400; ++turn) {
-    SCOPED_TRACE(turn);
-    Scene s = locatingScene(rng, f, turn);
+  forLocated(7, 400, [](Rng& rng, const Member& f, Scene& s, int turn) {
     const BilinearCoeffs c = bilinearMap(rng, s);
     const Quad quad = ownvi_WarpRect(c, s.source());
     if (ownvi_CheckQuad(quad) >= 0) {
@@ -384,7 +376,7 @@ TEST(Warp, BilinearMapsAreInvertedAndQuadranglesJoined) {
     const bool upright = turn % 3 == 0;
     const Quad from = quadAround(rng, s.src.size(), 0.2, upright),
                to = quadAround(rng, s.dst.size(), 0.3, turn % 5 == 0);
-    if (ownvi_CheckQuad(from) < 0 || ownvi_CheckQuad(to) < 0) continue;
+    if (ownvi_CheckQuad(from) < 0 || ownvi_CheckQuad(to) < 0) return;
     const Box unit = {0, 0, 1, 1};
     const auto through = [&](auto first, auto second) {
       return [=](Point p) { return second(inverseOf(first, unit, p)); };
@@ -395,8 +387,7 @@ TEST(Warp, BilinearMapsAreInvertedAndQuadranglesJoined) {
     found = located(s, [&] { call(f.quads[perspective], s, from, to); });
     expectPositions(s, found, to,
                     through(ownvi_GetPerspectiveTransform(unit, to), ownvi_GetPerspectiveTransform(unit, from)));
-    if (testing::Test::HasFatalFailure()) return;
-  }
+  });
 }
 
 TEST(WarpAffine, QuadranglesGiveTheMapByThreeVertices) {
@@ -417,24 +408,16 @@ TEST(WarpAffine, QuadranglesGiveTheMapByThreeVertices) {
       k.c02 = t[2].x - k.c00 * f[2].x - k.c01 * f[2].y, k.c12 = t[2].y - k.c10 * f[2].x - k.c11 * f[2].y;
       return k;
     };
-    Expected expected(s, f);
-    if (!follows) expected.box = {-1e-7, -1e-7, s.src.size().width - 1 + 1e-7, s.src.size().height - 1 + 1e-7};
-    Spans spans;
-    const bool any = ownvi_ClipQuad(to, s.destination(), ownvi_CheckQuad(to), spans);
-    if (any) alongAffine(map(to, from), spans.first, spans.last, rowsOf(spans), expected.visit());
-    ASSERT_EQ(call(f.quads[affine], s, from, to), !any      ? huxStsQuadOutsideWarn
-                                                  : follows ? huxStsOk
-                                                            : huxStsQuadNotAffineWarn);
-    ASSERT_TRUE(same(s.dst.memory, expected.picture.memory));
+    const HuxiSize size = s.src.size();
+    expectInside(
+        to, map(to, from), s, f, [&] { return call(f.quads[affine], s, from, to); },
+        follows ? kEverywhere : Box{-1e-7, -1e-7, size.width - 1 + 1e-7, size.height - 1 + 1e-7},
+        follows ? huxStsOk : huxStsQuadNotAffineWarn);
   });
 }
 
 TEST(WarpAffine, OfAQuadrangleThatLeavesTheRegionTheRestIsWarped) {
-  Rng rng(9);
-  const Member f = members()[12];
-  for (int turn = 0; turn < 200; ++turn) {
-    SCOPED_TRACE(turn);
-    Scene s = locatingScene(rng, f, turn);
+  forLocated(9, 200, [](Rng& rng, const Member& f, Scene& s, int) {
     const AffineCoeffs c = affineMap(rng, s), turned = {0.9, 0.3, -2, -0.2, 1.1, 2};
     const Quad from =
         ownvi_WarpRect(turned, Box{0, 0, Hux64f(s.src.size().width - 1), Hux64f(s.src.size().height - 1)});
@@ -442,8 +425,7 @@ TEST(WarpAffine, OfAQuadrangleThatLeavesTheRegionTheRestIsWarped) {
     for (int k = 0; k < 4; ++k) to[k] = c(from[k]);
     const Located found = located(s, [&] { call(f.quads[affine], s, from, to); });
     expectPositions(s, found, to, [&](Point p) { return inverseOf(c, s.source(), p); });
-    if (testing::Test::HasFatalFailure()) return;
-  }
+  });
 }
 
 // Rotation and shear are affine warps by other names, but for quarter turns.
@@ -455,23 +437,17 @@ TEST(Rotate, AnyAngleAndShearAreAffineWarps) {
     const auto compare = [&](HuxStatus status, const AffineCoeffs& c) {
       Scene again = s;
       again.dst = before;
-      const HuxStatus expected = call(f.forward[affine], again, numbers(c), huxiInterSmoothEdge);
-      ASSERT_EQ(status, expected);
-      ASSERT_TRUE(same(s.dst.memory, again.dst.memory));
+      ASSERT_EQ(status, call(f.forward[affine], again, numbers(c), huxiInterSmoothEdge));
+      ASSERT_TRUE(same(s.dst, again.dst));
       s.dst = before;
     };
-    const HuxiInterpolation mode = s.mode | huxiInterSmoothEdge;
-    const auto arguments = [&](auto fn, auto... parameters) {
-      return fn(s.src.argument(), s.src.size(), s.src.step(), s.srcRoi, s.dst.argument(), s.dst.step(), s.dstRoi,
-                parameters..., mode);
-    };
-    const AffineCoeffs turned = rotation(reducedAngle(angle), x, y);
-    compare(arguments(f.rotate, angle, x, y), turned);
-    compare(arguments(f.shear, 0.3, -0.2, x, y), {1, 0.3, x, -0.2, 1, y});
+    compare(with(s, huxiInterSmoothEdge, f.rotate, angle, x, y), rotation(reducedAngle(angle), x, y));
+    compare(with(s, huxiInterSmoothEdge, f.shear, 0.3, -0.2, x, y), {1, 0.3, x, -0.2, 1, y});
     Hux64f xShift, yShift;
     huxiGetRotateShift(4.25, 7.5, angle, &xShift, &yShift);
     if (xShift != std::floor(xShift))
-      compare(arguments(f.rotateCenter, angle, 4.25, 7.5), rotation(reducedAngle(angle), xShift, yShift));
+      compare(with(s, huxiInterSmoothEdge, f.rotateCenter, angle, 4.25, 7.5),
+              rotation(reducedAngle(angle), xShift, yShift));
   });
 }
 
@@ -497,7 +473,7 @@ TEST(Rotate, QuarterTurnsMovePixelsWhateverTheInterpolation) {
     ASSERT_EQ(f.rotate(s.src.argument(), s.src.size(), s.src.step(), s.srcRoi, s.dst.argument(), s.dst.step(), s.dstRoi,
                        angle, sx, sy, 99),
               any ? huxStsOk : huxStsNoOverlapWarn);
-    ASSERT_TRUE(same(s.dst.memory, expected.memory));
+    ASSERT_TRUE(same(s.dst, expected));
   });
 }
 
@@ -515,16 +491,14 @@ TEST(Warp, EdgesAreSmoothedBehindTheForwardForms) {
       const auto blend = [&]<class T>(T) {
         Channels<T> channels{{}, f.planes > 1 ? f.planes : f.layout.stride, f.layout.stride, plain.dst.step()};
         for (int c = 0; c < channels.count; ++c)
-          channels.first[c] = elements(
-              reinterpret_cast<T*>(f.planes > 1 ? static_cast<std::byte*>(static_cast<void**>(plain.dst.argument())[c])
-                                                : static_cast<std::byte*>(plain.dst.argument()) + c * int(sizeof(T))));
+          channels.first[c] = elements(reinterpret_cast<T*>(plain.dst.at(0, 0, c)));
         ownvi_SmoothBorder(channels, quads[k], s.destination(), ownvi_CheckQuad(quads[k]));
       };
       if (f.elementBytes == 1) blend(Hux8u());
       if (f.elementBytes == 2) blend(Hux16u());
       if (f.elementBytes == 4) blend(Hux32f());
       ASSERT_EQ(call(f.forward[k], smooth, coeffs[k], huxiInterSmoothEdge), huxStsOk);
-      ASSERT_TRUE(same(smooth.dst.memory, plain.dst.memory)) << "kind " << k;
+      ASSERT_TRUE(same(smooth.dst, plain.dst)) << "kind " << k;
     }
   });
 }
@@ -533,92 +507,82 @@ TEST(Warp, ChecksArgumentsThenTheMapThenTheRegions) {
   Rng rng(13);
   for (const Member& f : members()) {
     SCOPED_TRACE(f.name);
-    const Picture picture(rng, f, 4, 4);
-    const void *src = picture.argument(), *dst = src;
+    Picture picture(rng, f, {4, 4});
+    Arguments args(picture.memory);
+    args.a = args.d = picture.argument();
     HuxiSize size = picture.size();
     HuxiRect part = {0, 0, 4, 4}, to = {0, 0, 4, 4};
-    int srcStep = picture.step(), dstStep = srcStep;
     HuxiInterpolation mode = huxiInterNearest;
     AffineCoeffs a = {1, 0, 0, 0, 1, 0};
     BilinearCoeffs b = {0, 1, 0, 0, 0, 0, 1, 0};
     PerspectiveCoeffs p = {1, 0, 0, 0, 1, 0, 0, 0, 1};
     Quad quad = ownvi_WarpRect(a, Box{0, 0, 3, 3}), other = quad, flat = quad;
     flat[2] = flat[3];
-    const auto order = [&](auto call, bool examinesMode) {
+    // The arguments, then what breakMap says, then the regions and what breakRest says.
+    const auto run = [&](auto call, bool examinesMode, auto breakMap, auto breakRest) {
       CheckOrder order(call);
-      order.breaks(huxStsNullPtr, src, nullptr)
-          .breaks(huxStsNullPtr, dst, nullptr)
-          .breaks(huxStsBadSize, size.width, 0)
-          .breaks(huxStsBadSize, size.height, 0)
-          .breaks(huxStsBadSize, part.x, -1)
-          .breaks(huxStsBadSize, part.height, 0)
-          .breaks(huxStsBadSize, to.y, -1)
-          .breaks(huxStsBadSize, to.width, 0)
-          .breaks(huxStsBadStep, srcStep, 0)
-          .breaks(huxStsBadStep, dstStep, -1);
+      order.in(args, "ad").sizes(size).sizes(part).sizes(to).in(args, "AD");
       if (examinesMode) order.breaks(huxStsBadInterpolation, mode, huxiInterSuper | huxiInterSmoothEdge);
-      for (int c = 0; f.planes > 1 && c < f.planes; ++c)
-        order.breaks(huxStsNullPtr, static_cast<void**>(picture.argument())[c], nullptr);
-      return order;
-    };
-    const auto finish = [&](CheckOrder& order) {
+      for (int c = 0; f.planes > 1 && c < f.planes; ++c) order.nulls(picture.plane(c));
+      breakMap(order);
       order.breaks(huxStsNoOverlapWarn, part.x, 4).breaks(huxStsNoOverlapWarn, part.y, 4);
+      breakRest(order);
+      order.run(picture.memory);
+    };
+    const auto with = [&](auto* fn, auto... map) {
+      return fn(args.a, size, args.aStep, part, args.d, args.dStep, to, map..., mode);
     };
     const Hux64f* coeffs[] = {numbers(a), numbers(b), numbers(p)};
     for (Kind k : kKinds)
-      for (bool back : {false, true}) {
-        CheckOrder o = order(
-            [&] { return (back ? f.back : f.forward)[k](src, size, srcStep, part, dst, dstStep, to, coeffs[k], mode); },
-            true);
-        if (k == affine) o.breaks(huxStsBadQuad, a.c11, 0);
-        if (k == perspective) o.breaks(huxStsBadQuad, p.c11, 0).breaks(huxStsBadQuad, p.c22, -1e-201);
-        if (k == bilinear && back) o.breaks(huxStsBadQuad, b.c12, 0);
-        finish(o);
-        if (!back) o.breaks(huxStsBadRect, part.width, 1).breaks(huxStsBadRect, part.height, 1);
-        if (k != perspective && !back) o.breaks(huxStsQuadOutsideWarn, to.x, 9);
-        o.run(picture.memory);
-      }
+      for (bool back : {false, true})
+        run([&] { return with((back ? f.back : f.forward)[k], coeffs[k]); }, true,
+            [&](CheckOrder& order) {
+              if (k == affine) order.breaks(huxStsBadQuad, a.c11, 0);
+              if (k == perspective) order.breaks(huxStsBadQuad, p.c11, 0).breaks(huxStsBadQuad, p.c22, -1e-201);
+              if (k == bilinear && back) order.breaks(huxStsBadQuad, b.c12, 0);
+            },
+            [&](CheckOrder& order) {
+              if (!back) order.breaks(huxStsBadRect, part.width, 1).breaks(huxStsBadRect, part.height, 1);
+              if (k != perspective && !back) order.breaks(huxStsQuadOutsideWarn, to.x, 9);
+            });
     // No number is no small one: the map passes, and no position that it gives is looked up.
     p.c22 = std::numeric_limits<Hux64f>::quiet_NaN();
-    EXPECT_EQ(f.back[perspective](src, size, srcStep, part, dst, dstStep, to, coeffs[perspective], mode), huxStsOk);
-    for (Kind k : kKinds) {
-      CheckOrder o = order(
-          [&] { return f.quads[k](src, size, srcStep, part, numbers(quad), dst, dstStep, to, numbers(other), mode); },
-          true);
-      o.breaks(huxStsBadCoeffs, quad, flat).breaks(huxStsBadCoeffs, other, flat);
-      finish(o);
-      o.breaks(huxStsQuadOutsideWarn, to.x, 9);
-      o.run(picture.memory);
-    }
+    EXPECT_EQ(with(f.back[perspective], coeffs[perspective]), huxStsOk);
+    for (QuadFn* fn : f.quads)
+      run(
+          [&] {
+            return fn(args.a, size, args.aStep, part, numbers(quad), args.d, args.dStep, to, numbers(other), mode);
+          },
+          true,
+          [&](CheckOrder& order) { order.breaks(huxStsBadCoeffs, quad, flat).breaks(huxStsBadCoeffs, other, flat); },
+          [&](CheckOrder& order) { order.breaks(huxStsQuadOutsideWarn, to.x, 9); });
     Hux64f xShift = 3;
-    CheckOrder o =
-        order([&] { return f.rotate(src, size, srcStep, part, dst, dstStep, to, 180, xShift, 3, mode); }, false);
-    finish(o);
-    o.breaks(huxStsNoOverlapWarn, xShift, 1e300).run(picture.memory);
+    run([&] { return with(f.rotate, 180, xShift, 3); }, false, [](CheckOrder&) {},
+        [&](CheckOrder& order) { order.breaks(huxStsNoOverlapWarn, xShift, 1e300); });
   }
 }
 
 TEST(Warp, WithoutMemoryForTheSpansNothingIsWritten) {
   forScenes(14, 1, [](Rng&, const Member& f, Scene& s) {
-    s.srcRoi = {0, 0, s.src.size().width, s.src.size().height},
+    s.srcRoi = {0, 0, s.src.size().width, s.src.size().height};
     s.dstRoi = {0, 0, s.dst.size().width, s.dst.size().height};
-    const Picture before = s.dst;
     const AffineCoeffs a = {1, 0, 0, 0, 1, 0};
     const Quad quad = ownvi_WarpRect(a, s.source());
     const auto fails = [&](HuxStatus status, auto run) {
       // A corner carried to 1e-16 in place of 0 makes a quadrangle that is not affine.
+      const Picture before = s.dst;
       const HuxStatus whole = run();
       EXPECT_GE(whole, huxStsOk);
       s.dst = before;
       const HuxStatus last = walkAllocationFailures(run, [&](HuxStatus failed) {
         EXPECT_EQ(failed, status);
-        EXPECT_TRUE(same(s.dst.memory, before.memory));
+        EXPECT_TRUE(same(s.dst, before));
       });
       EXPECT_EQ(last, whole);
-      s.dst = before;
     };
     fails(huxStsQuadOutsideWarn, [&] { return call(f.forward[affine], s, numbers(a)); });
     fails(huxStsQuadOutsideWarn, [&] { return call(f.quads[affine], s, quad, quad); });
+    if (s.srcRoi.width < 3) return;
     s.srcRoi.width -= 1;
     fails(huxStsNoMem, [&] { return call(f.quads[affine], s, quad, quad); });
   });

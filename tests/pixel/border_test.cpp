@@ -10,40 +10,20 @@
 namespace hux::test {
 namespace {
 
-// All families through one pointer, with the constant last, which only some of them take.
-using BorderFn = HuxStatus (*)(const void*, int, HuxiSize, void*, int, HuxiSize, int top, int left, const void* value);
-using InPlaceFn = HuxStatus (*)(void*, int, HuxiSize, HuxiSize, int top, int left);
-
-template <class T, auto Fn>
-HuxStatus border(const void* src, int srcStep, HuxiSize srcRoi, void* dst, int dstStep, HuxiSize dstRoi, int top,
-                 int left, const void* value) {
-  const auto call = [&](auto... constant) {
-    return Fn(static_cast<const T*>(src), srcStep, srcRoi, static_cast<T*>(dst), dstStep, dstRoi, top, left,
-              constant...);
-  };
-  if constexpr (std::is_invocable_v<decltype(Fn), const T*, int, HuxiSize, T*, int, HuxiSize, int, int>) {
-    return call();
-  } else if constexpr (std::is_invocable_v<decltype(Fn), const T*, int, HuxiSize, T*, int, HuxiSize, int, int,
-                                           const T*>) {
-    return call(static_cast<const T*>(value));
-  } else {
-    T constant;
-    std::memcpy(&constant, value, sizeof constant);
-    return call(constant);
-  }
-}
-
+// The constant, which only some families take, comes last.
+using BorderFn = HuxStatus(const void*, int, HuxiSize, void*, int, HuxiSize, int top, int left, const void* value);
+using InPlaceFn = HuxStatus(void*, int, HuxiSize, HuxiSize, int top, int left);
 enum class Rule { kConst, kReplicate, kWrap };
 struct BorderForm : Form {
   Rule rule;
-  BorderFn border;
-  InPlaceFn inPlace = nullptr;
+  BorderFn* border;
+  InPlaceFn* inPlace = nullptr;
 };
 
-#define CONST_FORM(t, l) BorderForm{HUX_FORM(t, l), Rule::kConst, border<Hux##t, huxiCopyConstBorder_##t##_##l##R>},
-#define FRAME_FORM(t, l, name)                                                                   \
-  BorderForm{HUX_FORM(t, l), Rule::k##name, border<Hux##t, huxiCopy##name##Border_##t##_##l##R>, \
-             erased<huxiCopy##name##Border_##t##_##l##IR>},
+#define CONST_FORM(t, l) BorderForm{HUX_FORM(t, l), Rule::kConst, as<BorderFn, huxiCopyConstBorder_##t##_##l##R>},
+#define FRAME_FORM(t, l, name)                                                                 \
+  BorderForm{HUX_FORM(t, l), Rule::k##name, as<BorderFn, huxiCopy##name##Border_##t##_##l##R>, \
+             as<InPlaceFn, huxiCopy##name##Border_##t##_##l##IR>},
 #define REPLICATE_FORM(t, l) FRAME_FORM(t, l, Replicate)
 
 std::vector<BorderForm> forms() {
@@ -126,14 +106,13 @@ TEST(Border, ChecksPointersStepsSizesAndThenTheConstant) {
     int srcStep = source.step(), dstStep = image.step();
     Geometry g = fitting;
     CheckOrder order([&] { return f.border(src, srcStep, g.src, dst, dstStep, g.dst, g.top, g.left, value); });
-    order.breaks(huxStsNullPtr, src, nullptr).breaks(huxStsNullPtr, dst, nullptr);
-    order.breaks(huxStsBadStep, srcStep, 0).breaks(huxStsBadStep, dstStep, 0);
+    order.nulls(src, dst).steps(srcStep, dstStep);
     for (const Geometry& b : bad) order.breaks(huxStsBadSize, g, b);
-    if (f.rule == Rule::kConst && f.layout.stride > 1) order.breaks(huxStsNullPtr, value, nullptr);
+    if (f.rule == Rule::kConst && f.layout.stride > 1) order.nulls(value);
     order.run(image);
     if (!f.inPlace) continue;
     CheckOrder inPlace([&] { return f.inPlace(inside, dstStep, g.src, g.dst, g.top, g.left); });
-    inPlace.breaks(huxStsNullPtr, inside, nullptr).breaks(huxStsBadStep, dstStep, 0);
+    inPlace.nulls(inside).steps(dstStep);
     for (const Geometry& b : bad) inPlace.breaks(huxStsBadSize, g, b);
     inPlace.run(image);
   }

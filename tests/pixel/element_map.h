@@ -6,33 +6,34 @@
 #include <cmath>
 #include <limits>
 
-#include "support/image.h"
-#include "support/order.h"
+#include "support/forms.h"
 
 namespace hux::test {
 
 struct ElementMap {
   std::string name;
-  int srcBytes, dstBytes, channels, processed;
+  int srcBytes, dstBytes;
+  Layout layout;
   std::function<HuxStatus(const void*, int, void*, int, HuxiSize)> call;
   std::function<void(const std::byte*, std::byte*)> define;
-  std::function<void(Rng&, Image&)> fill;
+  std::function<void(Rng&, const Image&)> fill;
 };
 
+// M(source type, destination type, layout) for the four layouts.
+#define HUX_LAYOUTS(M, s, d) M(s, d, C1) M(s, d, C3) M(s, d, C4) M(s, d, AC4)
+
 template <class S, class D, class Call, class Rule>
-ElementMap elementMap(std::string name, int channels, int processed, Call call, Rule rule) {
-  return {std::move(name), int(sizeof(S)), int(sizeof(D)), channels, processed,
+ElementMap elementMap(std::string name, Layout layout, Call call, Rule rule) {
+  return {std::move(name), int(sizeof(S)), int(sizeof(D)), layout,
           [=](const void* src, int srcStep, void* dst, int dstStep, HuxiSize roi) {
             return call(static_cast<const S*>(src), srcStep, static_cast<D*>(dst), dstStep, roi);
           },
           [=](const std::byte* src, std::byte* dst) {
-            S value;
-            std::memcpy(&value, src, sizeof value);
-            const D result = rule(value);
+            const D result = rule(valueAt<S>(src));
             std::memcpy(dst, &result, sizeof result);
           },
           // Any bit pattern; for floats, half of them ordinary values, which random patterns hardly ever are.
-          [](Rng& rng, Image& image) {
+          [](Rng& rng, const Image& image) {
             if constexpr (std::is_floating_point_v<S>)
               image.fill<S>(
                   [&] { return rng() & 1 ? S(between(rng, -600, 600)) / 2 : std::bit_cast<Hux32f>(Hux32u(rng())); });
@@ -41,49 +42,39 @@ ElementMap elementMap(std::string name, int channels, int processed, Call call, 
 
 inline void expectDefined(const ElementMap& map, const Image& src, const Image& dst) {
   const Image expected = dst, srcBefore = src;
-  for (int y = 0; y < src.height(); ++y)
-    for (int x = 0; x < src.width(); ++x)
-      for (int c = 0; c < map.processed; ++c)
-        map.define(src.bytes(x, y) + c * map.srcBytes, expected.bytes(x, y) + c * map.dstBytes);
+  forElements(src.size(), map.layout.touched, [&](int x, int y, int c) {
+    map.define(src.bytes(x, y) + c * map.srcBytes, expected.bytes(x, y) + c * map.dstBytes);
+  });
   ASSERT_EQ(map.call(src.bytes(), src.step(), dst.bytes(), dst.step(), src.size()), huxStsOk);
   ASSERT_TRUE(same(dst, expected));
   ASSERT_TRUE(same(src, srcBefore));
 }
 
-inline void expectShapes(const ElementMap& map, Rng& rng) {
+// Images of up to that many rows: of vectors one, which ends where they do.
+inline void expectShapes(const ElementMap& map, Rng& rng, int mostRows = 4) {
   SCOPED_TRACE(map.name);
   forShapes(rng, 160, [&](int width, int height, Place place) {
-    Image src(rng, width, height, map.channels * map.srcBytes, place);
+    height = std::min(height, mostRows);
+    const Image src(rng, width, height, map.layout.stride * map.srcBytes, place);
     map.fill(rng, src);
-    expectDefined(map, src, Image(rng, width, height, map.channels * map.dstBytes, place));
+    expectDefined(map, src, Image(rng, width, height, map.layout.stride * map.dstBytes, place));
   });
 }
 
 template <class S>
 void expectValues(const ElementMap& map, Rng& rng, const std::vector<S>& values) {
   SCOPED_TRACE(map.name);
-  const int width = (int(values.size()) + map.channels - 1) / map.channels;
-  Image src(rng, width, 1, map.channels * map.srcBytes);
+  const int width = (int(values.size()) + map.layout.stride - 1) / map.layout.stride;
+  const Image src(rng, width, 1, map.layout.stride * map.srcBytes);
   std::memcpy(src.bytes(), values.data(), values.size() * sizeof(S));
-  expectDefined(map, src, Image(rng, width, 1, map.channels * map.dstBytes));
+  expectDefined(map, src, Image(rng, width, 1, map.layout.stride * map.dstBytes));
 }
 
-// Null pointers, size, steps.
 inline void expectOrder(const ElementMap& map, Rng& rng) {
   SCOPED_TRACE(map.name);
   const Image image(rng, 16, 4, 16);
-  const void* src = image.bytes();
-  void* dst = image.bytes(0, 2);
-  HuxiSize roi = {1, 1};
-  int srcStep = 1, dstStep = 1;
-  CheckOrder([&] { return map.call(src, srcStep, dst, dstStep, roi); })
-      .breaks(huxStsNullPtr, src, nullptr)
-      .breaks(huxStsNullPtr, dst, nullptr)
-      .breaks(huxStsBadSize, roi.width, 0)
-      .breaks(huxStsBadSize, roi.height, -3)
-      .breaks(huxStsBadStep, srcStep, 0)
-      .breaks(huxStsBadStep, dstStep, -1)
-      .run(image);
+  Arguments a(image);
+  CheckOrder([&] { return map.call(a.a, a.aStep, a.d, a.dStep, a.roi); }).in(a, "adzAD").run(image);
 }
 
 // Every value of an 8- or 16-bit type; a sample and the ends of a wider one.

@@ -23,45 +23,35 @@ struct Generator {
   }
 };
 
-template <class T>
-void addTo(std::byte* element, Hux64f noise) {
-  T e;
-  std::memcpy(&e, element, sizeof e);
-  using Limits = std::numeric_limits<T>;
-  if constexpr (Limits::is_integer)
-    e = T(std::clamp<long>(e + long(noise), Limits::min(), Limits::max()));
-  else
-    e = T(Hux64f(e) + noise);
-  std::memcpy(element, &e, sizeof e);
+void addTo(Number type, std::byte* element, Hux64f noise) {
+  withType(type, [&]<class T>(T) {
+    const Hux64f e = numberAt(type, element);
+    using Limits = std::numeric_limits<T>;
+    const T sum = Limits::is_integer ? T(std::clamp<Hux64f>(e + std::trunc(noise), Limits::lowest(), Limits::max()))
+                                     : T(e + noise);
+    std::memcpy(element, &sum, sizeof sum);
+  });
 }
 
 // Arguments of the type of the pixel, from small ones to the ends of integers; in either order, of either sign.
-template <class T>
-Hux64f anyArgument(Rng& rng) {
-  using Limits = std::numeric_limits<T>;
-  if constexpr (Limits::is_integer) {
+Hux64f anyArgument(Rng& rng, Number type) {
+  return withType(type, [&]<class T>(T) -> Hux64f {
+    using Limits = std::numeric_limits<T>;
     const int kind = between(rng, 0, 3);
-    return kind == 0 ? Limits::min() : kind == 1 ? Limits::max() : T(T(rng()) >> (kind == 2 ? 0 : sizeof(T) * 4));
-  } else {
+    if constexpr (Limits::is_integer)
+      return kind == 0 ? Limits::min() : kind == 1 ? Limits::max() : T(T(rng()) >> (kind == 2 ? 0 : sizeof(T) * 4));
     return std::ldexp(T(between(rng, -1000, 1000)), between(rng, 0, 9) ? -9 : 90);
-  }
+  });
 }
 
 struct NoiseForm : Form {
   bool gauss;
-  std::function<HuxStatus(void*, int, HuxiSize, Hux64f, Hux64f, Hux32u*)> call;
-  void (*addTo)(std::byte*, Hux64f);
-  Hux64f (*anyArgument)(Rng&);
+  HuxStatus (*call)(void*, int, HuxiSize, Hux64f, Hux64f, Hux32u*);
 };
-#define FORM(name, gauss, t, l)                                                                              \
-  NoiseForm{{#name "_" #t "_" #l, sizeof(Hux##t), l},                                                        \
-            gauss,                                                                                           \
-            [](void* p, int step, HuxiSize roi, Hux64f a, Hux64f b, Hux32u* seed) {                          \
-              return huxiAddRand##name##_Direct_##t##_##l##IR(static_cast<Hux##t*>(p), step, roi, Hux##t(a), \
-                                                              Hux##t(b), seed);                              \
-            },                                                                                               \
-            addTo<Hux##t>,                                                                                   \
-            anyArgument<Hux##t>},
+#define FORM(name, gauss, t, l)                                     \
+  NoiseForm{{#name "_" #t "_" #l, sizeof(Hux##t), l, Number::k##t}, \
+            gauss,                                                  \
+            as<HuxStatus(void*, int, HuxiSize, Hux64f, Hux64f, Hux32u*), huxiAddRand##name##_Direct_##t##_##l##IR>},
 #define FORMS(t, l) FORM(Uniform, false, t, l) FORM(Gauss, true, t, l)
 std::vector<NoiseForm> forms() {
   return { HUX_STAMP(FORMS, (8u, 16s, 32f), (C1, C3, C4, AC4)) };
@@ -85,7 +75,7 @@ Hux32u addNoise(const NoiseForm& f, const Image& image, HuxiSize roi, Hux64f a, 
         pair[0] = u * factor + a, pair[1] = v * factor + a;
       }
       const int element = i / f.layout.touched * f.layout.stride + i % f.layout.touched;
-      f.addTo(image.bytes(0, y) + element * f.elementBytes, pair[i % 2]);
+      addTo(f.type, image.bytes(0, y) + element * f.elementBytes, pair[i % 2]);
     }
   }
   return generator.x0;
@@ -100,7 +90,7 @@ TEST(AddRand, FollowsTheDefinition) {
       Image dst = touchedImage(rng, roi.width, roi.height, f.layout, f.elementBytes, place);
       if (f.elementBytes == 4) dst.fill<Hux8u>([&] { return Hux8u(between(rng, 0x38, 0x47)); });  // usual floats
       const Image expected = dst;
-      const Hux64f a = f.anyArgument(rng), b = f.anyArgument(rng);
+      const Hux64f a = anyArgument(rng, f.type), b = anyArgument(rng, f.type);
       const Hux32u seedAfter = addNoise(f, expected, roi, a, b, seed);
       ASSERT_EQ(f.call(dst.bytes(), dst.step(), roi, a, b, &seed), huxStsOk);
       ASSERT_TRUE(same(dst, expected)) << roi.width << " x " << roi.height;
@@ -127,12 +117,9 @@ TEST(AddRand, ChecksPointersSizeStepAndKeepsTheSeed) {
       EXPECT_EQ(status == huxStsOk, seed != 7);
       return status;
     })
-        .breaks(huxStsNullPtr, dst, nullptr)
-        .breaks(huxStsNullPtr, pSeed, nullptr)
-        .breaks(huxStsBadSize, roi.width, 0)
-        .breaks(huxStsBadSize, roi.height, -1)
-        .breaks(huxStsBadStep, step, 0)
-        .breaks(huxStsBadStep, step, -image.step())
+        .nulls(dst, pSeed)
+        .sizes(roi)
+        .steps(step)
         .run(image);
   }
 }

@@ -32,29 +32,29 @@ Hux8u fromRange(Hux32f v, Hux32f vMin, Hux32f vMax) {
   return t >= 256.0f ? 255 : t > 0.0f ? Hux8u(truncateTie(t)) : 0;
 }
 
-#define UP(s, d, l, n, taken) \
-  elementMap<Hux##s, Hux##d>(#s #d "_" #l, n, taken, huxiScale_##s##d##_##l##R, spread<Hux##d>),
-#define DOWN_BY(s, d, l, n, taken, hint, rule)                                                                      \
-  elementMap<Hux##s, Hux##d>(                                                                                       \
-      #s #d "_" #l " hint " #hint, n, taken, [](auto... args) { return huxiScale_##s##d##_##l##R(args..., hint); }, \
+#define UP(s, d, l) elementMap<Hux##s, Hux##d>(#s #d "_" #l, l, huxiScale_##s##d##_##l##R, spread<Hux##d>),
+#define DOWN_BY(s, d, l, hint, rule)                                                                         \
+  elementMap<Hux##s, Hux##d>(                                                                                \
+      #s #d "_" #l " hint " #hint, l, [](auto... args) { return huxiScale_##s##d##_##l##R(args..., hint); }, \
       [](Hux##s v) { return rule(v); }),
-#define DOWN(s, d, l, n, taken) DOWN_BY(s, d, l, n, taken, 2, accurate) DOWN_BY(s, d, l, n, taken, 1, quick)
-#define RANGE(s, d, l, n, taken)                                                                            \
-  elementMap<Hux##s, Hux##d>(                                                                               \
-      #s #d "_" #l, n, taken, [=](auto... args) { return huxiScale_##s##d##_##l##R(args..., vMin, vMax); }, \
+#define DOWN(s, d, l) DOWN_BY(s, d, l, 2, accurate) DOWN_BY(s, d, l, 1, quick)
+#define RANGE(s, d, l)                                                                               \
+  elementMap<Hux##s, Hux##d>(                                                                        \
+      #s #d "_" #l, l, [=](auto... args) { return huxiScale_##s##d##_##l##R(args..., vMin, vMax); }, \
       [=](Hux##s v) { return Range(v, vMin, vMax); }),
-#define LAYOUTS(M, s, d) M(s, d, C1, 1, 1) M(s, d, C3, 3, 3) M(s, d, C4, 4, 4) M(s, d, AC4, 4, 3)
 
-std::vector<ElementMap> upMaps() { return {LAYOUTS(UP, 8u, 16u) LAYOUTS(UP, 8u, 16s) LAYOUTS(UP, 8u, 32s)}; }
+std::vector<ElementMap> upMaps() {
+  return {HUX_LAYOUTS(UP, 8u, 16u) HUX_LAYOUTS(UP, 8u, 16s) HUX_LAYOUTS(UP, 8u, 32s)};
+}
 std::vector<ElementMap> downMaps() {
-  return {LAYOUTS(DOWN, 16u, 8u) LAYOUTS(DOWN, 16s, 8u) LAYOUTS(DOWN, 32s, 8u) DOWN_BY(16s, 8u, C1, 1, 1, 0, quick)
-              DOWN_BY(32s, 8u, C1, 1, 1, -1, quick)};
+  return {HUX_LAYOUTS(DOWN, 16u, 8u) HUX_LAYOUTS(DOWN, 16s, 8u) HUX_LAYOUTS(DOWN, 32s, 8u)
+              DOWN_BY(16s, 8u, C1, 0, quick) DOWN_BY(32s, 8u, C1, -1, quick)};
 }
 #define Range ontoRange
-std::vector<ElementMap> ontoRangeMaps(Hux32f vMin, Hux32f vMax) { return {LAYOUTS(RANGE, 8u, 32f)}; }
+std::vector<ElementMap> ontoRangeMaps(Hux32f vMin, Hux32f vMax) { return {HUX_LAYOUTS(RANGE, 8u, 32f)}; }
 #undef Range
 #define Range fromRange
-std::vector<ElementMap> fromRangeMaps(Hux32f vMin, Hux32f vMax) { return {LAYOUTS(RANGE, 32f, 8u)}; }
+std::vector<ElementMap> fromRangeMaps(Hux32f vMin, Hux32f vMax) { return {HUX_LAYOUTS(RANGE, 32f, 8u)}; }
 #undef Range
 
 constexpr Hux32f kMax = std::numeric_limits<Hux32f>::max(), kTiny = std::numeric_limits<Hux32f>::denorm_min(),

@@ -2,10 +2,8 @@
 #include <cmath>
 #include <limits>
 
-#include "core/stamp.h"
 #include "huxi_stats.h"
-#include "support/image.h"
-#include "support/order.h"
+#include "support/forms.h"
 
 namespace hux::test {
 namespace {
@@ -17,16 +15,16 @@ T anyElement(Rng& rng) {
   return T(some[rng() % (sizeof(T) == 1 ? 7 : 12)]);
 }
 
-struct Form {
-  std::string name;
-  int bytes, channels, colours;
-  HuxStatus (*call)(const void*, int, HuxiSize, int*, const void* lower, const void* upper);
-  void (*verify)(const Form&, Rng&, Image&, int step);
+using CountFn = HuxStatus(const void*, int, HuxiSize, void* counts, const void* lower, const void* upper);
+struct Member : Form {
+  CountFn* call;
 };
+#define MEMBER(t, l) Member{HUX_FORM(t, l), as<CountFn, huxiCountInRange_##t##_##l##R>},
+const Member kMembers[] = {HUX_STAMP(MEMBER, (8u, 32f), (C1, C3, AC4))};
 
 // An image and bounds of any elements, or bounds that hold every number.
 template <class T>
-void verify(const Form& f, Rng& rng, Image& image, int step) {
+void verify(const Member& f, Rng& rng, Image& image, int step) {
   image.fill<T>([&] { return anyElement<T>(rng); });
   const bool all = image.width() > 1000;
   T bounds[2][3];
@@ -35,15 +33,14 @@ void verify(const Form& f, Rng& rng, Image& image, int step) {
   for (int c = 0; c < 3; ++c)
     for (int side = 0; side < 2; ++side)
       bounds[side][c] = all ? T(side ? 255 : std::numeric_limits<T>::lowest()) : anyElement<T>(rng);
-  for (int c = 0; c < f.colours; ++c) ordered &= !(bounds[0][c] > bounds[1][c]);
-  for (int c = 0; c < f.colours && ordered; ++c) {
+  for (int c = 0; c < f.layout.touched; ++c) ordered &= !(bounds[0][c] > bounds[1][c]);
+  for (int c = 0; c < f.layout.touched && ordered; ++c) {
     expected[c] = 0;
-    for (int y = 0; y < image.height(); ++y)
-      for (int x = 0; x < image.width(); ++x) {
-        T p;
-        std::memcpy(&p, image.bytes(x, 0) + y * std::ptrdiff_t(step / f.bytes * f.bytes) + c * f.bytes, sizeof p);
-        expected[c] += p >= bounds[0][c] && !(p > bounds[1][c]);
-      }
+    forPixels(image.size(), [&](int x, int y) {
+      const T p = valueAt<T>(image.bytes(x, 0) + y * std::ptrdiff_t(step / f.elementBytes * f.elementBytes) +
+                             c * f.elementBytes);
+      expected[c] += p >= bounds[0][c] && !(p > bounds[1][c]);
+    });
   }
   const Image before = image;
   ASSERT_EQ(f.call(image.bytes(), step, image.size(), counts, bounds[0], bounds[1]),
@@ -54,25 +51,13 @@ void verify(const Form& f, Rng& rng, Image& image, int step) {
   ASSERT_TRUE(same(image, before));
 }
 
-#define FORM(t, l, c, p, ...)                                                                                  \
-  Form {                                                                                                       \
-#t "_" #l, sizeof(Hux##t), c, p,                                                                             \
-        [](const void* src, int step, HuxiSize roi, int* counts, const void* low, const void* high) {            \
-          const auto *lower = static_cast<const Hux##t*>(low), *upper = static_cast<const Hux##t*>(high);        \
-          return huxiCountInRange_##t##_##l##R(static_cast<const Hux##t*>(src), step, roi, counts, __VA_ARGS__); \
-        },                                                                                                       \
-        verify<Hux##t> \
-  }
-#define FORMS(t) FORM(t, C1, 1, 1, *lower, *upper), FORM(t, C3, 3, 3, lower, upper), FORM(t, AC4, 4, 3, lower, upper)
-const Form kForms[] = {FORMS(8u), FORMS(32f)};
-
 TEST(CountInRange, EveryWidth) {
   Rng rng(1);
-  for (const Form& f : kForms) {
+  for (const Member& f : kMembers) {
     // A step below an element is one of 0, where steps count elements.
     const auto run = [&](int width, int height, Place place) {
-      Image image(rng, width, height, f.bytes * f.channels, place);
-      f.verify(f, rng, image, width % 7 == 0 ? 1 : image.step());
+      Image image(rng, width, height, f.pixelBytes(), place);
+      (f.elementBytes == 1 ? verify<Hux8u> : verify<Hux32f>)(f, rng, image, width % 7 == 0 ? 1 : image.step());
     };
     forShapes(rng, 300, run), forShapes(rng, 300, run);
     run(90000, 2, Place::kEnd);  // more than bytes can count
@@ -82,18 +67,17 @@ TEST(CountInRange, EveryWidth) {
 TEST(CountInRange, ChecksInOrder) {
   Rng rng(2);
   const Image image(rng, 8, 4, 16);
-  for (const Form& f : kForms) {
+  for (const Member& f : kMembers) {
     SCOPED_TRACE(f.name);
     alignas(4) Hux8u bounds[2][12] = {};
-    const void *src = image.bytes(), *lower = bounds[0], *upper = bounds[1];
-    int* counts = reinterpret_cast<int*>(image.bytes(0, 1));
-    int step = 16;
-    HuxiSize roi = {1, 1};
-    CheckOrder order([&] { return f.call(src, step, roi, counts, lower, upper); });
-    order.breaks(huxStsNullPtr, src, nullptr).breaks(huxStsNullPtr, counts, nullptr);
-    if (f.channels > 1) order.breaks(huxStsNullPtr, lower, nullptr).breaks(huxStsNullPtr, upper, nullptr);
-    order.breaks(huxStsBadStep, step, 0).breaks(huxStsBadSize, roi.width, 0).breaks(huxStsBadSize, roi.height, -3);
-    for (int c = 0; c < f.colours; ++c) order.breaks(huxStsBadRange, bounds[0][c * f.bytes], 1);
+    const void *lower = bounds[0], *upper = bounds[1];
+    Arguments a(image);
+    a.d = image.bytes(0, 1);
+    CheckOrder order([&] { return f.call(a.a, a.aStep, a.roi, a.d, lower, upper); });
+    order.in(a, "ad");
+    if (f.layout.stride > 1) order.nulls(lower, upper);
+    order.in(a, "Az");
+    for (int c = 0; c < f.layout.touched; ++c) order.breaks(huxStsBadRange, bounds[0][c * f.elementBytes], 1);
     order.run(image);
   }
 }

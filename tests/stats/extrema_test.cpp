@@ -2,24 +2,15 @@
 #include <cmath>
 #include <limits>
 
-#include "core/stamp.h"
 #include "huxi_stats.h"
-#include "support/image.h"
-#include "support/order.h"
+#include "support/forms.h"
 
 namespace hux::test {
 namespace {
 
-struct Args {
-  const void* src;
-  int step;
-  HuxiSize roi;
-  void *first, *second;  // the extremes; MinIndx and MaxIndx have one
-  int *x, *y;
-};
-
+using ExtremeFn = HuxStatus(const void*, int, HuxiSize, void* first, void* second);
+using IndexFn = HuxStatus(const void*, int, HuxiSize, void*, void* x, void* y);
 enum class Kind { kMin, kMax, kMinMax, kMinIndx, kMaxIndx };
-constexpr bool isIndx(Kind k) { return k >= Kind::kMinIndx; }
 
 // One channel of the definition.
 template <class T>
@@ -87,102 +78,97 @@ void fill(Image& image, Rng& rng, Sort sort) {
     if (sort == Sort::kNaNFirst) image.set<T>(0, 0, int(rng() % 2), NAN);
 }
 
-struct Form {
-  std::string name;
+struct Member : Form {
   Kind kind;
-  int bytes, channels, colours;
-  HuxStatus (*call)(const Args&);
-  void (*fill)(Image&, Rng&, Sort);
-  void (*verify)(const Form&, const Image&);
+  ExtremeFn* extreme;
+  IndexFn* index = nullptr;
+
+  HuxStatus call(const void* src, int step, HuxiSize roi, void* first, void* second, void* x, void* y) const {
+    return index ? index(src, step, roi, first, x, y) : extreme(src, step, roi, first, second);
+  }
 };
+#define EXTREME(kind, t, l) Member{HUX_NAMED(kind, t, l), Kind::k##kind, as<ExtremeFn, huxi##kind##_##t##_##l##R>},
+#define INDEX(kind, t, l) Member{HUX_NAMED(kind, t, l), Kind::k##kind, nullptr, as<IndexFn, huxi##kind##_##t##_##l##R>},
+#define MEMBERS(t, l) \
+  EXTREME(Min, t, l) EXTREME(Max, t, l) EXTREME(MinMax, t, l) INDEX(MinIndx, t, l) INDEX(MaxIndx, t, l)
+const Member kMembers[] = {HUX_STAMP(MEMBERS, (8u, 16s, 32f), (C1, C3, AC4, C4))};
 
 template <class T>
-void verify(const Form& f, const Image& image) {
+void verify(const Member& f, const Image& image) {
   Reference<T> expected[4];
-  for (int c = 0; c < f.colours; ++c) expected[c].first = expected[c].second = image.get<T>(0, 0, c);
-  for (int y = 0; y < image.height(); ++y)
-    for (int x = 0; x < image.width(); ++x)
-      for (int c = 0; c < f.colours; ++c) expected[c].take(f.kind, image.get<T>(x, y, c), x, y);
+  for (int c = 0; c < f.layout.touched; ++c) expected[c].first = expected[c].second = image.get<T>(0, 0, c);
+  forElements(image.size(), f.layout.touched,
+              [&](int x, int y, int c) { expected[c].take(f.kind, image.get<T>(x, y, c), x, y); });
   const Image before = image;
   T first[5], second[5];
   int x[5], y[5];
   std::fill_n(first, 5, T(77)), std::fill_n(second, 5, T(77)), std::fill_n(x, 5, -1), std::fill_n(y, 5, -1);
-  ASSERT_EQ(f.call({image.bytes(), image.step(), image.size(), first, second, x, y}), huxStsOk);
+  ASSERT_EQ(f.call(image.bytes(), image.step(), image.size(), first, second, x, y), huxStsOk);
   ASSERT_TRUE(same(image, before));
-  for (int c = 0; c < f.colours; ++c) {
+  for (int c = 0; c < f.layout.touched; ++c) {
     const Reference<T>& e = expected[c];
     const auto where = testing::Message() << f.name << ", channel " << c << " of " << image.width() << " x "
                                           << image.height() << ": " << +first[c] << ", expected " << +e.first;
     ASSERT_EQ(std::memcmp(&first[c], &e.first, sizeof(T)), 0) << where;
     ASSERT_TRUE(f.kind != Kind::kMinMax || std::memcmp(&second[c], &e.second, sizeof(T)) == 0) << where << +second[c];
-    ASSERT_TRUE(!isIndx(f.kind) || (x[c] == e.x && y[c] == e.y)) << where << " at " << x[c] << ", " << y[c];
+    ASSERT_TRUE(!f.index || (x[c] == e.x && y[c] == e.y)) << where << " at " << x[c] << ", " << y[c];
   }
-  ASSERT_TRUE(first[f.colours] == 77 && second[f.colours] == 77 && x[f.colours] == -1 && y[f.colours] == -1);
+  ASSERT_TRUE(first[f.layout.touched] == 77 && second[f.layout.touched] == 77 && x[f.layout.touched] == -1 &&
+              y[f.layout.touched] == -1);
 }
 
-#define FORM(kind, t, l, c, p, ...)                                                                                 \
-  Form {                                                                                                            \
-#kind "_" #t "_" #l, Kind::k##kind, sizeof(Hux##t), c, p,                                                         \
-        [](const Args& a) {                                                                                           \
-          auto* first = static_cast<Hux##t*>(a.first);                                                                \
-          [[maybe_unused]] auto* second = static_cast<Hux##t*>(a.second);                                             \
-          return huxi##kind##_##t##_##l##R(static_cast<const Hux##t*>(a.src), a.step, a.roi, first __VA_OPT__(, )     \
-                                               __VA_ARGS__);                                                          \
-        },                                                                                                            \
-        fill<Hux##t>, verify<Hux##t> \
-  }
-#define FORMS(t, l, c, p)                                                                                              \
-  FORM(Min, t, l, c, p), FORM(Max, t, l, c, p), FORM(MinMax, t, l, c, p, second), FORM(MinIndx, t, l, c, p, a.x, a.y), \
-      FORM(MaxIndx, t, l, c, p, a.x, a.y)
-#define ALL(t) FORMS(t, C1, 1, 1), FORMS(t, C3, 3, 3), FORMS(t, AC4, 4, 3), FORMS(t, C4, 4, 4)
-const Form kForms[] = {ALL(8u), ALL(16s), ALL(32f)};
+void fillAndVerify(const Member& f, Rng& rng, Image& image, Sort sort) {
+  const auto run = [&]<class T>(T) { fill<T>(image, rng, sort), verify<T>(f, image); };
+  f.type == Number::k8u ? run(Hux8u()) : f.type == Number::k16s ? run(Hux16s()) : run(Hux32f());
+}
 
 TEST(Extrema, EveryWidth) {
   Rng rng(1);
-  for (const Form& f : kForms)
+  for (const Member& f : kMembers)
     for (int sort = 0; sort <= int(Sort::kRising); ++sort)
-      forShapes(rng, f.bytes == 4 ? 100 : 300, [&](int width, int height, Place place) {
+      forShapes(rng, f.elementBytes == 4 ? 100 : 300, [&](int width, int height, Place place) {
         if (width > 40 && width % 7 != sort % 7) return;
-        Image image(rng, width, height, f.bytes * f.channels, place);
-        f.fill(image, rng, Sort(sort));
-        f.verify(f, image);
+        Image image(rng, width, height, f.pixelBytes(), place);
+        fillAndVerify(f, rng, image, Sort(sort));
       });
 }
 
 // Images that are reduced in several batches, with what matters in some of them only.
 TEST(Extrema, SeveralBatches) {
   Rng rng(2);
-  for (const Form& f : kForms) {
+  for (const Member& f : kMembers) {
     const int width = between(rng, 300, 400) * (rng() % 4 == 0 ? 400 : 1), height = 140000 / width + 1;
-    Image image(rng, width, height, f.bytes * f.channels);
-    f.fill(image, rng, Sort(rng() % 6));
-    f.verify(f, image);
+    Image image(rng, width, height, f.pixelBytes());
+    fillAndVerify(f, rng, image, Sort(rng() % 6));
     // The largest and the smallest element late, so that a batch replaces another's.
     std::memset(image.bytes(0, height - 1), 0x7f, std::size_t(image.width() * image.pixelBytes()));
     std::memset(image.bytes(width / 2, height - 1), 0x80, std::size_t(image.pixelBytes()));
-    f.verify(f, image);
+    f.type == Number::k8u    ? verify<Hux8u>(f, image)
+    : f.type == Number::k16s ? verify<Hux16s>(f, image)
+                             : verify<Hux32f>(f, image);
     // Ever smaller floats, none of which is compared with the NaN before them, wherever a batch may end.
-    if (f.bytes != 4) continue;
+    if (f.type != Number::k32f) continue;
     for (int i = 0; i < width * height; ++i)
-      for (int c = 0; c < f.channels; ++c)
+      for (int c = 0; c < f.layout.stride; ++c)
         image.set(i % width, i / width, c, i > 1000 && (i & (i + 1)) == 0 ? NAN : -Hux32f(i));
-    f.verify(f, image);
+    verify<Hux32f>(f, image);
   }
 }
 
 TEST(Extrema, ChecksInOrder) {
   Rng rng(3);
   const Image image(rng, 8, 4, 16);
-  for (const Form& f : kForms) {
+  for (const Member& f : kMembers) {
     SCOPED_TRACE(f.name);
     int at[8];
-    Args a = {image.bytes(), 16, {1, 1}, image.bytes(0, 1), image.bytes(0, 2), at, at + 4};
-    CheckOrder order([&] { return f.call(a); });
-    order.breaks(huxStsNullPtr, a.src, nullptr).breaks(huxStsNullPtr, a.first, nullptr);
-    if (f.kind == Kind::kMinMax) order.breaks(huxStsNullPtr, a.second, nullptr);
-    if (isIndx(f.kind)) order.breaks(huxStsNullPtr, a.x, nullptr).breaks(huxStsNullPtr, a.y, nullptr);
-    order.breaks(huxStsBadSize, a.roi.width, 0).breaks(huxStsBadSize, a.roi.height, -1);
-    order.breaks(huxStsBadStep, a.step, 0).run(image);
+    void *second = image.bytes(0, 2), *x = at, *y = at + 4;
+    Arguments a(image);
+    a.d = image.bytes(0, 1);
+    CheckOrder order([&] { return f.call(a.a, a.aStep, a.roi, a.d, second, x, y); });
+    order.in(a, "ad");
+    if (f.kind == Kind::kMinMax) order.nulls(second);
+    if (f.index) order.nulls(x, y);
+    order.in(a, "zA").run(image);
   }
 }
 

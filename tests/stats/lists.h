@@ -10,6 +10,14 @@
 
 namespace hux::test {
 
+// Calls body(T()) with the type of elements of a family of levels.
+template <class Body>
+void withPixels(Number type, Body body) {
+  if (type == Number::k8u) return body(Hux8u());
+  if (type == Number::k16s) return body(Hux16s());
+  return type == Number::k16u ? body(Hux16u()) : body(Hux32f());
+}
+
 // The number type of levels and values.
 template <class T>
 using NumberOf = std::conditional_t<std::is_floating_point_v<T>, Hux32f, Hux32s>;

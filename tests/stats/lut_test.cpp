@@ -8,42 +8,41 @@ namespace {
 
 enum class Curve { kStairs, kLines, kCubics };
 
-// A member with its lists as for several channels. In place source and destination are one image.
-template <class T>
-struct Member {
-  std::string name;
+// A member for one channel takes what it has of each list, the others the lists; in place there is one image.
+using One = HuxStatus(const void*, int, void*, int, HuxiSize, const void* values, const void* levels, int n);
+using Many = HuxStatus(const void*, int, void*, int, HuxiSize, const void*, const void*, const void*);
+using OneInPlace = HuxStatus(void*, int, HuxiSize, const void*, const void*, int);
+using ManyInPlace = HuxStatus(void*, int, HuxiSize, const void*, const void*, const void*);
+struct Member : Form {
   Curve curve;
-  Layout layout;
-  bool inPlace;
-  std::function<HuxStatus(const T*, int, T*, int, HuxiSize, NumberOf<T>* const*, NumberOf<T>* const*, const int*)> call;
-};
+  One* one = nullptr;
+  OneInPlace* oneInPlace = nullptr;
+  Many* many = nullptr;
+  ManyInPlace* manyInPlace = nullptr;
 
-#define LUT_FORMS(f, c, t, l, values, levels, n)                                              \
-  Member<Hux##t>{#f "_" #t "_" #l, Curve::c, l, false,                                        \
-                 [](auto src, int s, auto dst, int d, HuxiSize roi, auto v, auto k, auto m) { \
-                   return huxi##f##_##t##_##l##R(src, s, dst, d, roi, values, levels, n);     \
-                 }},                                                                          \
-      Member<Hux##t>{#f "_" #t "_" #l "I", Curve::c, l, true,                                 \
-                     [](auto, int, auto dst, int d, HuxiSize roi, auto v, auto k, auto m) {   \
-                       return huxi##f##_##t##_##l##IR(dst, d, roi, values, levels, n);        \
-                     }},
-#define LUT_C1(f, c, t) LUT_FORMS(f, c, t, C1, *v, *k, *m)
-#define LUT_CN(f, c, t, l) LUT_FORMS(f, c, t, l, v, k, m)
-#define LUT_ALL(t, l) LUT_CN(LUT, kStairs, t, l) LUT_CN(LUT_Linear, kLines, t, l) LUT_CN(LUT_Cubic, kCubics, t, l)
-template <class T>
-std::vector<Member<T>> members();
-#define MEMBERS(t)                                                                                             \
-  template <>                                                                                                  \
-  std::vector<Member<Hux##t>> members() {                                                                      \
-    return {                                                                                                   \
-      LUT_C1(LUT, kStairs, t)                                                                                  \
-      LUT_C1(LUT_Linear, kLines, t) LUT_C1(LUT_Cubic, kCubics, t) HUX_STAMP_LAYOUTS(LUT_ALL, t, (C3, C4, AC4)) \
-    };                                                                                                         \
+  bool inPlace() const { return oneInPlace || manyInPlace; }
+  template <class N>
+  HuxStatus call(const void* src, int srcStep, void* dst, int dstStep, HuxiSize roi, N* const* values, N* const* levels,
+                 const int* n) const {
+    if (one) return one(src, srcStep, dst, dstStep, roi, *values, *levels, *n);
+    if (oneInPlace) return oneInPlace(dst, dstStep, roi, *values, *levels, *n);
+    if (many) return many(src, srcStep, dst, dstStep, roi, values, levels, n);
+    return manyInPlace(dst, dstStep, roi, values, levels, n);
   }
-MEMBERS(8u)
-MEMBERS(16s)
-MEMBERS(16u)
-MEMBERS(32f)
+};
+#define MEMBERS(f, c, t)                                                                \
+  Member{HUX_FORM(t, C1), Curve::c, as<One, huxi##f##_##t##_C1R>},                      \
+      Member{HUX_FORM(t, C1), Curve::c, nullptr, as<OneInPlace, huxi##f##_##t##_C1IR>}, \
+      MANY(f, c, t, C3) MANY(f, c, t, C4) MANY(f, c, t, AC4)
+#define MANY(f, c, t, l)                                                                \
+  Member{HUX_FORM(t, l), Curve::c, nullptr, nullptr, as<Many, huxi##f##_##t##_##l##R>}, \
+      Member{HUX_FORM(t, l), Curve::c, nullptr, nullptr, nullptr, as<ManyInPlace, huxi##f##_##t##_##l##IR>},
+#define ALL(t, _) MEMBERS(LUT, kStairs, t) MEMBERS(LUT_Linear, kLines, t) MEMBERS(LUT_Cubic, kCubics, t)
+const Member kMembers[] = {HUX_STAMP(ALL, (8u, 16s, 16u, 32f), (_))};
+
+std::string name(const Member& m) {
+  return m.name + ", curve " + std::to_string(int(m.curve)) + (m.inPlace() ? " in place" : "");
+}
 
 template <class N>
 struct Curves {
@@ -132,15 +131,15 @@ Image wholeImage(Rng& rng, int width, int height, Layout layout, Place place) {
 }
 
 template <class T>
-void expectMapped(const Member<T>& member, Rng& rng, int width, int height, const Lists<NumberOf<T>>& levels,
+void expectMapped(const Member& member, Rng& rng, int width, int height, const Lists<NumberOf<T>>& levels,
                   const Lists<NumberOf<T>>& values) {
   const Layout layout = member.layout;
   const HuxiSize roi = {width, height};
   Image src = wholeImage<T>(rng, width, height, layout, Place(between(rng, 0, 2)));
   fillPixels<T>(rng, src);
-  const Image before = src, dst = member.inPlace ? src : wholeImage<T>(rng, width, height, layout, Place::kEnd);
+  const Image before = src, dst = member.inPlace() ? src : wholeImage<T>(rng, width, height, layout, Place::kEnd);
   Image result = dst;
-  ASSERT_EQ(member.call(src.data<T>(), src.step(), result.data<T>(), result.step(), roi, values.data.data(),
+  ASSERT_EQ(member.call(src.bytes(), src.step(), result.bytes(), result.step(), roi, values.data.data(),
                         levels.data.data(), levels.lengths().data()),
             huxStsOk);
   bool few = false;
@@ -152,13 +151,11 @@ void expectMapped(const Member<T>& member, Rng& rng, int width, int height, cons
     for (int x = 0; x < width; ++x)
       for (int c = 0; c < layout.touched; ++c) {
         const std::size_t at = std::size_t(c);
-        const auto offset = (x * layout.stride + c) * int(sizeof(T));
-        T p, actual;
-        std::memcpy(&p, before.bytes(offset, y), sizeof p);
-        std::memcpy(&actual, result.bytes(offset, y), sizeof p);
+        const int i = x * layout.stride + c;
+        const T p = before.get<T>(0, y, i), actual = result.get<T>(0, y, i);
         const auto expected = defined(Curves<NumberOf<T>>{curve, levels.of[at], values.of[at]}, p);
         ASSERT_TRUE(agrees<T>(actual, expected)) << +p << " gives " << +actual << " and not " << +expected.first;
-        std::memcpy(kept.bytes(offset, y), &actual, sizeof p);
+        kept.set<T>(0, y, i, actual);
       }
   ASSERT_TRUE(same(result, kept));
 }
@@ -185,50 +182,46 @@ Lists<NumberOf<T>> valuesFor(Rng& rng, const Lists<NumberOf<T>>& levels) {
 }
 
 template <class T>
-void expectAll() {
+void expectShapes(Rng& rng, const Member& m) {
+  const auto run = [&](int width, int height, int least, int most, Manner manner) {
+    const bool cubics = m.curve == Curve::kCubics;
+    const auto levels = cubics ? spreadLevels<T>(rng, m.layout) : anyLists<T>(rng, m.layout, least, most, manner);
+    auto values = valuesFor<T>(rng, levels);
+    if (cubics)  // whose differences are formed in 32 bits
+      for (auto& list : values.of)
+        for (auto& value : list) value = std::clamp<NumberOf<T>>(value, -100000, 100000);
+    expectMapped<T>(m, rng, width, height, levels, values);
+  };
+  const bool tables = sizeof(T) == 2;
+  for (int width = 1; width < 140; width += tables ? 9 : 1) {
+    run(width, between(rng, 1, 3), 2, 9, Manner::kStrict);
+    // Small images of 16 bits search, and mean something else by levels that do not ascend.
+    if (!tables || m.curve != Curve::kStairs) run(width, 2, 2, 9, Manner(between(rng, 0, 3)));
+  }
+  for (int width : {1023, 1025, 2100}) run(width, 2, 2, 60, Manner::kStrict);
+  for (int width : {4096, 4097, 6400, 6401}) run(width, 1, 3, 40, Manner::kStrict);
+  run(200, 40, 3, 12, Manner::kAny);
+}
+TEST(Lut, ElementsFollowTheCurve) {
   Rng rng(1);
-  for (const auto& member : members<T>()) {
-    SCOPED_TRACE(member.name);
-    const auto run = [&](int width, int height, int least, int most, Manner manner) {
-      const auto levels = member.curve == Curve::kCubics ? spreadLevels<T>(rng, member.layout)
-                                                         : anyLists<T>(rng, member.layout, least, most, manner);
-      auto values = valuesFor<T>(rng, levels);
-      if (member.curve == Curve::kCubics)  // whose differences are formed in 32 bits
-        for (auto& list : values.of)
-          for (auto& value : list) value = std::clamp<NumberOf<T>>(value, -100000, 100000);
-      expectMapped(member, rng, width, height, levels, values);
-    };
-    const bool tables = sizeof(T) == 2;
-    for (int width = 1; width < 140; width += tables ? 9 : 1) {
-      run(width, between(rng, 1, 3), 2, 9, Manner::kStrict);
-      // Small images of 16 bits search, and mean something else by levels that do not ascend.
-      if (!tables || member.curve != Curve::kStairs) run(width, 2, 2, 9, Manner(between(rng, 0, 3)));
-    }
-    for (int width : {1023, 1025, 2100}) run(width, 2, 2, 60, Manner::kStrict);
-    for (int width : {4096, 4097, 6400, 6401}) run(width, 1, 3, 40, Manner::kStrict);
-    run(200, 40, 3, 12, Manner::kAny);
+  for (const Member& m : kMembers) {
+    SCOPED_TRACE(name(m));
+    withPixels(m.type, [&]<class T>(T) { expectShapes<T>(rng, m); });
   }
 }
-TEST(Lut, Bytes) { expectAll<Hux8u>(); }
-TEST(Lut, SignedWords) { expectAll<Hux16s>(); }
-TEST(Lut, UnsignedWords) { expectAll<Hux16u>(); }
-TEST(Lut, Floats) { expectAll<Hux32f>(); }
 
 // Levels that do not ascend, in a small image and in a large one.
 TEST(Lut, SearchAndTableOfFallingLevels) {
   const Hux32s levels[] = {10, 40, 20, 30, 50}, values[] = {1, 2, 3, 4, 0};
-  std::vector<Hux16u> image(6401, 25);
-  ASSERT_EQ(huxiLUT_16u_C1IR(image.data(), 12800, {6400, 1}, values, levels, 5), huxStsOk);
-  EXPECT_EQ(image[0], 3);  // half way: not below 20; then below 30
-  image.assign(6401, 35);
-  ASSERT_EQ(huxiLUT_16u_C1IR(image.data(), 12800, {6400, 1}, values, levels, 5), huxStsOk);
-  EXPECT_EQ(image[0], 4);
-  image.assign(6401, 15);
-  ASSERT_EQ(huxiLUT_16u_C1IR(image.data(), 12800, {6400, 1}, values, levels, 5), huxStsOk);
-  EXPECT_EQ(image[0], 1);
-  image.assign(6401, 45);
-  ASSERT_EQ(huxiLUT_16u_C1IR(image.data(), 12802, {6401, 1}, values, levels, 5), huxStsOk);
-  EXPECT_EQ(image[0], 4);
+  const struct {
+    Hux16u pixel, expected;
+    int width;
+  } cases[] = {{25, 3, 6400}, {35, 4, 6400}, {15, 1, 6400}, {45, 4, 6401}};  // 25: half way not below 20; then below 30
+  for (const auto& [pixel, expected, width] : cases) {
+    std::vector<Hux16u> image(6401, pixel);
+    ASSERT_EQ(huxiLUT_16u_C1IR(image.data(), 2 * width, {width, 1}, values, levels, 5), huxStsOk);
+    EXPECT_EQ(image[0], expected);
+  }
 }
 
 // A window of a polynomial with equal levels: its segments that have an extent become the lowest value, or what an
@@ -241,124 +234,87 @@ TEST(Lut, CubicsOfEqualLevels) {
   for (int i = 0; i < 256; ++i) EXPECT_TRUE(image[i] == 0 || image[i] == 255) << i;
 }
 
-template <class T>
-void expectNoMemory() {
+TEST(Lut, Memory) {
   Rng rng(2);
-  for (const auto& member : members<T>()) {
-    SCOPED_TRACE(member.name);
-    for (const HuxiSize roi : {HuxiSize{64, 64}, {4097, 1}, {80, 80}, {6401, 1}}) {
-      const int pixels = roi.width * roi.height;
-      const bool search = member.layout.stride == 1 ? pixels <= 6400 : member.layout.stride == 3 && pixels < 4097;
-      const bool needs = member.curve != Curve::kStairs ? sizeof(T) > 1 : sizeof(T) == 2 && !search;
-      const Image image = wholeImage<T>(rng, roi.width, roi.height, member.layout, Place::kInside);
-      const Image before = image;
-      const auto levels = anyLists<T>(rng, member.layout, 4, 4, Manner::kStrict);
-      const auto values = valuesFor<T>(rng, levels);
-      int failures = 0;
-      const int live = liveBlocks();
-      const HuxStatus status = walkAllocationFailures(
-          [&] {
-            return member.call(image.data<T>(), image.step(), image.data<T>(), image.step(), roi, values.data.data(),
-                               levels.data.data(), levels.lengths().data());
-          },
-          [&](HuxStatus failed) {
-            ++failures;
-            EXPECT_EQ(failed, huxStsNoMem);
-            EXPECT_TRUE(same(image, before));
-          });
-      EXPECT_EQ(status, huxStsOk);
-      EXPECT_EQ(failures > 0, needs) << pixels;
-      EXPECT_EQ(liveBlocks(), live);
-    }
+  for (const Member& m : kMembers) {
+    SCOPED_TRACE(name(m));
+    for (const HuxiSize roi : {HuxiSize{64, 64}, {4097, 1}, {80, 80}, {6401, 1}})
+      withPixels(m.type, [&]<class T>(T) {
+        const int pixels = roi.width * roi.height;
+        const bool search = m.layout.stride == 1 ? pixels <= 6400 : m.layout.stride == 3 && pixels < 4097;
+        const bool needs = m.curve != Curve::kStairs ? sizeof(T) > 1 : sizeof(T) == 2 && !search;
+        const Image image = wholeImage<T>(rng, roi.width, roi.height, m.layout, Place::kInside);
+        const auto levels = anyLists<T>(rng, m.layout, 4, 4, Manner::kStrict);
+        const auto values = valuesFor<T>(rng, levels);
+        const auto call = [&] {
+          return m.call(image.bytes(), image.step(), image.bytes(), image.step(), roi, values.data.data(),
+                        levels.data.data(), levels.lengths().data());
+        };
+        EXPECT_EQ(failuresOf(call, image) > 0, needs) << pixels;
+      });
   }
 }
-TEST(Lut, Memory) {
-  expectNoMemory<Hux8u>(), expectNoMemory<Hux16s>(), expectNoMemory<Hux16u>(), expectNoMemory<Hux32f>();
-}
 
-template <class T>
-void expectOrders() {
+TEST(Lut, OrderOfChecks) {
   Rng rng(3);
-  for (const auto& member : members<T>()) {
-    SCOPED_TRACE(member.name);
-    const Image image(rng, 64, 8, 4);
-    const T* src = image.data<T>();
-    T* dst = image.data<T>() + 256 / sizeof(T);
-    int srcStep = 64, dstStep = 64;
-    HuxiSize roi = {3, 2};
-    Lists<NumberOf<T>> levels(4, 4), values(4, 4);
-    NumberOf<T>*const *v = values.data.data(), *const *k = levels.data.data();
+  const Image image(rng, 64, 8, 4);
+  for (const Member& m : kMembers) {
+    SCOPED_TRACE(name(m));
+    Arguments a(image, {3, 2});
+    Lists<Hux32s> levels(4, 4), values(4, 4);
+    Hux32s *const *v = values.data.data(), *const *k = levels.data.data();
     std::array<int, 4> n = {4, 4, 4, 4};
     const int* lengths = n.data();
-    CheckOrder order([&] { return member.call(src, srcStep, dst, dstStep, roi, v, k, lengths); });
-    const auto sizeAndSteps = [&] {
-      order.breaks(huxStsBadSize, roi.width, 0).breaks(huxStsBadSize, roi.height, -1);
-      if (!member.inPlace) order.breaks(huxStsBadStep, srcStep, 0);
-      order.breaks(huxStsBadStep, dstStep, -1);
-    };
-    if (!member.inPlace) order.breaks(huxStsNullPtr, src, nullptr);
-    order.breaks(huxStsNullPtr, dst, nullptr);
-    if (member.layout.stride == 1) {
-      order.breaks(huxStsNullPtr, values.data[0], nullptr).breaks(huxStsNullPtr, levels.data[0], nullptr);
-      sizeAndSteps();
-      order.breaks(huxStsBadLutLevels, n[0], 1);
+    CheckOrder order([&] { return m.call(a.a, a.aStep, a.d, a.dStep, a.roi, v, k, lengths); });
+    const std::string without = m.inPlace() ? "aA" : "";
+    order.in(a, "ad", without);
+    if (m.layout.stride == 1) {
+      order.nulls(values.data[0], levels.data[0]).in(a, "zAD", without).breaks(huxStsBadLutLevels, n[0], 1);
     } else {
-      order.breaks(huxStsNullPtr, v, nullptr).breaks(huxStsNullPtr, k, nullptr).breaks(huxStsNullPtr, lengths, nullptr);
-      for (std::size_t c = 0; c < std::size_t(member.layout.touched); ++c)
-        order.breaks(huxStsNullPtr, values.data[c], nullptr)
-            .breaks(huxStsNullPtr, levels.data[c], nullptr)
-            .breaks(huxStsBadLutLevels, n[c], 1);
-      sizeAndSteps();
+      order.nulls(v, k, lengths);
+      for (std::size_t c = 0; c < std::size_t(m.layout.touched); ++c)
+        order.nulls(values.data[c], levels.data[c]).breaks(huxStsBadLutLevels, n[c], 1);
+      order.in(a, "zAD", without);
     }
     order.run(image);
   }
 }
-TEST(Lut, OrderOfChecks) {
-  expectOrders<Hux8u>(), expectOrders<Hux16s>(), expectOrders<Hux16u>(), expectOrders<Hux32f>();
-}
 
-template <class S, class D>
-void expectPalette(const char* name, HuxStatus (*fn)(const S*, int, D*, int, HuxiSize, const D*, int), int entry) {
-  SCOPED_TRACE(name);
-  Rng rng(4);
-  std::vector<D> table(std::size_t(entry) << 8 * sizeof(S));
-  for (D& value : table) value = D(rng());
-  const int pixelBytes = entry * int(sizeof(D)), most = int(sizeof(S)) * 8;
-  for (int width = 1; width < 140; ++width) {
-    const int bits = between(rng, 1, most);
-    const Image src(rng, width, 2, sizeof(S), Place::kEnd);
-    Image dst(rng, width, 2, pixelBytes, Place::kEnd), expected = dst;
-    for (int y = 0; y < 2; ++y)
-      for (int x = 0; x < width; ++x)
-        std::memcpy(expected.bytes(x, y), &table[std::size_t(src.get<S>(x, y) % (1 << bits) * entry)],
-                    std::size_t(pixelBytes));
-    ASSERT_EQ(fn(src.data<S>(), src.step(), dst.data<D>(), dst.step(), {width, 2}, table.data(), bits), huxStsOk);
-    ASSERT_TRUE(same(dst, expected)) << bits << " bits";
-  }
-  const Image image(rng, 64, 8, 4);
-  const S* src = image.data<S>();
-  D* dst = image.data<D>() + 256 / sizeof(D);
-  const D* entries = table.data();
-  int srcStep = 64, dstStep = 64, bits = most;
-  HuxiSize roi = {3, 2};
-  CheckOrder([&] { return fn(src, srcStep, dst, dstStep, roi, entries, bits); })
-      .breaks(huxStsNullPtr, src, nullptr)
-      .breaks(huxStsNullPtr, dst, nullptr)
-      .breaks(huxStsNullPtr, entries, nullptr)
-      .breaks(huxStsBadStep, srcStep, 0)
-      .breaks(huxStsBadStep, dstStep, 0)
-      .breaks(huxStsBadSize, roi.width, 0)
-      .breaks(huxStsBadSize, roi.height, 0)
-      .breaks(huxStsBadBitSize, bits, 0)
-      .breaks(huxStsBadBitSize, bits, most + 1)
-      .run(image);
-}
 TEST(LutPalette, EntriesAndOrderOfChecks) {
-  expectPalette("8u24u", huxiLUTPalette_8u24u_C1R, 3);
-  expectPalette("8u32u", huxiLUTPalette_8u32u_C1R, 1);
-  expectPalette("16u8u", huxiLUTPalette_16u8u_C1R, 1);
-  expectPalette("16u24u", huxiLUTPalette_16u24u_C1R, 3);
-  expectPalette("16u32u", huxiLUTPalette_16u32u_C1R, 1);
+  using PaletteFn = HuxStatus(const void*, int, void*, int, HuxiSize, const void* table, int bits);
+  const struct {
+    int bytes, entry;
+    PaletteFn* map;
+  } members[] = {{1, 3, as<PaletteFn, huxiLUTPalette_8u24u_C1R>},
+                 {1, 4, as<PaletteFn, huxiLUTPalette_8u32u_C1R>},
+                 {2, 1, as<PaletteFn, huxiLUTPalette_16u8u_C1R>},
+                 {2, 3, as<PaletteFn, huxiLUTPalette_16u24u_C1R>},
+                 {2, 4, as<PaletteFn, huxiLUTPalette_16u32u_C1R>}};
+  Rng rng(4);
+  const Image image(rng, 64, 8, 4);
+  for (const auto& m : members) {
+    SCOPED_TRACE(testing::Message() << m.bytes << " to " << m.entry << " bytes");
+    const int most = 8 * m.bytes;
+    std::vector<Hux32u> table(std::size_t(m.entry) << most >> 2);
+    for (Hux32u& word : table) word = Hux32u(rng());
+    const auto* entryBytes = reinterpret_cast<const std::byte*>(table.data());
+    for (int width = 1; width < 140; ++width) {
+      int bits = between(rng, 1, most);
+      const Image src(rng, width, 2, m.bytes, Place::kEnd), dst(rng, width, 2, m.entry, Place::kEnd), expected = dst;
+      forPixels({width, 2}, [&](int x, int y) {
+        const int p = m.bytes == 1 ? src.get<Hux8u>(x, y) : src.get<Hux16u>(x, y);
+        std::memcpy(expected.bytes(x, y), entryBytes + p % (1 << bits) * m.entry, std::size_t(m.entry));
+      });
+      ASSERT_EQ(m.map(src.bytes(), src.step(), dst.bytes(), dst.step(), {width, 2}, table.data(), bits), huxStsOk);
+      ASSERT_TRUE(same(dst, expected)) << bits << " bits";
+    }
+    const void* entries = table.data();
+    int bits = most;
+    Arguments a(image, {3, 2});
+    CheckOrder order([&] { return m.map(a.a, a.aStep, a.d, a.dStep, a.roi, entries, bits); });
+    order.in(a, "ad").nulls(entries).in(a, "ADz");
+    order.breaks(huxStsBadBitSize, bits, 0).breaks(huxStsBadBitSize, bits, most + 1).run(image);
+  }
 }
 
 }  // namespace

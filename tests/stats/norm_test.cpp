@@ -8,25 +8,28 @@ namespace {
 enum class Metric { kInf, kL1, kL2 };
 enum class Family { kNorm, kNormDiff, kNormRel };
 
-struct Member {
-  const char* name;
+struct Member : Form {
   Family family;
   Metric metric;
-  Type type;
-  Layout layout;
-  Call call;
+  OneFn* one;
+  TwoFn* two;
 
   bool single() const { return layout.stride == 1; }
+  HuxStatus call(const void* a, int aStep, const void* b, int bStep, HuxiSize roi, void* result) const {
+    return one ? one(a, aStep, roi, result, 0) : two(a, aStep, b, bStep, roi, result, 0);
+  }
 };
 
-std::vector<Member> members() {
-#define MEMBER(F, M, t, l) \
-  Member{#F "_" #M "_" #t "_" #l, Family::k##F, Metric::k##M, Type::k##t, l, call<huxi##F##_##M##_##t##_##l##R>},
-#define FAMILIES(M, t, l) MEMBER(Norm, M, t, l) MEMBER(NormDiff, M, t, l) MEMBER(NormRel, M, t, l)
+#define MEMBER(F, M, t, l, ...) \
+  Member{{#F "_" #M "_" #t "_" #l, int(sizeof(Hux##t)), l, Number::k##t}, Family::k##F, Metric::k##M, __VA_ARGS__},
+#define ONE(M, t, l) MEMBER(Norm, M, t, l, as<OneFn, huxiNorm_##M##_##t##_##l##R>, nullptr)
+#define TWO(F, M, t, l) MEMBER(F, M, t, l, nullptr, as<TwoFn, huxi##F##_##M##_##t##_##l##R>)
+#define FAMILIES(M, t, l) ONE(M, t, l) TWO(NormDiff, M, t, l) TWO(NormRel, M, t, l)
 #define METRICS(t, l) FAMILIES(Inf, t, l) FAMILIES(L1, t, l) FAMILIES(L2, t, l)
+std::vector<Member> members() {
   return {
     HUX_STAMP(METRICS, (8u, 16s, 16u, 32f), (C1, C3, C4, AC4))
-    MEMBER(Norm, Inf, 32s, C1)
+    ONE(Inf, 32s, C1)
   };
 }
 
@@ -34,8 +37,7 @@ std::vector<Member> members() {
 template <class Term>
 double stridedSum(HuxiSize roi, Term term) {
   double sums[32] = {};
-  for (int y = 0; y < roi.height; ++y)
-    for (int x = 0; x < roi.width; ++x) sums[x % 32] += term(x, y);
+  forPixels(roi, [&](int x, int y) { sums[x % 32] += term(x, y); });
   for (int half = 16; half > 0; half /= 2)
     for (int k = 0; k < half; ++k) sums[k] += sums[k + half];
   return sums[0];
@@ -52,15 +54,14 @@ struct Values {
 double measure(const Member& m, HuxiSize roi, bool rooted, Values d) {
   const auto magnitude = [&](int x, int y) { return std::fabs(d(x, y)); };
   const auto square = [&](int x, int y) { return d(x, y) * d(x, y); };
-  const bool floats = m.type == Type::k32f, relative = m.family == Family::kNormRel;
+  const bool floats = m.type == Number::k32f, relative = m.family == Family::kNormRel;
   const bool anyOrder = m.single() && roi.width >= 9 && (relative || (d.b && m.metric == Metric::kL2));
   if (m.metric == Metric::kInf) {
     double running[2] = {};
-    for (int y = 0; y < roi.height; ++y)
-      for (int x = 0; x < roi.width; ++x) {
-        double& value = running[m.single() && x % 2];
-        value = value > magnitude(x, y) ? value : magnitude(x, y);
-      }
+    forPixels(roi, [&](int x, int y) {
+      double& value = running[m.single() && x % 2];
+      value = value > magnitude(x, y) ? value : magnitude(x, y);
+    });
     return running[0] > running[1] || !m.single() ? running[0] : running[1];
   }
   if (m.metric == Metric::kL1) {
@@ -70,7 +71,7 @@ double measure(const Member& m, HuxiSize roi, bool rooted, Values d) {
   double squares = 0;
   if (floats) {
     squares = anyOrder ? stridedSum(roi, square) : orderedSum(roi, m.single(), square);
-  } else if (m.type == Type::k8u && rooted && roi.width > 32768) {
+  } else if (m.type == Number::k8u && rooted && roi.width > 32768) {
     for (int x = 0; x < roi.width; x += 32768) {
       const HuxiSize strip = {std::min(32768, roi.width - x), roi.height};
       const double norm = measure(m, strip, true, {d.a, d.b, d.c, x});
@@ -78,8 +79,7 @@ double measure(const Member& m, HuxiSize roi, bool rooted, Values d) {
     }
   } else {
     Hux64s sum = 0;
-    for (int y = 0; y < roi.height; ++y)
-      for (int x = 0; x < roi.width; ++x) sum += Hux64s(square(x, y));
+    forPixels(roi, [&](int x, int y) { sum += Hux64s(square(x, y)); });
     squares = double(sum);
   }
   return rooted ? std::sqrt(squares) : squares;
@@ -102,10 +102,9 @@ HuxStatus reference(const Member& m, const Elements& a, const Elements& b, HuxiS
 }
 
 void expectNorm(Rng& rng, const Member& m, int width, int height, int kind1, int kind2) {
-  SCOPED_TRACE(std::string(m.name) + " " + std::to_string(width) + "x" + std::to_string(height) + " " +
-               std::to_string(kind1));
+  SCOPED_TRACE(m.name + " " + std::to_string(width) + "x" + std::to_string(height) + " " + std::to_string(kind1));
   const auto image = [&](int kind) {
-    Image image = touchedImage(rng, width, height, m.layout, bytesOf(m.type), Place(between(rng, 0, 2)));
+    Image image = touchedImage(rng, width, height, m.layout, m.elementBytes, Place(between(rng, 0, 2)));
     if (kind < 0)
       image.fill<Hux8u>([] { return Hux8u(0); });
     else
@@ -115,7 +114,7 @@ void expectNorm(Rng& rng, const Member& m, int width, int height, int kind1, int
   const Image a = image(kind1), b = image(kind2);
   const HuxiSize roi = {width, height};
   double values[4] = {-1, -1, -1, -1}, expected[4] = {-1, -1, -1, -1};
-  const HuxStatus status = reference(m, {a, m.type, m.layout}, {b, m.type, m.layout}, roi, expected);
+  const HuxStatus status = reference(m, {a, m}, {b, m}, roi, expected);
   ASSERT_EQ(m.call(a.bytes(), a.step(), b.bytes(), b.step(), roi, values), status);
   for (int c = 0; c < 4; ++c) ASSERT_TRUE(alike(values[c], expected[c])) << "channel " << c;
 }
@@ -136,9 +135,9 @@ TEST(Norm, Shapes) {
 TEST(Norm, WideRows) {
   Rng rng(2);
   for (const Member& m : members()) {
-    const bool words = m.type == Type::k16s || m.type == Type::k16u;
+    const bool words = m.type == Number::k16s || m.type == Number::k16u;
     if (m.metric == Metric::kInf || m.layout.stride == 3 || m.layout.touched == 4) continue;
-    if (m.type == Type::k8u && m.metric == Metric::kL2)
+    if (m.type == Number::k8u && m.metric == Metric::kL2)
       for (int width : {32768, 32769, 65536 + 5})
         expectNorm(rng, m, width, 2, 0, 0), expectNorm(rng, m, width, 1, 1, -1);
     for (int width : {32768, 32769, 65535, 65536})
@@ -163,17 +162,16 @@ TEST(NormRel, OneBadChannel) {
   Rng rng(3);
   for (const Member& m : members())
     for (const Hux32f bad : {0.0f, std::numeric_limits<Hux32f>::quiet_NaN()}) {
-      if (m.family != Family::kNormRel || (bad != 0 && m.type != Type::k32f)) continue;
+      if (m.family != Family::kNormRel || (bad != 0 && m.type != Number::k32f)) continue;
       SCOPED_TRACE(m.name);
-      const int bytes = bytesOf(m.type);
       const HuxiSize roi = {9, 3};
-      Image a(rng, 9 * m.layout.stride * bytes, 3, 1), b = a;
+      const Image a(rng, 9, 3, m.pixelBytes()), b = a;
       scatter(rng, a, m.type, 0), scatter(rng, b, m.type, 0);
-      for (int y = 0; y < 3; ++y)
-        for (int x = 0; x < 9; ++x)
-          std::memcpy(b.bytes((x * m.layout.stride + m.layout.touched / 2) * bytes, y), &bad, std::size_t(bytes));
+      forPixels({9, 3}, [&](int x, int y) {
+        std::memcpy(b.bytes(x, y) + m.layout.touched / 2 * m.elementBytes, &bad, std::size_t(m.elementBytes));
+      });
       double values[4], expected[4];
-      ASSERT_EQ(reference(m, {a, m.type, m.layout}, {b, m.type, m.layout}, roi, expected), huxStsDivByZeroWarn);
+      ASSERT_EQ(reference(m, {a, m}, {b, m}, roi, expected), huxStsDivByZeroWarn);
       ASSERT_EQ(m.call(a.bytes(), a.step(), b.bytes(), b.step(), roi, values), huxStsDivByZeroWarn);
       for (int c = 0; c < m.layout.touched; ++c) ASSERT_TRUE(alike(values[c], expected[c])) << "channel " << c;
     }
@@ -182,26 +180,14 @@ TEST(NormRel, OneBadChannel) {
 TEST(Norm, ChecksInOrder) {
   Rng rng(4);
   const Image image(rng, 64, 4, 1);
+  double values[4];
   for (const Member& m : members()) {
     SCOPED_TRACE(m.name);
-    const void *src1 = image.bytes(), *src2 = image.bytes();
-    int step1 = 16, step2 = 16;
-    HuxiSize roi = {1, 1};
-    double values[4];
-    void* result = values;
-    CheckOrder order([&] {
-      const HuxStatus s = m.call(src1, step1, src2, step2, roi, result);
-      return s > 0 ? huxStsOk : s;
-    });
-    const bool two = m.family != Family::kNorm, stepsFirst = m.type == Type::k16u;
-    order.breaks(huxStsNullPtr, src1, nullptr).breaks(huxStsNullPtr, result, nullptr);
-    if (two) order.breaks(huxStsNullPtr, src2, nullptr);
-    for (const bool steps : {stepsFirst, !stepsFirst}) {
-      if (!steps) order.breaks(huxStsBadSize, roi.width, 0).breaks(huxStsBadSize, roi.height, -1);
-      if (steps) order.breaks(huxStsBadStep, step1, 0);
-      if (steps && two) order.breaks(huxStsBadStep, step2, -1);
-    }
-    order.run(image);
+    Arguments a(image);
+    a.d = values;
+    const auto call = [&] { return m.call(a.a, a.aStep, a.b, a.bStep, a.roi, a.d); };
+    CheckOrder order([&] { return std::min<HuxStatus>(call(), huxStsOk); });
+    order.in(a, m.type == Number::k16u ? "adbABz" : "adbzAB", m.two ? "" : "bB").run(image);
   }
 }
 

@@ -10,59 +10,23 @@
 
 namespace hux::test {
 
-enum class Type { k8u, k16s, k16u, k32s, k32f };
-inline int bytesOf(Type t) { return t == Type::k8u ? 1 : t <= Type::k16u ? 2 : 4; }
-
-// Calls a member of one or of two images, with or without the hint.
-using Call = HuxStatus (*)(const void*, int, const void*, int, HuxiSize, void*);
-template <auto Fn>
-HuxStatus call(const void* src1, int step1, const void* src2, int step2, HuxiSize roi, void* result) {
-  const auto with = [&](auto... args) {
-    constexpr auto fn = erased<Fn>;
-    if constexpr (std::is_invocable_v<decltype(fn), decltype(args)..., HuxiSize, void*>)
-      return fn(args..., roi, result);
-    else
-      return fn(args..., roi, result, 0);
-  };
-  using F = decltype(erased<Fn>);
-  if constexpr (std::is_invocable_v<F, const void*, int, HuxiSize, void*> ||
-                std::is_invocable_v<F, const void*, int, HuxiSize, void*, int>)
-    return with(src1, step1);
-  else
-    return with(src1, step1, src2, step2);
-}
+// Members of one or of two images; some take a hint.
+using OneFn = HuxStatus(const void*, int, HuxiSize, void*, HuxAccuracyHint);
+using TwoFn = HuxStatus(const void*, int, const void*, int, HuxiSize, void*, HuxAccuracyHint);
 
 // Elements of a region of an image seen as bytes.
 struct Elements {
   const Image& image;
-  Type type;
-  Layout layout;
-
+  const Form& form;
   double operator()(int x, int y, int c) const {
-    const std::byte* p = image.bytes((x * layout.stride + c) * bytesOf(type), y);
-    const auto as = [&](auto value) {
-      std::memcpy(&value, p, sizeof value);
-      return double(value);
-    };
-    switch (type) {
-      case Type::k8u:
-        return as(Hux8u());
-      case Type::k16s:
-        return as(Hux16s());
-      case Type::k16u:
-        return as(Hux16u());
-      case Type::k32s:
-        return as(Hux32s());
-      default:
-        return as(Hux32f());
-    }
+    return numberAt(form.type, image.bytes(0, y) + x * form.pixelBytes() + c * form.elementBytes);
   }
 };
 
 // Fills an image, but for what lies in between the elements, in one of several manners: anything, the largest
 // magnitudes, few bits; floats of much and of little range, and among them some that spoil a sum.
-inline void scatter(Rng& rng, const Image& image, Type type, int kind) {
-  const int bytes = bytesOf(type), n = image.width() / bytes;
+inline void scatter(Rng& rng, const Image& image, Number type, int kind) {
+  const int bytes = bytesOf(type), n = image.width() * image.pixelBytes() / bytes;
   const auto random = [&](int scale) { return std::ldexp(Hux32f(Hux64s(rng())), between(rng, -scale, scale) - 63); };
   const auto number = [&](int y) -> Hux32f {
     switch (kind % 8) {
@@ -84,15 +48,14 @@ inline void scatter(Rng& rng, const Image& image, Type type, int kind) {
         return rng() % 100 ? std::fabs(random(1)) : std::bit_cast<Hux32f>(Hux32u(rng() | 0x7f800000u));
     }
   };
-  for (int y = 0; y < image.height(); ++y)
-    for (int x = 0; x < n; ++x) {
-      Hux32u bits = Hux32u(kind % 4 == 0 ? rng() : kind % 4 == 1 ? ~0u : kind % 4 == 2 ? 0x80008000u : rng() % 4);
-      if (type == Type::k32f) bits = std::bit_cast<Hux32u>(number(y));
-      // Rows that cancel each other show what was lost of the first one.
-      if (type == Type::k32f && kind % 8 == 2 && y > 1 && y % 2 == 0)
-        std::memcpy(&bits, image.bytes(x * bytes, y - 1), sizeof bits), bits ^= 0x80000000u;
-      std::memcpy(image.bytes(x * bytes, y), &bits, std::size_t(bytes));
-    }
+  forPixels({n, image.height()}, [&](int x, int y) {
+    Hux32u bits = Hux32u(kind % 4 == 0 ? rng() : kind % 4 == 1 ? ~0u : kind % 4 == 2 ? 0x80008000u : rng() % 4);
+    if (type == Number::k32f) bits = std::bit_cast<Hux32u>(number(y));
+    // Rows that cancel each other show what was lost of the first one.
+    if (type == Number::k32f && kind % 8 == 2 && y > 1 && y % 2 == 0)
+      std::memcpy(&bits, image.bytes(0, y - 1) + x * bytes, sizeof bits), bits ^= 0x80000000u;
+    std::memcpy(image.bytes(0, y) + x * bytes, &bits, std::size_t(bytes));
+  });
 }
 
 // An integer total as the library converts it: 32 bits, signed, whatever the total.
@@ -102,8 +65,7 @@ inline double wrapped(std::int64_t total) { return Hux32s(Hux32u(total)); }
 template <class Term>
 double orderedSum(HuxiSize roi, bool split, Term term) {
   double sums[2] = {};
-  for (int y = 0; y < roi.height; ++y)
-    for (int x = 0; x < roi.width; ++x) sums[split && x % 2] += term(x, y);
+  forPixels(roi, [&](int x, int y) { sums[split && x % 2] += term(x, y); });
   return split ? sums[1] + sums[0] : sums[0];
 }
 // The same of integers, 32 bits of each `block` pixels of a row.

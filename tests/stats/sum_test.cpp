@@ -5,33 +5,29 @@
 namespace hux::test {
 namespace {
 
-struct Member {
-  std::string name;
-  Type type;
-  Layout layout;
-  Call sum, mean;
+struct Member : Form {
+  OneFn *sum, *mean;
 };
-
+#define MEMBER(t, l) Member{HUX_FORM(t, l), as<OneFn, huxiSum_##t##_##l##R>, as<OneFn, huxiMean_##t##_##l##R>},
 std::vector<Member> members() {
-#define MEMBER(t, l) Member{#t "_" #l, Type::k##t, l, call<huxiSum_##t##_##l##R>, call<huxiMean_##t##_##l##R>},
   return { HUX_STAMP(MEMBER, (8u, 16s, 16u, 32f), (C1, C3, C4, AC4)) };
 }
 
 double sumOf(const Member& m, const Image& image, HuxiSize roi, int c) {
-  const Elements elements{image, m.type, m.layout};
+  const Elements elements{image, m};
   const auto term = [&](int x, int y) { return elements(x, y, c); };
-  if (m.type == Type::k32f) return orderedSum(roi, m.layout.stride == 1, term);
-  return blockSum(roi, m.type == Type::k8u ? roi.width : 65536, term);
+  if (m.type == Number::k32f) return orderedSum(roi, m.layout.stride == 1, term);
+  return blockSum(roi, m.type == Number::k8u ? roi.width : 65536, term);
 }
 
 void expectSums(Rng& rng, const Member& m, int width, int height, int kind) {
   SCOPED_TRACE(m.name + " " + std::to_string(width) + "x" + std::to_string(height) + " " + std::to_string(kind));
-  const Image image = touchedImage(rng, width, height, m.layout, bytesOf(m.type), Place(between(rng, 0, 2)));
+  const Image image = touchedImage(rng, width, height, m.layout, m.elementBytes, Place(between(rng, 0, 2)));
   scatter(rng, image, m.type, kind);
   const HuxiSize roi = {width, height};
   double sums[4] = {-1, -1, -1, -1}, means[4] = {-1, -1, -1, -1};
-  ASSERT_EQ(m.sum(image.bytes(), image.step(), nullptr, 0, roi, sums), huxStsOk);
-  ASSERT_EQ(m.mean(image.bytes(), image.step(), nullptr, 0, roi, means), huxStsOk);
+  ASSERT_EQ(m.sum(image.bytes(), image.step(), roi, sums, 0), huxStsOk);
+  ASSERT_EQ(m.mean(image.bytes(), image.step(), roi, means, 0), huxStsOk);
   const double pixels = Hux32s(Hux32u(width) * Hux32u(height));
   for (int c = 0; c < 4; ++c) {
     const double sum = c < m.layout.touched ? sumOf(m, image, roi, c) : -1;
@@ -47,7 +43,7 @@ TEST(Sum, Shapes) {
     int kind = 0;
     forRegions(rng, [&](int width, int height) { expectSums(rng, m, width, height, kind++); });
     for (kind = 0; kind < 8; ++kind) expectSums(rng, m, 600, 51, kind);
-    if (m.type == Type::k32f && m.layout.stride == 1) expectSums(rng, m, 800, 600, 1);  // as many as fill a double
+    if (m.type == Number::k32f && m.layout.stride == 1) expectSums(rng, m, 800, 600, 1);  // as many as fill a double
   }
 }
 
@@ -55,7 +51,7 @@ TEST(Sum, Shapes) {
 TEST(Sum, Wraps) {
   Rng rng(2);
   for (const Member& m : members())
-    if (m.type == Type::k16u || m.type == Type::k16s)
+    if (m.type == Number::k16u || m.type == Number::k16s)
       for (int width : {32768, 32769, 65536, 65537, 131072 + 40001})
         for (int kind : {1, 2})
           if (m.layout.stride == 1 || width == 65537) expectSums(rng, m, width, 2, kind);
@@ -77,14 +73,14 @@ TEST(Sum, Steps) {
     SCOPED_TRACE(m.name);
     const Image image(rng, 1 << 16, 1, 1);
     scatter(rng, image, m.type, 0);
-    const int pixel = bytesOf(m.type) * m.layout.stride;
+    const int pixel = m.pixelBytes();
     for (int width : {1, 31, 100})
       for (int step : {1, width * pixel}) {
         const HuxiSize roi = {width, 40};
         const Image rows(rng, width * pixel, 40, 1);
         for (int y = 0; y < 40; ++y) std::memcpy(rows.bytes(0, y), image.bytes(y * step), std::size_t(width * pixel));
         double sums[4];
-        ASSERT_EQ(m.sum(image.bytes(), step, nullptr, 0, roi, sums), huxStsOk);
+        ASSERT_EQ(m.sum(image.bytes(), step, roi, sums, 0), huxStsOk);
         for (int c = 0; c < m.layout.touched; ++c) ASSERT_TRUE(alike(sums[c], sumOf(m, rows, roi, c)));
       }
   }
@@ -100,25 +96,13 @@ TEST(Mean, PixelsWrap) {
 
 TEST(Sum, ChecksInOrder) {
   Rng rng(4);
-  const Image image(rng, 64, 4, 1);
+  const Image image(rng, 64, 4, 1), sums(rng, 4, 1, 8);
   for (const Member& m : members())
-    for (const bool mean : {false, true}) {
+    for (OneFn* fn : {m.sum, m.mean}) {
       SCOPED_TRACE(m.name);
-      const void* src = image.bytes();
-      int step = 16;
-      HuxiSize roi = {1, 1};
-      double untouched[4] = {-1, -1, -1, -1};
-      void* result = untouched;
-      CheckOrder([&] { return (mean ? m.mean : m.sum)(src, step, nullptr, 0, roi, result); })
-          .breaks(huxStsNullPtr, result, nullptr)
-          .breaks(huxStsNullPtr, src, nullptr)
-          .breaks(huxStsBadStep, step, 0)
-          .breaks(huxStsBadSize, roi.width, 0)
-          .breaks(huxStsBadSize, roi.height, -1)
-          .run(image);
-      roi.width = 0, untouched[0] = -1;
-      EXPECT_EQ((mean ? m.mean : m.sum)(src, step, nullptr, 0, roi, result), huxStsBadSize);
-      EXPECT_EQ(untouched[0], -1);
+      Arguments a(image);
+      a.d = sums.bytes();
+      CheckOrder([&] { return fn(a.a, a.aStep, a.roi, a.d, 0); }).in(a, "daAz").run(sums);
     }
 }
 

@@ -3,12 +3,29 @@
 #include <atomic>
 #include <cstddef>
 
+#include "huxcore.h"
+
 namespace hux::test {
 namespace {
 
 std::atomic<int> live{0};
 std::atomic<int> untilFailure{-1};  // below 0: none fails
 std::atomic<bool> failed{false};
+
+// What a test leaves behind: no blocks of the library's, and the number of threads as it was.
+class Watch : public testing::EmptyTestEventListener {
+  void OnTestStart(const testing::TestInfo&) override { live_ = live, threads_ = huxGetThreadCount(); }
+  void OnTestEnd(const testing::TestInfo&) override {
+    EXPECT_EQ(live, live_) << "blocks that were not freed";
+    huxSetThreadCount(threads_);
+  }
+  int live_ = 0;
+  Hux32u threads_ = 1;
+};
+const bool watching = [] {
+  testing::UnitTest::GetInstance()->listeners().Append(new Watch);
+  return true;
+}();
 
 }  // namespace
 

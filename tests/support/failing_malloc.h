@@ -1,5 +1,7 @@
-// The library's allocations, counted, and failing on demand.
+// The library's allocations, counted, and failing on demand. No test may leave any behind: its end looks.
 #pragma once
+
+#include "support/image.h"
 
 namespace hux::test {
 
@@ -23,6 +25,25 @@ auto walkAllocationFailures(Call call, OnFailure onFailure) {
     if (!failed) return result;
     onFailure(result);
   }
+}
+
+// Walks the failures of a call that reports them, keeps nothing and leaves the images alone, and succeeds at last.
+// Returns how many there are.
+template <class Call, class... Images>
+int failuresOf(Call call, const Images&... images) {
+  const int live = liveBlocks();
+  int count = 0;
+  const std::vector<Image> before = {images...};
+  const HuxStatus last = walkAllocationFailures(call, [&](HuxStatus status) {
+    ++count;
+    EXPECT_EQ(status, huxStsNoMem);
+    EXPECT_EQ(liveBlocks(), live);
+    auto kept = before.begin();
+    [[maybe_unused]] const auto compare = [&](const Image& image) { EXPECT_TRUE(same(image, *kept++)); };
+    (..., compare(images));
+  });
+  EXPECT_EQ(last, huxStsOk);
+  return count;
 }
 
 }  // namespace hux::test

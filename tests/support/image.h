@@ -53,15 +53,19 @@ class Image {
     return value;
   }
   template <class T>
-  void set(int x, int y, int c, T value) {
+  void set(int x, int y, int c, T value) const {
     std::memcpy(bytes(x, y) + c * int(sizeof(T)), &value, sizeof value);
+  }
+  // Elements in each row of the region, whatever its pixels are.
+  template <class T>
+  int elementsIn() const {
+    return width_ * pixelBytes_ / int(sizeof(T));
   }
   // Sets every element of the region to make().
   template <class T, class Make>
-  void fill(Make make) {
+  void fill(Make make) const {
     for (int y = 0; y < height_; ++y)
-      for (int x = 0; x < width_; ++x)
-        for (int c = 0; c < pixelBytes_ / int(sizeof(T)); ++c) set<T>(x, y, c, make());
+      for (int i = 0; i < elementsIn<T>(); ++i) set<T>(0, y, i, make());
   }
 
   // Success where both hold the same bytes, inside and outside the region.
@@ -81,6 +85,44 @@ class Image {
 };
 
 testing::AssertionResult same(const Image& actual, const Image& expected);
+
+template <class T>
+T valueAt(const void* p) {
+  T value;
+  std::memcpy(&value, p, sizeof value);
+  return value;
+}
+
+// Bits, but that one NaN is as good as another.
+template <class T>
+bool alike(T a, T b) {
+  return std::memcmp(&a, &b, sizeof a) == 0 || (a != a && b != b);
+}
+// The same, but for elements of type T in the region for which equal(actual, expected) holds. Rows start at multiples
+// of `unit` bytes from the first.
+template <class T, class Equal = bool (*)(T, T)>
+testing::AssertionResult sameBut(const Image& actual, Image expected, int unit = 1, Equal equal = alike<T>) {
+  for (int y = 0; y < actual.height(); ++y)
+    for (int i = 0; i < actual.elementsIn<T>(); ++i) {
+      const std::ptrdiff_t at = std::ptrdiff_t(y) * (actual.step() / unit * unit) + i * int(sizeof(T));
+      const T value = valueAt<T>(actual.bytes() + at);
+      if (equal(value, valueAt<T>(expected.bytes() + at))) std::memcpy(expected.bytes() + at, &value, sizeof value);
+    }
+  return same(actual, expected);
+}
+
+// Calls body(x, y) for the pixels of a region, row by row, and body(x, y, c) for the first elements of each.
+template <class Body>
+void forPixels(HuxiSize size, Body body) {
+  for (int y = 0; y < size.height; ++y)
+    for (int x = 0; x < size.width; ++x) body(x, y);
+}
+template <class Body>
+void forElements(HuxiSize size, int elements, Body body) {
+  for (int y = 0; y < size.height; ++y)
+    for (int x = 0; x < size.width; ++x)
+      for (int c = 0; c < elements; ++c) body(x, y, c);
+}
 
 // Runs body(width, height, place) over widths through every remainder of the vector lengths in use, over heights that
 // exercise first, middle and last rows, and over the places of an image.

@@ -67,7 +67,7 @@ inline testing::AssertionResult near(const Numbers& actual, const Numbers& expec
   return testing::AssertionFailure() << "relative error " << relative << ", bound " << bound;
 }
 
-// A spectrum of real numbers in its packed orders; a length of any kind.
+// A spectrum of real numbers in its packed orders, and back; a length of any kind.
 inline std::vector<double> packed(const Numbers& spectrum, bool perm = false) {
   const std::size_t n = spectrum.size();
   std::vector<double> p{spectrum[0].real()};
@@ -77,26 +77,43 @@ inline std::vector<double> packed(const Numbers& spectrum, bool perm = false) {
   return p;
 }
 
+inline Numbers unpacked(const Numbers& p, bool perm = false) {
+  const std::size_t n = p.size();
+  Numbers x(n);
+  x[0] = p[0];
+  if (n % 2 == 0) x[n / 2] = p[perm ? 1 : n - 1];
+  for (std::size_t k = 1; 2 * k < n; ++k) {
+    const std::size_t at = 2 * k - (perm && n % 2 == 0 ? 0 : 1);
+    x[k] = {p[at].real(), p[at + 1].real()};
+    x[n - k] = std::conj(x[k]);
+  }
+  return x;
+}
+// What complex transforms, and real ones, give.
+inline Numbers expectedLine(bool real, bool forward, bool perm, const Numbers& input) {
+  if (!real) return forward ? spectrum(input) : inverseSpectrum(input);
+  if (forward) {
+    const std::vector<double> p = packed(spectrum(input), perm);
+    return {p.begin(), p.end()};
+  }
+  Numbers x = inverseSpectrum(unpacked(input, perm));
+  for (Complex& z : x) z = z.real();
+  return x;
+}
+
 // Vectors in guarded memory, of complex or real floats.
 class Floats {
  public:
   Floats(Rng& rng, std::size_t count, int parts, Place place = Place::kInside)
       : image_(rng, int(count) * parts * 4, 1, 1, place), parts_(parts) {
-    auto any = std::uniform_real_distribution<float>(-1, 1);
-    for (std::size_t i = 0; i < count * std::size_t(parts); ++i) {
-      const float f = any(rng);
-      std::memcpy(image_.bytes() + 4 * i, &f, 4);
-    }
+    image_.fill<float>([&] { return std::uniform_real_distribution<float>(-1, 1)(rng); });
   }
   template <class T>
   T* as() const {
     return image_.data<T>();
   }
-  float at(std::size_t i) const {
-    float f;
-    std::memcpy(&f, image_.bytes() + 4 * i, 4);
-    return f;
-  }
+  float at(std::size_t i) const { return image_.get<float>(0, 0, int(i)); }
+  int parts() const { return parts_; }
   std::size_t count() const { return std::size_t(image_.width()) / 4; }
   Numbers numbers() const {
     Numbers n;
@@ -113,6 +130,5 @@ inline Numbers scaledBy(double factor, Numbers n) {
   for (Complex& z : n) z *= factor;
   return n;
 }
-inline Numbers asNumbers(const std::vector<double>& v) { return {v.begin(), v.end()}; }
 
 }  // namespace hux::test

@@ -3,7 +3,7 @@
 
 #include "huxs.h"
 #include "support/complex_reference.h"
-#include "support/order.h"
+#include "support/forms.h"
 
 namespace hux::test {
 namespace {
@@ -188,40 +188,33 @@ TEST(Polar, CartesianOf32BitIntegersTakesTheLibrarysLastDigit) {
 TEST(Polar, ChecksPointersLengthFixedPoint) {
   Rng rng(5);
   const Image image(rng, 4, 1, 32);
-  const void *a, *b;
-  void* d;
-  int len, fixedPoint;
-  const auto ordered = [&](auto call) {
-    a = b = d = image.bytes(), len = 1, fixedPoint = 0;
-    CheckOrder order(call);
-    order.breaks(huxStsNullPtr, a, nullptr).breaks(huxStsNullPtr, d, nullptr);
-    return order;
+  using CheckFn = HuxStatus(const void* a, const void* b, int fixedPoint, void* d, int len);
+  struct Member {
+    CheckFn* call;
+    int sources, fixedPoints;  // the largest, or -1 where there are none
   };
-  const auto map = [&]<class C, class D, class... S>(HuxStatus (*function)(const C*, D*, int, S...)) {
-    ordered([&, function] { return function(static_cast<const C*>(a), static_cast<D*>(d), len, S(0)...); })
-        .breaks(huxStsBadSize, len, 0)
-        .run(image);
-  };
-  map(huxsMagnitude_32fc), map(huxsMagnitude_16sc_Sfs), map(huxsMagnitude_32sc_Sfs);
-  map(huxsPhase_32fc), map(huxsPhase_16sc_Sfs), map(huxsPhase_32sc_Sfs);
-  const auto toCart = [&]<class T, class C>(HuxStatus (*function)(const T*, const T*, int, C*, int), int limit) {
-    ordered([&, function] {
-      return function(static_cast<const T*>(a), static_cast<const T*>(b), fixedPoint, static_cast<C*>(d), len);
-    })
-        .breaks(huxStsNullPtr, b, nullptr)
-        .breaks(huxStsBadSize, len, -1)
-        .breaks(huxStsBadSize, fixedPoint, -1)
-        .breaks(huxStsBadSize, fixedPoint, limit + 1)
-        .run(image);
-  };
-  toCart(huxsPolarToCart_16sc, 15), toCart(huxsPolarToCart_32sc, 31);
-  ordered([&] {
-    return huxsPolarToCart_32fc(static_cast<const Hux32f*>(a), static_cast<const Hux32f*>(b), static_cast<Hux32fc*>(d),
-                                len);
-  })
-      .breaks(huxStsNullPtr, b, nullptr)
-      .breaks(huxStsBadSize, len, 0)
-      .run(image);
+#define MEASURE(name, t) \
+  { as<CheckFn, huxs##name##_##t, 0, 3, 4>, 1, -1 }
+#define MEASURE_SCALED(name, t) \
+  { as<CheckFn, huxs##name##_##t##_Sfs, 0, 3, 4, 2>, 1, -1 }
+  const Member members[] = {MEASURE(Magnitude, 32fc),
+                            MEASURE_SCALED(Magnitude, 16sc),
+                            MEASURE_SCALED(Magnitude, 32sc),
+                            MEASURE(Phase, 32fc),
+                            MEASURE_SCALED(Phase, 16sc),
+                            MEASURE_SCALED(Phase, 32sc),
+                            {as<CheckFn, huxsPolarToCart_16sc>, 2, 15},
+                            {as<CheckFn, huxsPolarToCart_32sc>, 2, 31},
+                            {as<CheckFn, huxsPolarToCart_32fc, 0, 1, 3, 4>, 2, -1}};
+  for (const Member& m : members) {
+    Arguments a(image);
+    int len = 1, fixedPoint = 0;
+    CheckOrder order([&] { return m.call(a.a, a.b, fixedPoint, a.d, len); });
+    order.in(a, "adb", m.sources == 2 ? "" : "b").breaks(huxStsBadSize, len, 0);
+    if (m.fixedPoints >= 0)
+      order.breaks(huxStsBadSize, fixedPoint, -1).breaks(huxStsBadSize, fixedPoint, m.fixedPoints + 1);
+    order.run(image);
+  }
 }
 
 }  // namespace

@@ -3,11 +3,10 @@
 #include <climits>
 #include <cmath>
 
-#include "core/stamp.h"
 #include "huxi_arith.h"
 #include "huxs.h"
-#include "support/image.h"
-#include "support/order.h"
+#include "support/complex_reference.h"
+#include "support/forms.h"
 
 namespace hux::test {
 namespace {
@@ -31,15 +30,6 @@ void expectVector(const Image& base, Element element, Call call, HuxStatus statu
   for (int i = 0; i < base.width(); ++i) expected.set<T>(i, 0, 0, element(i));
   ASSERT_EQ(call(actual.data<T>()), status);
   ASSERT_TRUE(same(actual, expected)) << "length " << base.width();
-}
-
-template <class T>
-T scaled(std::int64_t v, int scaleFactor) {
-  const int n = std::clamp(scaleFactor, -60, 60);
-  __int128 r = v;
-  if (n < 0) r *= __int128(1) << -n;
-  if (n > 0) r = (r + (__int128(1) << (n - 1)) - 1 + ((r >> n) & 1)) >> n;
-  return T(std::clamp<__int128>(r, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
 }
 
 TEST(VectorArith, ScaledSumsAndDifferencesAreExact) {
@@ -75,24 +65,21 @@ TEST(VectorArith, FloatsAreAddedSubtractedMultiplied) {
   for (int len = 1; len <= kLengths; ++len) {
     const Image a = vectorOf<float>(rng, len, make), b = vectorOf<float>(rng, len, make),
                 d = vectorOf<float>(rng, len, make);
-    const float value = make() + 0.5f;
-    const auto x = [&](int i) { return a.get<float>(i, 0); };
-    const auto y = [&](int i) { return b.get<float>(i, 0); };
-    const float *pA = a.data<float>(), *pB = b.data<float>();
+    const float value = make() + 0.5f, *pA = a.data<float>(), *pB = b.data<float>();
+    // plain(p) writes to d, inPlace(p) over b.
+    const auto expect = [&](auto rule, auto plain, auto inPlace) {
+      const auto element = [&](int i) { return rule(a.get<float>(i, 0), b.get<float>(i, 0)); };
+      expectVector<float>(d, element, plain);
+      expectVector<float>(b, element, inPlace);
+    };
+    expect([](float x, float y) { return x + y; }, [&](float* p) { return huxsAdd_32f(pA, pB, p, len); },
+           [&](float* p) { return huxsAdd_32f_I(pA, p, len); });
+    expect([](float x, float y) { return y - x; }, [&](float* p) { return huxsSub_32f(pA, pB, p, len); },
+           [&](float* p) { return huxsSub_32f_I(pA, p, len); });
+    expect([&](float, float y) { return y - value; }, [&](float* p) { return huxsSubC_32f(pB, value, p, len); },
+           [&](float* p) { return huxsSubC_32f_I(value, p, len); });
     expectVector<float>(
-        d, [&](int i) { return x(i) + y(i); }, [&](float* p) { return huxsAdd_32f(pA, pB, p, len); });
-    expectVector<float>(
-        b, [&](int i) { return x(i) + y(i); }, [&](float* p) { return huxsAdd_32f_I(pA, p, len); });
-    expectVector<float>(
-        d, [&](int i) { return y(i) - x(i); }, [&](float* p) { return huxsSub_32f(pA, pB, p, len); });
-    expectVector<float>(
-        b, [&](int i) { return y(i) - x(i); }, [&](float* p) { return huxsSub_32f_I(pA, p, len); });
-    expectVector<float>(
-        d, [&](int i) { return y(i) - value; }, [&](float* p) { return huxsSubC_32f(pB, value, p, len); });
-    expectVector<float>(
-        b, [&](int i) { return y(i) - value; }, [&](float* p) { return huxsSubC_32f_I(value, p, len); });
-    expectVector<float>(
-        b, [&](int i) { return y(i) * value; }, [&](float* p) { return huxsMulC_32f_I(value, p, len); });
+        b, [&](int i) { return b.get<float>(i, 0) * value; }, [&](float* p) { return huxsMulC_32f_I(value, p, len); });
   }
 }
 
@@ -229,66 +216,37 @@ TEST(VectorMeasure, SumsInTheToldPrecision) {
 TEST(Vector, ChecksPointersThenLength) {
   Rng rng(8);
   const Image memory(rng, 64, 1, 1);
-  // Called with two pointers to read, one to write, and a length; what a member does not take is not broken.
+  // What a member does not take is not broken; a constant that is not 0 comes through a pointer.
+  using CheckFn = HuxStatus(const void* a, const void* b, void* d, int len, const void* constant, int scale);
   struct Case {
     int reads;
-    std::function<HuxStatus(const void*, const void*, void*, int)> call;
+    CheckFn* call;
   };
-#define READ(t) static_cast<const Hux##t*>(a)
-#define READ2(t) static_cast<const Hux##t*>(b)
-#define WRITE(t) static_cast<Hux##t*>(d)
-#define CASE(reads, ...)                                                                                             \
-  Case {                                                                                                             \
-    reads,                                                                                                           \
-        []([[maybe_unused]] const void* a, [[maybe_unused]] const void* b, void* d, int len) { return __VA_ARGS__; } \
-  }
-#define TWO(op, t, sfs, i, ...)                                               \
-  CASE(2, huxs##op##_##t##sfs(READ(t), READ2(t), WRITE(t), len __VA_ARGS__)), \
-      CASE(1, huxs##op##_##t##i(READ(t), WRITE(t), len __VA_ARGS__))
-#define SCALE(s) , s
-  const std::vector<Case> cases = {
-      TWO(Add, 16s, _Sfs, _ISfs, SCALE(0)),
-      TWO(Add, 32s, _Sfs, _ISfs, SCALE(90)),
-      TWO(Add, 32f, , _I, ),
-      TWO(Sub, 16s, _Sfs, _ISfs, SCALE(90)),
-      TWO(Sub, 32s, _Sfs, _ISfs, SCALE(0)),
-      TWO(Sub, 32f, , _I, ),
-      CASE(1, huxsSubC_32f(READ(32f), 0, WRITE(32f), len)),
-      CASE(0, huxsSubC_32f_I(0, WRITE(32f), len)),
-      CASE(0, huxsMulC_32f_I(1, WRITE(32f), len)),
-      CASE(0, huxsMulC_32f_I(0, WRITE(32f), len)),
-      CASE(2, std::min<HuxStatus>(0, huxsDiv_32f(READ(32f), READ2(32f), WRITE(32f), len))),
-      CASE(2, std::min<HuxStatus>(0, huxsDiv_8u_Sfs(READ(8u), READ2(8u), WRITE(8u), len, 0))),
-      CASE(2, std::min<HuxStatus>(0, huxsDiv_16s_Sfs(READ(16s), READ2(16s), WRITE(16s), len, 0))),
-      CASE(1, huxsDivC_8u_Sfs(READ(8u), 3, WRITE(8u), len, 0)),
-      CASE(1, huxsDivC_16s_Sfs(READ(16s), 3, WRITE(16s), len, 0)),
-      CASE(0, huxsSet_8u(1, WRITE(8u), len)),
-      CASE(0, huxsSet_16s(1, WRITE(16s), len)),
-      CASE(0, huxsSet_32s(1, WRITE(32s), len)),
-      CASE(0, huxsSet_32f(1, WRITE(32f), len)),
-      CASE(0, huxsSet_16sc({1, 2}, WRITE(16sc), len)),
-      CASE(0, huxsSet_32fc({1, 2}, WRITE(32fc), len)),
-      CASE(0, huxsZero_8u(WRITE(8u), len)),
-      CASE(0, huxsZero_16s(WRITE(16s), len)),
-      CASE(0, huxsZero_16sc(WRITE(16sc), len)),
-      CASE(0, huxsZero_32f(WRITE(32f), len)),
-      CASE(1, huxsCopy_8u(READ(8u), WRITE(8u), len)),
-      CASE(1, huxsCopy_32f(READ(32f), WRITE(32f), len)),
-      CASE(1, huxsMove_16s(READ(16s), WRITE(16s), len)),
-      CASE(1, huxsMove_32f(READ(32f), WRITE(32f), len)),
-      CASE(1, huxsMean_32f(READ(32f), len, WRITE(32f))),
-      CASE(1, huxsNorm_L2_32f(READ(32f), len, WRITE(32f))),
-      CASE(2, huxsDotProd_32f(READ(32f), READ2(32f), len, WRITE(32f)))};
+#define CASE(reads, f, ...) {reads, as<CheckFn, huxs##f, __VA_ARGS__>},
+#define TWO(f, s, i) CASE(2, f##s, 0, 1, 2, 3, 5) CASE(1, f##i, 0, 2, 3, 5)
+#define SUMS(op, _) TWO(op##_16s, _Sfs, _ISfs) TWO(op##_32s, _Sfs, _ISfs) TWO(op##_32f, , _I)
+#define QUOTIENT(f, _) CASE(2, Div_##f, 0, 1, 2, 3, 5)
+#define QUOTIENT_C(f, _) CASE(1, DivC_##f, 0, 4, 2, 3, 5)
+#define FILL(f, _) CASE(0, f, 4, 2, 3)
+#define ZERO(f, _) CASE(0, Zero_##f, 2, 3)
+#define COPY(f, _) CASE(1, f, 0, 2, 3)
+  const Case cases[] = {
+    HUX_STAMP(SUMS, (Add, Sub), (_)) CASE(1, SubC_32f, 0, 4, 2, 3) HUX_STAMP(QUOTIENT, (32f, 8u_Sfs, 16s_Sfs), (_))
+        HUX_STAMP(QUOTIENT_C, (8u_Sfs, 16s_Sfs), (_))
+            HUX_STAMP(FILL, (SubC_32f_I, MulC_32f_I, Set_8u, Set_16s, Set_32s, Set_32f, Set_16sc, Set_32fc), (_))
+                HUX_STAMP(ZERO, (8u, 16s, 16sc, 32f), (_)) HUX_STAMP(COPY, (Copy_8u, Copy_32f, Move_16s, Move_32f), (_))
+                    CASE(1, Mean_32f, 0, 3, 2) CASE(1, Norm_L2_32f, 0, 3, 2) CASE(2, DotProd_32f, 0, 1, 3, 2)
+  };
   for (const Case& c : cases) {
-    SCOPED_TRACE(&c - cases.data());
+    SCOPED_TRACE(&c - cases);
     const void *a = memory.bytes(), *b = memory.bytes(8);
     void* d = memory.bytes(16);
+    const Hux64f constant = 1.0000001;  // whose bits are no zero of any type
     int len = 1;
-    CheckOrder order([&] { return c.call(a, b, d, len); });
-    if (c.reads > 0) order.breaks(huxStsNullPtr, a, nullptr);
-    if (c.reads > 1) order.breaks(huxStsNullPtr, b, nullptr);
-    order.breaks(huxStsNullPtr, d, nullptr).breaks(huxStsBadSize, len, 0).breaks(huxStsBadSize, len, INT_MIN);
-    order.run(memory);
+    CheckOrder order([&] { return std::min<HuxStatus>(c.call(a, b, d, len, &constant, 90), huxStsOk); });
+    if (c.reads > 0) order.nulls(a);
+    if (c.reads > 1) order.nulls(b);
+    order.nulls(d).breaks(huxStsBadSize, len, 0).breaks(huxStsBadSize, len, INT_MIN).run(memory);
   }
   Hux8u byte = 9;
   EXPECT_EQ(huxsDivC_8u_Sfs(&byte, 0, &byte, 0, 0), huxStsBadSize);
