@@ -74,8 +74,8 @@ HUX_API HuxStatus huxiAddRotateShift(Hux64f xCenter, Hux64f yCenter, Hux64f angl
  * interpolation come from the whole image, never from outside it. AC4: alpha of the destination stays. Images may not
  * overlap.
  *
- * Size. The destination has W xFactor columns, truncated, and H yFactor rows, at most dstRoiSize; less than one, but at
- * least half a pixel, is one.
+ * Size. The destination has W xFactor columns, 1e-7 added and truncated, and rows likewise, at most dstRoiSize; less
+ * than one, but at least half a pixel, is one.
  * Interpolation, and where the source pixel of destination column j lies, from srcRoi.x; rows likewise:
  *   huxiInterNearest    (j + 1/2) / xFactor, truncated: whole pixels are copied
  *   huxiInterLinear, huxiInterCubic, huxiInterLanczos (six pixels)
@@ -94,7 +94,9 @@ HUX_API HuxStatus huxiAddRotateShift(Hux64f xCenter, Hux64f yCenter, Hux64f angl
  * ResizeShift: xFr and yFr are steps in the source from one destination pixel to the next, in place of 1 / xFactor and
  * 1 / yFactor, from xShift, yShift on; half a step more in nearest mode. With w = (W - 1) / xFr (W / xFr in nearest
  * mode) truncated, w + 1 (w, at least 1) columns are written if w is below dstRoiSize.width - 1, else all.
- * huxiInterSuper is not for it. xFr and yFr are the factors of the checks.
+ * huxiInterSuper is not for it. xFr and yFr are the factors of the checks. Shifts may be negative: positions below 0
+ * are truncated towards 0 as well, so that their fractions are negative and interpolation extrapolates; integers are
+ * limited to their type. What lies a pixel or more before the image stands for its first pixel.
  *
  * Checks, in order: null pointers, planes included (huxStsNullPtr); srcSize, srcRoi's x or y below 0, its width or
  * height below 1 (huxStsBadSize); a first pixel of srcRoi outside the image (huxStsNoOverlapWarn, nothing is done);
