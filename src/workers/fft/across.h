@@ -55,6 +55,27 @@ void cRadix4Across(Columns<V> d, Index first, Index n, Index quarter, const Hux3
   radix4Across<W>(d, first, n, quarter, factors, [&](Index r, Split<V> z) { out(r, scale(z)); });
 }
 
+// Rows of columns whose planes the nearest cache holds.
+inline constexpr Index kNearRows = 512;
+
+// The same with the kernels, which kernels(first, end) leaves in rows first to end. What fits the nearest cache goes
+// through all of its passes before the next; that does not show in the bits.
+template <Way W, class V, class Kernels, class Scale, class Out>
+void blockAcross(Columns<V> d, Index first, Index n, Index quarter, const Hux32f* factors, Kernels kernels, Scale scale,
+                 Out out) {
+  if (n <= kNearRows) {
+    kernels(first, first + n);
+    return cRadix4Across<W>(d, first, n, quarter, factors, scale, out);
+  }
+  const Index part = n / 4;
+  for (Index r = first; r < first + n; r += part) {
+    kernels(r, r + part);
+    cRadix4Across<W>(d, r, part, quarter, factors, Unscaled{}, [&](Index row, Split<V> z) { d.set(row, z); });
+  }
+  // Ahead of the factors of the last pass are those of all shorter ones.
+  radix4Across<W>(d, first, n, part, factors + 2 * (part - quarter), [&](Index r, Split<V> z) { out(r, scale(z)); });
+}
+
 template <Way W, class V, class Out>
 void cFft_Blk_R2Across(Columns<V> d, Index first, Index half, const Hux32f* factors, Out out) {
   const Index q = half / 2;
@@ -85,14 +106,15 @@ void transformAcross(const void* block, const PowerPlan& plan, Columns<V> d, In 
   const int order = plan.order;
   const Index n = Index(1) << order;
   withScale<W>(plan.scaling, [&](auto scale) {
-    const auto kernels = [&](auto size, auto first, auto take) {
+    // Of rows `begin` to `end`, scaled at their first sums.
+    const auto kernels = [&](auto size, Index begin, Index end, auto first, auto take) {
       constexpr int N = size, bits = N == 4 ? 2 : N == 8 ? 3 : 4;
-      for (Index g = 0; g < n / N; ++g) {
-        const Index from = reversed(g, order - bits);
+      for (Index r = begin; r < end; r += N) {
+        const Index from = reversed(r / N, order - bits);
         Split<V> z[N];
         for (int i = 0; i < N; ++i) z[i] = in(from + reversed(i, bits) * (n / N));
         kernel<W>(z, first);
-        for (int i = 0; i < N; ++i) take(g * N + i, z[i]);
+        for (int i = 0; i < N; ++i) take(r + i, z[i]);
       }
     };
     constexpr std::integral_constant<int, 4> four{};
@@ -104,21 +126,19 @@ void transformAcross(const void* block, const PowerPlan& plan, Columns<V> d, In 
       out(0, scale(a + b));
       return out(1, scale(a - b));
     }
-    if (order == 2) return kernels(four, scale, out);
-    if (order == 3) return kernels(eight, scale, out);
-    if (order == 4) return kernels(sixteen, Unscaled{}, [&](Index r, Split<V> z) { out(r, scale(z)); });
+    if (order == 2) return kernels(four, 0, 4, scale, out);
+    if (order == 3) return kernels(eight, 0, 8, scale, out);
+    if (order == 4) return kernels(sixteen, 0, 16, Unscaled{}, [&](Index r, Split<V> z) { out(r, scale(z)); });
     const auto keep = [&](Index r, Split<V> z) { d.set(r, z); };
     const Hux32f *passes = plan.passes.in(block), *merges = plan.merges.in(block);
-    if (order <= kBlockOrder) {
-      if (order % 2)
-        kernels(eight, Unscaled{}, keep);
-      else
-        kernels(sixteen, Unscaled{}, keep);
-      return cRadix4Across<W>(d, 0, n, Index(1) << kernelOrder(order), passes, scale, out);
-    }
-    kernels(sixteen, Unscaled{}, keep);
+    const auto blocks = [&](auto size, Index first, Index length, auto give) {
+      blockAcross<W>(
+          d, first, length, size, passes, [&](Index begin, Index end) { kernels(size, begin, end, Unscaled{}, keep); },
+          scale, give);
+    };
+    if (order <= kBlockOrder) return order % 2 ? blocks(eight, 0, n, out) : blocks(sixteen, 0, n, out);
     constexpr Index length = Index(1) << kBlockOrder;
-    for (Index r = n - length; r >= 0; r -= length) cRadix4Across<W>(d, r, length, 16, passes, scale, keep);
+    for (Index r = 0; r < n; r += length) blocks(sixteen, r, length, keep);
     if (order == kBlockOrder + 1) return cFft_Blk_R2Across<W>(d, 0, length, merges, out);
     for (Index r = 0; r < n; r += 2 * length) cFft_Blk_R2Across<W>(d, r, length, merges, keep);
     cFft_Blk_R2Across<W>(d, 0, 2 * length, merges + length, out);

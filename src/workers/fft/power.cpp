@@ -335,14 +335,17 @@ __attribute__((noinline)) void columns(const void* block, const PowerPlan& plan,
   const auto walk = [&](auto kernelSize) {
     constexpr int N = kernelSize;
     for (Index c = 0; c < n; c += kLanes, crossing += floats(rows) * kLanes) {
-      for (Index r = 0; r < rows; r += N) {
-        Z z[N];
-        for (int i = 0; i < N; ++i)
-          z[i] = turned<W>(loadSplit<V>(d + (r + i) * n + c), loadParted<V>(crossing + floats(r + i) * kLanes));
-        kernel<W>(z);
-        for (int i = 0; i < N; ++i) held.set(r + i, z[i]);
-      }
-      cRadix4Across<W>(held, 0, rows, N, passes, Unscaled{}, [&](Index row, Z z) { storeSplit(d + row * n + c, z); });
+      const auto kernels = [&](Index begin, Index end) {
+        for (Index r = begin; r < end; r += N) {
+          Z z[N];
+          for (int i = 0; i < N; ++i)
+            z[i] = turned<W>(loadSplit<V>(d + (r + i) * n + c), loadParted<V>(crossing + floats(r + i) * kLanes));
+          kernel<W>(z);
+          for (int i = 0; i < N; ++i) held.set(r + i, z[i]);
+        }
+      };
+      blockAcross<W>(held, 0, rows, N, passes, kernels, Unscaled{},
+                     [&](Index row, Z z) { storeSplit(d + row * n + c, z); });
     }
   };
   if (s % 2)
