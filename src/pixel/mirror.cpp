@@ -1,6 +1,7 @@
 // Mirror: the order of rows, of the pixels in each row, or of both reversed.
 #include "core/stamp.h"
 #include "huxi_pixel.h"
+#include "lanes/windows.h"
 #include "workers/move.h"
 
 namespace hux {
@@ -68,12 +69,37 @@ struct Group {
   }
 };
 
+// Reverses two vectors of lanes at a time and returns how many pixels these were: the lanes come last one first, and
+// are reversed in themselves. For pixels of a power of two bytes, where vectors have several lanes but no wider
+// permutations.
+template <class L, class W>
+Index reverseLanes(const Element<W>* src, Element<W>* dst, Index n) {
+  constexpr int bytes = L::channels * int(sizeof(W)), vector = int(sizeof(simd::Quads));
+  constexpr Index pixels = 2 * vector / bytes;
+  static constexpr auto pick = [] {
+    std::array<Hux8u, vector> all{};
+    for (int j = 0; j < vector; ++j) all[std::size_t(j)] = Hux8u((16 / bytes - 1 - j % 16 / bytes) * bytes + j % bytes);
+    return all;
+  }();
+  const auto reversed = loadLanes<WindowBytes>(pick.data());
+  Index i = 0;
+  for (; i + pixels <= n; i += pixels) {
+    const auto* from = reinterpret_cast<const std::byte*>(src + (n - i - pixels) * L::channels);
+    auto* to = reinterpret_cast<std::byte*>(dst + i * L::channels);
+    storeLanes(to, pickBytes(simd::loadQuads<simd::Quads>(from + 2 * vector - 16, -16), reversed));
+    storeLanes(to + vector, pickBytes(simd::loadQuads<simd::Quads>(from + vector - 16, -16), reversed));
+  }
+  return i;
+}
+
 // dst[i] = src[n - 1 - i], pixel by pixel.
 template <class L, class W>
 void reverseRow(const Element<W>* src, Element<W>* dst, Index n, bool streaming) {
   using G = Group<L, W>;
   Index i = 0;
   if constexpr (G::vectorised) {
+    if constexpr (G::whole && L::channels != 3 && simd::kBytes == 16 && sizeof(simd::Quads) == 32)
+      i = reverseLanes<L, W>(src, dst, n);
     G group;
     // The group of source pixels that go to `at` and behind.
     const auto source = [=](Index at) { return src + (n - at - G::pixels) * L::channels; };
