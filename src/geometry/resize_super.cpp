@@ -181,60 +181,123 @@ HuxStatus byLanes(const ResizePlane& p, const Columns& columns, Hux64f yStep) {
   return huxStsOk;
 }
 
-// The means of two by two pixels: the even ones of a row and the odd ones come from the same windows.
-template <class T, int PerLane>
-auto meansOfFour(const Windows& windows, const std::byte* upper, const std::byte* lower, Index pixelBytes, Index lane) {
-  const WindowBytes a = windows.pick<PerLane>(upper, lane), b = windows.pick<PerLane>(upper + pixelBytes, lane);
-  const WindowBytes c = windows.pick<PerLane>(lower, lane), d = windows.pick<PerLane>(lower + pixelBytes, lane);
-  using Pixels = Lanes<T, kLaneBytes / int(sizeof(T))>;
+// The means of two by two pixels that follow each other, `Channels` elements each: those of one vector from two vectors
+// of either row.
+template <class T, int Channels>
+auto meansOfTwice(const std::byte* upper, const std::byte* lower) {
+  constexpr int lanes = kLaneBytes / int(sizeof(T));
+  using Pixels = Lanes<T, lanes>;
   if constexpr (std::is_floating_point_v<T>) {
-    return ((bitsAs<Pixels>(a) + bitsAs<Pixels>(c)) + (bitsAs<Pixels>(b) + bitsAs<Pixels>(d))) * T(0.25);
+    const auto sum = [&](Index at) { return loadLanes<Pixels>(upper + at) + loadLanes<Pixels>(lower + at); };
+    const Pixels a = sum(0), b = sum(kLaneBytes);
+    const auto every = [&]<int Odd, std::size_t... I>(std::integral_constant<int, Odd>, std::index_sequence<I...>) {
+      return __builtin_shufflevector(a, b, ((int(I) / Channels * 2 + Odd) * Channels + int(I) % Channels)...);
+    };
+    constexpr std::make_index_sequence<std::size_t(lanes)> all;
+    return (every(std::integral_constant<int, 0>{}, all) + every(std::integral_constant<int, 1>{}, all)) * T(0.25);
   } else {
-    // Two elements in each lane of twice their width.
+    // Two elements in each lane of twice their width: those of neighbouring pixels, side by side.
     using W = std::conditional_t<sizeof(T) == 1, Hux16u, Hux32u>;
     using Wide = Lanes<W, kLaneBytes / int(sizeof(W))>;
     constexpr W low = std::numeric_limits<T>::max(), bits = 8 * sizeof(T);
-    const Wide all[4] = {bitsAs<Wide>(a), bitsAs<Wide>(b), bitsAs<Wide>(c), bitsAs<Wide>(d)};
-    const Wide lows = (all[0] & low) + (all[1] & low) + (all[2] & low) + (all[3] & low);
-    const Wide highs = (all[0] >> bits) + (all[1] >> bits) + (all[2] >> bits) + (all[3] >> bits);
-    return bitsAs<Pixels>(((lows + W(2)) >> W(2)) | (((highs + W(2)) >> W(2)) << bits));
+    static constexpr auto pairs = [] {
+      std::array<Hux8u, kLaneBytes> pick{};
+      for (int j = 0; j < kLaneBytes; ++j) {
+        const int e = j % kWindowBytes / int(sizeof(T)), pair = e / 2;
+        const int from = (pair / Channels * 2 + e % 2) * Channels + pair % Channels;
+        pick[std::size_t(j)] = Hux8u(from * int(sizeof(T)) + j % int(sizeof(T)));
+      }
+      return pick;
+    }();
+    const auto load = [](const std::byte* row) {
+      const auto v = loadLanes<WindowBytes>(row);
+      return bitsAs<Wide>(Channels == 1 ? v : pickBytes(v, loadLanes<WindowBytes>(pairs.data())));
+    };
+    const auto means = [&](Index at) {
+      const Wide u = load(upper + at), l = load(lower + at);
+      return ((u & low) + (u >> bits) + (l & low) + (l >> bits) + W(2)) >> W(2);
+    };
+    const Wide a = means(0), b = means(kLaneBytes);
+    if constexpr (sizeof(T) == 1) {
+      using Words = Lanes<Hux16s, lanesIn<Wide>>;
+      return inOrder<2>(packBytes(Words(a), Words(b)));
+    } else {
+      using Signed = Lanes<Hux32s, lanesIn<Wide>>;
+      return narrowed<T>(std::array<Signed, 2>{Signed(a), Signed(b)});
+    }
   }
 }
 
-// Blocks of two by two pixels that lie in the image; false where they do not, or where there are no windows for them.
-template <class T>
-bool byHalves(const ResizePlane& p) {
+// Blocks of two by two pixels whose size lets them fill vectors.
+template <class T, int Channels>
+void halves(const ResizePlane& p) {
   const Format& f = p.format;
   constexpr Index size = Index(sizeof(T)), lanes = kLaneBytes / size;
-  if (2 * p.x.count > p.x.image - Index(p.x.origin) || 2 * p.y.count > p.y.image - Index(p.y.origin)) return false;
-  // Strips of whole pixels that are, but for the last one, whole vectors.
-  const Index most = 4 * kStrip / size / (f.stride * lanes) * lanes;
-  for (Index done = 0; done < p.x.count; done += most) {
-    const Index elements = std::min(most, p.x.count - done) * f.stride, vectors = (elements + lanes - 1) / lanes;
-    const Index firstByte = (Index(p.x.origin) + 2 * done) * f.pixelBytes();
-    Windows windows;
-    windows.build<int(size), int(size)>(vectors * kWindows, p.rowBytes(), f.pixelBytes(), [&](Index unit) {
-      const auto e = unsigned(std::min(unit, elements - 1)), pixel = e / unsigned(f.stride);
-      const Index c = std::min<Index>(e % unsigned(f.stride), f.touched - 1);
-      return firstByte + (2 * Index(pixel) * f.stride + c) * size;
-    });
-    if (windows.perLane() == 0) return false;
-    const auto rows = [&]<int PerLane>(std::integral_constant<int, PerLane>) {
-      for (Index y = 0; y < p.y.count; ++y) {
-        const std::byte* upper = p.src + (Index(p.y.origin) + 2 * y) * p.srcStep;
-        auto* dst = reinterpret_cast<Element<T>*>(p.dst + y * p.dstStep + done * f.pixelBytes());
-        for (Index e = 0; e < elements; e += lanes) {
-          const Index lane = e / lanes * kWindows;
-          storeTouched(f, dst + e, meansOfFour<T, PerLane>(windows, upper, upper + p.srcStep, f.pixelBytes(), lane),
-                       int(std::min(lanes, elements - e)));
-        }
-      }
-    };
-    if (windows.perLane() == 1)
-      rows(std::integral_constant<int, 1>{});
-    else
-      rows(std::integral_constant<int, 2>{});
+  // What is there of a row: alpha of the last pixel may lie outside the image.
+  const Index elements = p.x.count * f.stride, there = (2 * elements - (f.stride - f.touched)) * size;
+  for (Index y = 0; y < p.y.count; ++y) {
+    const std::byte* upper = p.src + (Index(p.y.origin) + 2 * y) * p.srcStep + Index(p.x.origin) * f.pixelBytes();
+    const std::byte* lower = upper + p.srcStep;
+    auto* dst = reinterpret_cast<Element<T>*>(p.dst + y * p.dstStep);
+    Index e = 0;
+    for (; 2 * (e + lanes) * size <= there; e += lanes)
+      storeTouched(f, dst + e, meansOfTwice<T, Channels>(upper + 2 * e * size, lower + 2 * e * size), lanes);
+    if (e == elements) continue;
+    std::byte ends[2][2 * kLaneBytes] = {};
+    std::memcpy(ends[0], upper + 2 * e * size, std::size_t(there - 2 * e * size));
+    std::memcpy(ends[1], lower + 2 * e * size, std::size_t(there - 2 * e * size));
+    storeTouched(f, dst + e, meansOfTwice<T, Channels>(ends[0], ends[1]), int(elements - e));
   }
+}
+
+// Blocks of two by two pixels of three elements: one block at a time, in lanes of which those behind the third element
+// of a mean hold nothing.
+template <class T>
+void halvesOfThree(const ResizePlane& p) {
+  constexpr Index bytes = 3 * Index(sizeof(T));
+  const auto mean = [](const std::byte* upper, const std::byte* lower) {
+    if constexpr (std::is_floating_point_v<T>) {
+      const auto sum = [&](Index at) {
+        return loadLanes<Lanes<T, 4>>(upper + at) + loadLanes<Lanes<T, 4>>(lower + at);
+      };
+      return (sum(0) + sum(bytes)) * T(0.25);
+    } else {
+      // Both pixels of a row in one vector.
+      using W = std::conditional_t<sizeof(T) == 1, Hux16u, Hux32s>;
+      const auto both = convert<W>(loadLanes<Lanes<T, 8>>(upper)) + convert<W>(loadLanes<Lanes<T, 8>>(lower));
+      const auto sum = both + __builtin_shufflevector(both, both, 3, 4, 5, 6, 7, 7, 7, 7);
+      const auto means = (sum + W(2)) >> W(2);
+      return convert<T>(__builtin_shufflevector(means, means, 0, 1, 2, 3));
+    }
+  };
+  const Index last = p.x.count - 1;
+  for (Index y = 0; y < p.y.count; ++y) {
+    const std::byte* upper = p.src + (Index(p.y.origin) + 2 * y) * p.srcStep + Index(p.x.origin) * bytes;
+    const std::byte* lower = upper + p.srcStep;
+    std::byte* dst = p.dst + y * p.dstStep;
+    for (Index x = 0; x < last; ++x) storeLanes(dst + x * bytes, mean(upper + 2 * x * bytes, lower + 2 * x * bytes));
+    // Behind the last pixel may be nothing.
+    std::byte ends[2][2 * bytes + 2 * sizeof(T)] = {};
+    std::memcpy(ends[0], upper + 2 * last * bytes, 2 * bytes),
+        std::memcpy(ends[1], lower + 2 * last * bytes, 2 * bytes);
+    storeColours<3>(dst + last * bytes, mean(ends[0], ends[1]));
+  }
+}
+
+// Blocks of two by two pixels that lie in the image; false where they do not, or where picking bytes is slow.
+template <class T>
+bool byHalves(const ResizePlane& p) {
+  if (2 * p.x.count > p.x.image - Index(p.x.origin) || 2 * p.y.count > p.y.image - Index(p.y.origin)) return false;
+  if (p.format.stride == 3)
+    halvesOfThree<T>(p);
+  else if (p.format.stride == 1)
+    halves<T, 1>(p);
+  else if (!kPicks && std::is_integral_v<T>)
+    return false;
+  else if (p.format.stride == 4)
+    halves<T, 4>(p);
+  else
+    halves<T, 2>(p);  // luma of packed pixels
   return true;
 }
 
