@@ -1,5 +1,7 @@
 #include "geometry/resize_rows.h"
 
+#include "huxi_pixel.h"
+
 namespace hux {
 namespace {
 
@@ -139,9 +141,45 @@ void resize(const ResizePlane& p, HuxiInterpolation mode) {
     floats<Linear, T>(p);
 }
 
+// The first of the source pixels that are those of the destination one by one; -1 where they are not.
+Index firstOfCopy(const Axis& axis, bool nearest) {
+  Walk walk(axis);
+  Index first = 0;
+  for (Index j = 0; j < axis.count; ++j) {
+    const Position at = nearest ? Position{walk.nextNearest(), 0} : walk.next();
+    if (j == 0) first = at.whole;
+    if (at.whole != first + j || at.fraction != 0) return -1;
+  }
+  return first;
+}
+
+// Copies the pixels where every position is one of a pixel, as those of a factor of 1 are, and does nothing else. All
+// interpolations of integers give the pixel there; in floats, an infinite neighbour shows.
+bool copies(const ResizePlane& p, bool nearest) {
+  const Format& f = p.format;
+  if (!nearest && f.type == ElementType::f32) return false;
+  const Index x = firstOfCopy(p.x, nearest), y = x < 0 ? -1 : firstOfCopy(p.y, nearest);
+  if (x < 0 || y < 0) return false;
+  const std::byte* src = p.src + y * p.srcStep + x * f.pixelBytes();
+  const auto copy = [&]<class T>(auto function, T, Index elements) {
+    function(reinterpret_cast<const T*>(src), int(p.srcStep), reinterpret_cast<T*>(p.dst), int(p.dstStep),
+             HuxiSize{int(p.x.count * elements), int(p.y.count)});
+  };
+  if (f.touched == f.stride)
+    copy(huxiCopy_8u_C1R, Hux8u(), f.pixelBytes());
+  else if (f.type == ElementType::u8)
+    copy(huxiCopy_8u_AC4R, Hux8u(), 1);
+  else if (f.type == ElementType::u16)
+    copy(huxiCopy_16s_AC4R, Hux16s(), 1);
+  else
+    copy(huxiCopy_32s_AC4R, Hux32s(), 1);
+  return true;
+}
+
 }  // namespace
 
 void resizePlane(const ResizePlane& p, HuxiInterpolation mode) {
+  if (copies(p, mode == huxiInterNearest)) return;
   if (mode == huxiInterNearest) return nearest(p);
   switch (p.format.type) {
     case ElementType::u8:
