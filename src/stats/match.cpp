@@ -34,7 +34,7 @@ void bring(const void* pixels, Index n, Hux32f* to) {
   else
     for (Index x = 0; x < n; ++x) to[x] = Hux32f(T(p[x * Channels]));
 }
-// The results come in memory that is used up.
+// The results come in memory that may be used up.
 template <class T, int Channels>
 void put(Hux32f* from, Index n, void* pixels) {
   auto* p = static_cast<Element<T>*>(pixels);
@@ -96,16 +96,17 @@ Axis axisOf(Extent extent, Index image, Index tpl) {
 
 // Places of results, and the pixels that their windows see.
 struct Grid {
+  Extent extent;
   Axis x, y;
   Index width, height, across, down;  // of a tile, and numbers of tiles
   Index columns, rows;                // of a block in memory
 
-  Grid(Extent extent, HuxiSize image, HuxiSize tpl)
-      : x(axisOf(extent, image.width, tpl.width)), y(axisOf(extent, image.height, tpl.height)) {}
+  Grid(Extent e, HuxiSize image, HuxiSize tpl)
+      : extent(e), x(axisOf(e, image.width, tpl.width)), y(axisOf(e, image.height, tpl.height)) {}
 
   // A full result that fits a block is one tile, though its windows reach beyond the block: what they see there are the
   // zeros around the image, in sums of products by way of the block's other end.
-  void cut(Extent extent, Index blockWidth, Index blockHeight, HuxiSize tpl) {
+  void cut(Index blockWidth, Index blockHeight, HuxiSize tpl) {
     const bool whole = extent == Extent::full && blockWidth >= x.result && blockHeight >= y.result;
     width = whole ? x.result : blockWidth - tpl.width + 1;
     height = whole ? y.result : blockHeight - tpl.height + 1;
@@ -176,7 +177,6 @@ class Matcher {
  public:
   Matcher(const Pixels& pixels, Extent extent, Measure measure, Source src, Source tpl, Result dst, Hux32f factor)
       : pixels_(pixels),
-        extent_(extent),
         measure_(measure),
         src_(src),
         tpl_(tpl),
@@ -186,7 +186,7 @@ class Matcher {
 
   HuxStatus run() {
     if (HuxStatus s = blocks_.make(grid_.x.order, grid_.y.order)) return s;
-    grid_.cut(extent_, blocks_.width(), blocks_.height(), tpl_.size);
+    grid_.cut(blocks_.width(), blocks_.height(), tpl_.size);
     step_ = blocks_.step(grid_.columns);
     const TilePool pool = {spectraBytes() + sliceBytes(), sliceBytes()};
     const auto prepared = [&](std::byte* shared, Index& tiles) {
@@ -302,7 +302,6 @@ class Matcher {
   }
 
   const Pixels& pixels_;
-  Extent extent_;
   Measure measure_;
   Source src_, tpl_;
   Result dst_;
