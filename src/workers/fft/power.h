@@ -108,8 +108,8 @@ template <Order O>
 void transformToReal(const void* block, const RealPlan& plan, const Hux32f* src, Hux32f* dst, std::byte* work);
 
 // The tables of recombination of a real sequence of n numbers with its half, from factor(k) = exp(-2 pi i k / n), for
-// any even n: floats in them, and their contents.
-constexpr Index recombinationFloats(Index n) { return (n / 4 + kSplitLanes - 1) / kSplitLanes * kSplitLanes * 2; }
+// any even n: floats in them, as many whatever the lanes, since sizes of contexts are reported, and their contents.
+constexpr Index recombinationFloats(Index n) { return (n / 4 + 7) / 8 * 8 * 2; }
 template <class Factor>
 void fillRecombination(Hux32f* forward, Hux32f* inverse, Index n, Factor factor) {
   const Index units = recombinationFloats(n) / (2 * kSplitLanes);
