@@ -400,7 +400,10 @@ void Caller::placeImage(int index) {
   const int unit = odd ? 1 : element;
   int step = rowBytes;
   if (argument.step >= 0) {
-    if (!stepped_[argument.step]) values_[argument.step].i = step = this->step(argument, rowBytes, unit);
+    // Steps of floats are whole elements. Some families would cut them to that, and find NaNs in the bits between rows
+    // that nobody could count as one value.
+    const int whole = isFloat(argument.element) ? element : unit;
+    if (!stepped_[argument.step]) values_[argument.step].i = step = this->step(argument, rowBytes, whole);
     stepped_[argument.step] = true;
     step = values_[argument.step].i;
   }
@@ -741,10 +744,10 @@ std::string Caller::arguments() const {
     std::snprintf(line, sizeof line, format, what...);
     text += line;
   };
-  for (int i = 0; i < function_->own; ++i) {
+  for (int i = 0; i < function_->all; ++i) {
     const Argument& argument = own_[i];
     const Value& value = values_[i];
-    say("%s%s=", i ? " " : "", argument.name);
+    say("%s%s=", !i ? "" : i == function_->own ? " | " : " ", argument.name);
     if (argument.kind != Kind::value) {
       if (!value.p)
         say("%s", "null");

@@ -78,7 +78,7 @@ class Caller {
 
   HuxStatus status() const { return status_; }
   const char* name() const { return function_ ? function_->name : "no call"; }
-  std::string arguments() const;  // of the last call, as text
+  std::string arguments() const;  // of the last call, as text, and behind a bar those of its context's maker
 
  protected:
   // The call itself, its arguments made.

@@ -87,7 +87,7 @@ class Check {
     all.add(digest);
     ++calls_;
     if (options_.verbose) {
-      std::printf("  %016" PRIx64 " %5d  %s\n", digest, caller_.status(), caller_.arguments().c_str());
+      std::printf("  %016" PRIx64 " %-20s %s\n", digest, nameOf(caller_.status()), caller_.arguments().c_str());
     }
   }
 

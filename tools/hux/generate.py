@@ -202,6 +202,9 @@ class Table:
                  f"const Teller kTellers[] = {{{', '.join(tellers)}}};", "const Argument kArguments[] = {"]
         text += [line + "," for line in self.arguments] + ["};", "const Function kFunctions[] = {"]
         text += [line + "," for line in functions] + ["};", f"const int kFunctionCount = {len(functions)};"]
+        text += ["const char* nameOf(HuxStatus status) {", "  switch (status) {"]
+        text += [f'    case {s["value"]}: return "{s["name"]}";' for s in self.registry["statuses"]]
+        text += ["    default: return \"no status\";", "  }", "}"]
         Path(path).write_text("\n".join(text + self.trampolines() + ["}  // namespace hux::tool", ""]))
 
 

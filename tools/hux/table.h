@@ -169,6 +169,9 @@ extern const Argument kArguments[];
 extern const Function kFunctions[];
 extern const int kFunctionCount;
 
+// The name of a status, huxStsOk and so on.
+const char* nameOf(HuxStatus status);
+
 // Calls a function of a shape with arguments of that shape.
 Value call(int shape, Any function, const Value* arguments);
 
