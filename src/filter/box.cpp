@@ -7,6 +7,7 @@
 #include "core/team.h"
 #include "core/window.h"
 #include "filter/box_scale.h"
+#include "filter/vector_rows.h"
 #include "huxi_filter.h"
 #include "lanes/elementwise.h"
 #include "workers/move.h"
@@ -26,14 +27,6 @@ struct Box {
   HuxiPoint anchor;
 };
 
-// Elements of a row of so many pixels, up to the last that is processed: alpha behind it is not read.
-template <class L>
-constexpr Index rowElements(Index pixels) {
-  return pixels * L::channels - (L::channels - L::processed);
-}
-template <class L>
-inline constexpr int kStored = L::channels == 4 ? L::processed : 4;
-
 // The sums of a call keep state from row to row. Each kind of them gives
 //   bytes()                             the work memory for it
 //   start(memory, window)               the sums of the first row
@@ -48,8 +41,8 @@ class IntegerSums {
   static constexpr Index atOnce = 1;
 
   IntegerSums(HuxiSize roi, HuxiSize mask, Hux32s bias, Finish finish)
-      : n_(rowElements<L>(roi.width)),
-        columns_(rowElements<L>(Index(roi.width) + mask.width - 1)),
+      : n_(elementsOf<L>(roi.width)),
+        columns_(elementsOf<L>(Index(roi.width) + mask.width - 1)),
         mask_(mask),
         bias_(bias),
         finish_(finish) {}
@@ -65,7 +58,7 @@ class IntegerSums {
     for (Index y = 0; y < count; ++y) {
       Element<T>* dst = line(y);
       windowSums<L::channels, W, true>(sums_, mask_.width, n_, [dst, finish = finish_](Index x, auto s, int some) {
-        storeColours<kStored<L>>(dst + x, finish(s), some);
+        storeColours<L::channels == 4 ? L::processed : 4>(dst + x, finish(s), some);
       });
       if (y < moves) columns.move(windows.row(y)[mask_.height], windows.row(y)[0]);
     }
@@ -111,7 +104,7 @@ class FloatSums {
   static constexpr Index atOnce = kRowsInOrder;
 
   FloatSums(HuxiSize roi, HuxiSize mask, Move move, Finish finish)
-      : columns_(rowElements<L>(Index(roi.width) + mask.width - 1)), mask_(mask), move_(move), finish_(finish) {}
+      : columns_(elementsOf<L>(Index(roi.width) + mask.width - 1)), mask_(mask), move_(move), finish_(finish) {}
 
   std::size_t bytes() const {
     return std::size_t(columns_ + kOrderedLanes + orderedRoom<N>(mask_.width)) * sizeof(Hux32f);
@@ -152,17 +145,36 @@ class FloatSums {
     }
     // Columns move on by as many rows as there are; what they hold on the way are the rows.
     const auto make = [&, sums = sums_, move = move_](Index j, int some, OrderedLines<N>& lines) {
-      for (Index y = 0; y < atOnce; ++y)
-        for (int k = 0; k < some; k += lanes) {
-          const V sum = loadLanes<V>(sums + j + k);
-          storeLanes(lines[y] + k, sum);
-          if (y < moves) storeLanes(sums + j + k, move(sum, load(entering[y], j + k), load(leaving[y], j + k)));
+      constexpr int piece = kOrderedPiece<N>;
+      // Several columns beside each other, whose sums stay in registers on their way down.
+      const auto down = [&](auto vectors, int at, auto loadAt) HUX_INLINE {
+        const auto each = [&](auto body)
+                              HUX_INLINE { unrolled<vectors>([&](auto k) HUX_INLINE { body(at + k * lanes, k); }); };
+        V sum[vectors];
+        each([&](int i, auto k) HUX_INLINE { sum[k] = loadLanes<V>(sums + j + i); });
+        for (Index y = 0; y < atOnce; ++y) {
+          each([&](int i, auto k) HUX_INLINE { storeLanes(lines[y] + i, sum[k]); });
+          if (y >= moves) continue;
+          const Element<T>*const in = entering[y] + j, *const out = leaving[y] + j;
+          if (vectors > 1) fetchPiece(in + piece, piece);
+          each([&](int i, auto k) HUX_INLINE { sum[k] = move(sum[k], loadAt(in, i), loadAt(out, i)); });
         }
+        each([&](int i, auto k) HUX_INLINE { storeLanes(sums + j + i, sum[k]); });
+      };
+      if (some == piece)
+        down(std::integral_constant<int, piece / lanes>{}, 0,
+             [](const Element<T>* row, int i) HUX_INLINE { return loadLanes<VT>(row + i); });
+      else
+        for (int at = 0; at < some; at += lanes)
+          down(std::integral_constant<int, 1>{}, at,
+               [&](const Element<T>* row, int i) { return load(row - j, j + i); });
     };
     const auto take = [&, finish = finish_](Index x, int some, const OrderedLines<N>& lines) {
-      for (Index y = 0; y < count; ++y)
+      for (Index y = 0; y < count; ++y) {
+        fetchPiece(dst[y] + x + some, some);
         for (int k = 0; k < some; k += lanes)
-          storeColours<kStored<L>>(dst[y] + x + k, finish(loadLanes<V>(lines[y] + k)), std::min(lanes, some - k));
+          storePixels<StoreOf<L>>(dst[y] + x, k, finish(loadLanes<V>(lines[y] + k)), some);
+      }
     };
     const auto along = [](V sum, V in, V out) { return (sum + in) - out; };
     windowSumsInOrder<N>(room_, columns_, mask_.width, along, make, take);
@@ -200,7 +212,7 @@ HuxStatus ownBlur(const Box<T>& b, Sums sums) {
   const auto windows = windowsOf<L>(b);
   const auto dst = rows<L>(b.pDst, b.dstStep);
   // Where rows of the destination overlap, the last one stands: they are not computed side by side.
-  const bool overlap = b.dstStep < rowElements<L>(b.roi.width) * Index(sizeof(T));
+  const bool overlap = b.dstStep < elementsOf<L>(b.roi.width) * Index(sizeof(T));
   return loopRows(b.roi.height, forks<L>(b), sums.bytes(), [&](RowRange share, std::byte* slice) {
     Sums own = sums;  // one for each thread
     own.start(slice, windows.row(share.first));

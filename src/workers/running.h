@@ -130,6 +130,12 @@ inline constexpr int kOrderedPiece = (N == 3 ? 6 : 4) * kOrderedLanes;
 template <int N>
 using OrderedLines = Hux32f[kRowsInOrder][kOrderedPiece<N>];
 
+// Asks for the next piece of a row, from p on: so many rows side by side are more than the machine foresees.
+template <class T>
+void fetchPiece(const Element<T>* p, Index elements) {
+  for (Index i = 0; i < elements; i += 64 / Index(sizeof(T))) __builtin_prefetch(p + i);
+}
+
 // What windowSumsInOrder needs of work memory, in floats: a power of two of columns of its rows.
 template <int N>
 constexpr Index orderedColumns(Index mask) {
