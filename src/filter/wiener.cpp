@@ -9,6 +9,7 @@
 #include "core/stamp.h"
 #include "core/team.h"
 #include "core/window.h"
+#include "filter/vector_rows.h"
 #include "huxi_filter.h"
 #include "huxi_stats.h"
 #include "lanes/row_lanes.h"
@@ -56,15 +57,13 @@ template <class L, class T>
 class LocalVarMean {
  public:
   static constexpr int C = L::channels;
-  // In elements, of which the last alpha is not one.
-  static Index elementsOf(Index width) { return width * C - (C - L::processed); }
   // The floats of a row of sums.
-  static Index room(Index width) { return (elementsOf(width) + kLanes - 1) / kLanes * kLanes; }
+  static Index room(Index width) { return (elementsOf<L>(width) + kLanes - 1) / kLanes * kLanes; }
 
   LocalVarMean(WindowRows<T> windows, HuxiSize mask, Index width, Hux32f* room)
       : windows_(windows),
         mask_(mask),
-        elements_(elementsOf(width)),
+        elements_(elementsOf<L>(width)),
         far_((mask.width - 1) * Index(C)),
         sums_{room, room + LocalVarMean::room(width)} {}
 
@@ -321,7 +320,7 @@ class Wiener {
           const V pixels = elements == kLanes ? loadLanes<V>(from) : loadLanes<V>(from, elements, 0);
           const Floats mean = sum[r] * recip_, variance = greater(squares[r] - sum[r] * sum[r] * recip_, n);
           const Floats result = mean + (convert<Hux32f>(pixels) - mean) * ((variance - n) / variance);
-          storeColours<L::channels == 4 ? L::processed : 4>(dst_.row(y + r) + e, stored(result), elements);
+          storePixels<StoreOf<L>>(dst_.row(y + r) + e, 0, stored(result), elements);
         }
       });
     });
