@@ -6,6 +6,7 @@
 
 #include "core/scratch.h"
 #include "filter/fixed.h"
+#include "filter/vector_rows.h"
 #include "workers/running.h"
 
 namespace hux {
@@ -31,27 +32,35 @@ HuxStatus runningSums5x5(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstS
   for (Index row = 0; row < sourceRows; row += kRowsInOrder) {
     const Index count = std::min<Index>(kRowsInOrder, sourceRows - row);
     const auto make = [&](Index j, int elements, OrderedLines<N>& lines) {
-      for (Index k = 0; k < kRowsInOrder; ++k)
-        std::memcpy(lines[k], window[row + std::min(k, count - 1)] + j, std::size_t(elements) * sizeof(Hux32f));
+      for (Index k = 0; k < kRowsInOrder; ++k) {
+        const Element<Hux32f>* const from = window[row + std::min(k, count - 1)] + j;
+        fetchPiece(from + piece, piece);
+        if (elements == piece)
+          std::memcpy(lines[k], from, piece * sizeof(Hux32f));
+        else
+          std::memcpy(lines[k], from, std::size_t(elements) * sizeof(Hux32f));
+      }
     };
     const auto take = [&](Index x, int elements, OrderedLines<N>& lines) {
-      for (Index k = 0; k < count; ++k) {
-        const Index r = row + k;
-        const auto before = [&](Index r) { return memory.get() + r % 5 * line + x; };
-        for (Index i = 0; i < piece; i += lanesIn<V>) {
-          const V entering = loadLanes<V>(lines[k] + i), leaving = loadLanes<V>(before(r) + i);
-          V total = loadLanes<V>(totals + x + i) - leaving;
+      const auto before = [&](Index r) { return memory.get() + r % 5 * line + x; };
+      for (int i = 0; i < elements; i += lanesIn<V>) {
+        V total = loadLanes<V>(totals + x + i);
+        for (Index k = 0; k < count; ++k) {
+          const Index r = row + k;
+          total = total - loadLanes<V>((k < 5 ? before(r) : lines[k - 5]) + i);
+          if (r < 4) continue;
           if (r == 4) {
-            total = loadLanes<V>(before(0) + i);
-            for (Index j = 1; j < 4; ++j) total = total + loadLanes<V>(before(j) + i);
+            total = loadLanes<V>(lines[0] + i);
+            for (Index j = 1; j < 4; ++j) total = total + loadLanes<V>(lines[j] + i);
           }
-          storeLanes(totals + x + i, total + entering);
-          storeLanes(before(r) + i, entering);
+          total = total + loadLanes<V>(lines[k] + i);
+          const Element<Hux32f>* const pixels = src.row(r - 4) + x + i;
+          const V centre = elements - i < lanesIn<V> ? loadLanes<V>(pixels, elements - i, 0) : loadLanes<V>(pixels);
+          storePixels<StoreOf<L>>(dst.row(r - 4) + x, i, rule(total, centre), elements);
         }
-        using Operand = FromRow<Hux32f, Rule::lanes>;
-        if (r >= 4)
-          applyRule<L>(dst.row(r - 4) + x, (elements + N - 1) / N, rule, Operand{elementsAs<Hux32f>(totals + x)},
-                       Operand{src.row(r - 4) + x});
+        storeLanes(totals + x + i, total);
+        for (Index k = std::max<Index>(count - 5, 0); k < count; ++k)
+          storeLanes(before(row + k) + i, loadLanes<V>(lines[k] + i));
       }
     };
     // The sum of a row is left without its first pixel before it takes the next.
