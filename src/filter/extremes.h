@@ -46,9 +46,12 @@ template <class V, class T>
 bool anyNaN(const Element<T>* row, Index count) {
   if constexpr (std::is_floating_point_v<T>) {
     auto found = V{} != V{};
-    overRow<V, T>(count, [&](Index i, auto load) {
-      const V v = load(row + i);
-      found |= v != v;
+    Index i = 0;
+    for (constexpr int lanes = lanesIn<V>; i + 2 * lanes <= count; i += 2 * lanes)
+      found |= unordered(loadLanes<V>(row + i), loadLanes<V>(row + i + lanes));
+    overRow<V, T>(count - i, [&, rest = row + i](Index i, auto load) {
+      const V v = load(rest + i);
+      found |= unordered(v, v);
     });
     return anyHolds(found);
   } else {
@@ -88,19 +91,61 @@ void extremes3x3(Window<T> window, Index neighbour, const std::array<Element<T>*
   });
 }
 
+// Two rows of them by columns, from windows without NaN: the extremes of columns are kept, and serve three windows
+// each.
+template <class Pick, class Store, class T>
+void extremesOfColumns(Window<T> window, Index neighbour, const std::array<Element<T>*, 2>& dst, Index count) {
+  using V = Lanes<T, laneCount<T>>;
+  constexpr Index strip = 512, lanes = lanesIn<V>;
+  const Pick pick;
+  Element<T> columns[2][strip + 2 * 4];
+  for (Index x = 0; x < count; x += strip) {
+    // A short rest begins earlier, at a pixel, and finds some elements again.
+    const Index first = x > 0 && count - x < lanes ? x - 16 : x, n = std::min(count - first, strip);
+    alongRows<V>(sourceRows<4>(Window<T>{window.first + first, window.step}, 0), n + 2 * neighbour,
+                 [=, upper = columns[0], lower = columns[1]](const auto& rows, Index i) {
+                   const auto cell = [&](std::size_t j) { return loadLanes<V>(rows[j] + i); };
+                   const V between = pick(cell(1), cell(2));
+                   storeLanes(upper + i, pick(cell(0), between));
+                   storeLanes(lower + i, pick(between, cell(3)));
+                 });
+    for (std::size_t r = 0; r < 2; ++r)
+      coverRow<lanes>(n, [=, from = columns[r], to = dst[r] + first](Index i) {
+        const V v = pick(splat<V>(Pick::template limit<T>), loadLanes<V>(from + i));
+        storePixels<Store>(
+            to, i, pick(pick(v, loadLanes<V>(from + i + neighbour)), loadLanes<V>(from + i + 2 * neighbour)), n);
+      });
+  }
+}
+
 // A region of them: two rows at a time share the source rows between.
 template <class Pick, Order order, class Store, class T>
 void extremes3x3(WindowRows<T> src, Rows<T> dst, Index neighbour, Index count, Index height) {
+  using V = Lanes<T, laneCount<T>>;
+  constexpr bool columns = order == Order::kColumns && std::is_floating_point_v<T>;
+  const auto anyNaNIn = [=](Index row) { return anyNaN<V>(src.row(row).first, count + 2 * neighbour); };
   Index y = 0;
-  for (; y + 2 <= height; y += 2)
-    extremes3x3<Pick, order, Store>(src.row(y), neighbour, std::array{dst.row(y), dst.row(y + 1)}, count);
+  bool below = columns && height > 1 && (anyNaNIn(0) || anyNaNIn(1));  // whether there is NaN in the last two rows seen
+  for (; y + 2 <= height; y += 2) {
+    const std::array pair{dst.row(y), dst.row(y + 1)};
+    const Window<T> window = src.row(y);
+    if constexpr (columns) {
+      const bool above = below;
+      below = anyNaNIn(y + 2) || anyNaNIn(y + 3);
+      if (!above && !below) {
+        extremesOfColumns<Pick, Store>(window, neighbour, pair, count);
+        continue;
+      }
+    }
+    extremes3x3<Pick, order, Store>(window, neighbour, pair, count);
+  }
   if (y < height) extremes3x3<Pick, order, Store>(src.row(y), neighbour, std::array{dst.row(y)}, count);
 }
 
 // Neighbouring vectors, treated together to make up for what leads up to them.
-template <class Pick, class T>
+template <class Pick, class T, int Vectors = 4>
 struct Groups {
-  static constexpr int lanes = laneCount<T>, vectors = 4;
+  static constexpr int lanes = laneCount<T>, vectors = Vectors;
   static constexpr Index elements = vectors * lanes;
   using V = Lanes<T, lanes>;
   using Group = std::array<V, vectors>;
@@ -144,9 +189,13 @@ template <class Pick, class T>
 class ExtremeRows {
  public:
   using G = Groups<Pick, T>;
+  using G2 = Groups<Pick, T, 2>;
   using V = typename G::V;
   static constexpr int lanes = G::lanes;
   static constexpr Index kGroup = G::elements;
+  // Of low windows so many rows are computed at once, without memory for what they have.
+  static constexpr Index kInRegisters = 4, kLowest = 8;
+  static constexpr Index kDirect = 6;  // the widest windows that are found in one pass
 
   // Strips of `count` elements; no more than mask.height rows at once.
   struct Shape {
@@ -170,15 +219,14 @@ class ExtremeRows {
   };
 
   // The shape of strips for a region of so many elements and rows: as wide as stays near the processor, but not so
-  // narrow that what they have in common outweighs them, nor of more than `most` bytes if that can be.
-  static Shape shapeFor(HuxiSize mask, Index neighbour, Index elements, Index rows,
-                        std::size_t most = std::numeric_limits<std::size_t>::max()) {
-    constexpr Index near = 32 << 10;
-    Shape shape{mask, neighbour, std::min<Index>(mask.height, rows), kGroup};
+  // narrow that what they have in common outweighs them. The second cache is near enough: what strips of the first one
+  // would save there is lost in memory, where each of their short rows begins with a wait.
+  static Shape shapeFor(HuxiSize mask, Index neighbour, Index elements, Index rows) {
+    constexpr Index near = 256 << 10;
+    const Index atOnce = mask.height >= kInRegisters && mask.height <= kLowest ? kInRegisters : mask.height;
+    Shape shape{mask, neighbour, std::min(atOnce, rows), kGroup};
     const Index fits = near / Index(sizeof(T)) / shape.lines(), common = (mask.width - 1) * neighbour;
     shape.count = std::clamp(std::max(fits, 4 * common) / kGroup * kGroup, kGroup, std::max(elements, kGroup));
-    while (shape.bytes() > most && shape.count > kGroup)
-      shape.count = std::max(shape.count / 2 / kGroup * kGroup, kGroup);
     return shape;
   }
 
@@ -210,7 +258,10 @@ class ExtremeRows {
       window_[k] = lines_[row + k];
     }
     for (Index r = 0; r < rows; ++r) line_[r] = line(row + r);
-    G::template cover<Store>(count_, [&](Index i, auto store) { group(i, rows, finish, store); });
+    if (rows == kInRegisters)
+      G2::template cover<Store>(count_, [&](Index i, auto store) { fourRows(i, finish, store); });
+    else
+      G::template cover<Store>(count_, [&](Index i, auto store) { group(i, rows, finish, store); });
     return true;
   }
 
@@ -243,13 +294,36 @@ class ExtremeRows {
     }
   }
 
-  // The extremes along one source row, from windows of one pixel to four times as many in each pass.
+  // Four rows of a group, whose windows have all rows of the last one's from its first on in common.
+  template <class Finish, class Put>
+  void fourRows(Index i, Finish finish, Put put) {
+    const Index height = shape_.mask.height;
+    const Element<T>* const* const window = window_;
+    const auto at = [=](Index k) { return G2::load(window[k] + i); };
+    const auto store = [=, this](Index r, typename G2::Group v) {
+      for (V& one : v) one = finish(one);
+      put(line_[r], v);
+    };
+    auto third = at(height - 1);
+    for (Index k = height - 2; k >= 3; --k) third = G2::pick(at(k), third);
+    const auto second = G2::pick(at(2), third), first = G2::pick(at(1), second);
+    store(0, G2::pick(at(0), first));
+    auto behind = at(height);
+    store(1, G2::pick(first, behind));
+    behind = G2::pick(behind, at(height + 1));
+    store(2, G2::pick(second, behind));
+    store(3, G2::pick(third, G2::pick(behind, at(height + 2))));
+  }
+
+  // The extremes along one source row, from windows of one pixel to four times as many in each pass; of narrow windows
+  // in one.
   void fill(Index row) {
     const Index neighbour = shape_.neighbour, width = shape_.mask.width;
     const Element<T>* source = top_[row];
     holdsNaN_[row % shape_.lines()] = anyNaN<V>(source, count_ + (width - 1) * neighbour);
     for (Index done = 1, pass = 0;; ++pass) {
-      const Index wider = std::min(4 * done, width), count = count_ + (width - wider) * neighbour;
+      const Index wider = done == 1 && width <= kDirect ? width : std::min(4 * done, width),
+                  count = count_ + (width - wider) * neighbour;
       auto* dst = wider == width ? lines_[row] : temporary_[pass];
       const auto overlap = [=, step = done * neighbour, last = (wider - done) * neighbour](auto terms) {
         const auto extreme = [=](const Element<T>* p, Index i) {
@@ -275,6 +349,12 @@ class ExtremeRows {
           break;
         case 4:
           overlap(std::integral_constant<int, 4>{});
+          break;
+        case 5:
+          overlap(std::integral_constant<int, 5>{});
+          break;
+        case 6:
+          overlap(std::integral_constant<int, 6>{});
           break;
       }
       if (wider == width) return;

@@ -109,14 +109,13 @@ class StructuringElement {
 
   bool nine() const { return full_ && size_.width == 3 && size_.height == 3; }
 
-  // body(shape, type of strips) for strips of so many elements and rows where these pay, of no more than `most` bytes
-  // if that can be; else otherwise().
+  // body(shape, type of strips) for strips of so many elements and rows where these pay; else otherwise().
   template <class Body, class Otherwise>
-  auto byStrips(Index elements, Index rows, std::size_t most, Body body, Otherwise otherwise) const {
+  auto byStrips(Index elements, Index rows, Body body, Otherwise otherwise) const {
     using Full = ExtremeRows<Pick, T>;
     using Parts = PieceRows<Pick, T>;
     if (full_ && area(size_) > 9)
-      return body(Full::shapeFor(size_, neighbour_, elements, rows, most), std::type_identity<Full>{});
+      return body(Full::shapeFor(size_, neighbour_, elements, rows), std::type_identity<Full>{});
     if (!full_ && pieces_.pay())
       return body(Parts::shapeFor(pieces_, size_, neighbour_, elements), std::type_identity<Parts>{});
     return otherwise();
@@ -173,7 +172,6 @@ class StructuringElement {
 // Memory for strips: on the stack, else from the heap. Where there is none the cells serve, one by one.
 class StripMemory {
  public:
-  static constexpr std::size_t kNear = 60 << 10;
   explicit StripMemory(std::size_t bytes)
       : far_(bytes > kNear ? allocate(bytes) : nullptr), first_(bytes > kNear ? far_ : near_) {}
   ~StripMemory() { release(far_); }
@@ -182,6 +180,7 @@ class StripMemory {
 
  private:
   void *far_, *first_;
+  static constexpr std::size_t kNear = 60 << 10;
   alignas(64) std::byte near_[kNear];
 };
 
@@ -201,7 +200,7 @@ void select(StructuringElement<Pick, T>& element, Rows<T> dst, Index elements, I
                                         [&](Index r) { return dst.row(r) + from; });
     }
   };
-  element.byStrips(elements, height, StripMemory::kNear, byStrips, byCells);
+  element.byStrips(elements, height, byStrips, byCells);
 }
 
 // Takes memory for the ring of rows and `bytes` more. computeWith(ring, more memory) gives what computes rows into the
@@ -241,7 +240,7 @@ HuxStatus selectInPlace(StructuringElement<Pick, T>& element, Rows<T> image, Hux
     });
   };
   const Index rows = rowsInPlace(roi.height, above).rows;
-  return element.byStrips(elements, rows, std::numeric_limits<std::size_t>::max(), byStrips, byCells);
+  return element.byStrips(elements, rows, byStrips, byCells);
 }
 
 // A row of so many elements of T must lie within its step.

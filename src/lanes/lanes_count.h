@@ -1,4 +1,4 @@
-// How many lanes of a comparison hold.
+// Of comparisons: how many lanes hold, and where there are NaN.
 #pragma once
 
 #include <bit>
@@ -30,7 +30,18 @@ int lanesThatHold(V comparison) {
   return count;
 }
 
-// Whether any does.
+// Lanes in which either is a NaN.
+template <class V>
+auto unordered(V a, V b) {
+#if defined(__AVX__)
+  if constexpr (std::is_same_v<V, Lanes<Hux32f, 8>>)
+    return Lanes<Hux32s, 8>(_mm256_cmp_ps(__m256(a), __m256(b), _CMP_UNORD_Q));
+  else
+#endif
+    return (a != a) | (b != b);
+}
+
+// Whether any lane of a comparison holds.
 template <class V>
 bool anyHolds(V comparison) {
   return lanesThatHold(comparison) != 0;

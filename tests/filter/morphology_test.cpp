@@ -145,6 +145,7 @@ TEST(Morphology, LargeMasksAndStrips) {
       const auto mask = maskOf(rng, {5, 3}, shape);
       ASSERT_NO_FATAL_FAILURE(expectBoth(rng, f, {between(rng, 2000, 4000), 5}, {5, 3}, &mask, Place::kStart));
     }
+    ASSERT_NO_FATAL_FAILURE(expectBoth(rng, f, {between(rng, 500, 1100), 7}, k3x3, nullptr, Place::kEnd));
   }
 }
 
