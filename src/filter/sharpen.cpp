@@ -60,8 +60,8 @@ struct Laplace5 {
     }
   }
   template <class D>
-  static auto column(const auto& r, const auto&) {
-    return saturate<D>(r[-2][0] + r[-1][1] + r[0][2] + r[1][1] + r[2][0]);
+  static auto ofSum(const auto& sum) {
+    return saturate<D>(sum);
   }
 };
 

@@ -58,16 +58,14 @@ struct Gauss5 {
     }
   }
   template <class D>
-  static auto column(const auto& r, const auto&) {
-    if constexpr (std::is_same_v<D, Hux8u>) {
-      return divided(r[-2][0] + r[2][0], r[-1][1] + r[1][1], r[0][2]);
-    } else {
-      const auto sum = r[-2][0] + r[-1][1] + r[0][2] + r[1][1] + r[2][0];
-      if constexpr (isFloat<std::remove_cvref_t<decltype(sum)>>)
-        return sum;
-      else
-        return quotient(sum, 571, 7521834);
-    }
+  requires std::is_same_v<D, Hux8u>
+  static auto column(const auto& r, const auto&) { return divided(r[-2][0] + r[2][0], r[-1][1] + r[1][1], r[0][2]); }
+  template <class D, class V>
+  requires(!std::is_same_v<D, Hux8u>) static auto ofSum(V sum) {
+    if constexpr (isFloat<V>)
+      return sum;
+    else
+      return quotient(sum, 571, 7521834);
   }
 
  private:

@@ -1,77 +1,71 @@
 #include "workers/passes.h"
 
+#include <cstdlib>
 #include <cstring>
 
 namespace hux {
 namespace {
 
-// What is kept, and the rows that go by, are at home in a cache of 32 KiB.
-constexpr Index kLinesBytes = 24 << 10;
-constexpr Index kLineGrain = 64;  // elements; no vector has more
+// As many rows as the processor can foresee beside those around them, in memory and in the ways of its cache.
+constexpr Index kBlockRows = 8;
+constexpr Index kGrain = 64;  // elements; no vector has more
 
-// A source row as the loops take it: one that is shorter than a vector lies in a line of its own.
+// Source rows where they are shorter than a vector: copies, around which memory is readable.
 template <class T>
-class SourceRows {
+class ShortRows {
  public:
-  SourceRows(Rows<const T> rows, Index n, Index reach, bool direct)
-      : rows_(rows), n_(n), reach_(reach), direct_(direct) {}
-
-  const Element<T>* row(Index y) {
-    const Element<T>* first = rows_.row(y);
-    if (direct_) return first;
-    std::memcpy(line_, first - reach_, std::size_t(n_ + 2 * reach_) * sizeof(T));
-    return line_ + reach_;
+  ShortRows(const Rows<const T>& src, Index y, Index rows, Index above, Index bytes, Index before) {
+    for (Index j = 0; j < rows + 2 * above; ++j)
+      std::memcpy(lines_[j], advance(src.row(y + j - above), -before), std::size_t(bytes + 2 * before));
+    first_ = advance(lines_[above], before);
   }
+  const Element<T>* first() const { return first_; }
+  static constexpr Index step = Index(sizeof(T)) * (kGrain + 2 * 2 * 4);
 
  private:
-  Rows<const T> rows_;
-  Index n_, reach_;
-  bool direct_;
-  Element<T> line_[kLineGrain + 2 * 2 * 4] = {};
+  Element<T> lines_[kBlockRows + 4][kGrain + 2 * 2 * 4] = {};
+  const Element<T>* first_;
 };
 
-template <class T>
-Rows<T> from(Rows<T> rows, Index element) {
-  rows.first += element;
-  return rows;
+template <class D>
+void storeRow(Element<D>* dst, const Element<D>* row, Index n, bool whole) {
+  if (whole) return void(std::memcpy(dst, row, std::size_t(n) * sizeof(D)));
+  for (Index i = 0; i < n; i += 4) std::memcpy(dst + i, row + i, 3 * sizeof(D));
 }
 
 }  // namespace
 
 template <class T, class D>
 void runPasses(const Passes<T, D>& filter, Rows<const T> src, Rows<D> dst, HuxiSize roi, int channels, int processed) {
-  alignas(64) std::byte memory[kLinesBytes], output[kLinesBytes / 3];
-  const Index pitch = kLinesBytes / (filter.height * filter.results * filter.keptBytes) / kLineGrain * kLineGrain;
-  const Index lineBytes = filter.results * pitch * filter.keptBytes;
-  const Index above = filter.height / 2;
+  const Index above = filter.height / 2, lanes = filter.lanes;
   const bool whole = channels == processed;
   // Alpha of the last pixels is not even read.
   const Index elements = Index(roi.width) * channels - (channels - processed);
+  // Rows that overlap are written one after another, so that the last one stands.
+  const Index most = std::abs(dst.step) < elements * Index(sizeof(D)) ? 1 : kBlockRows;
 
-  const Index strip = pitch - kLineGrain;  // lines start late by the lead
-  for (Index x = 0; x < elements; x += strip) {
-    // A short rest begins earlier, at a pixel, and computes some elements again.
-    const Index first = x > 0 && elements - x < filter.lanes ? x - kLineGrain : x;
-    const Index n = std::min(elements - first, strip);
-    const bool direct = n >= filter.lanes;
-    SourceRows<T> newest(from(src, first), n, above * channels, direct), centre = newest;
-    const Rows<D> out = from(dst, first);
-    const auto outputOf = [&](Index y) { return whole && direct ? out.row(y) : reinterpret_cast<Element<D>*>(output); };
-
-    const Index lead = Index(reinterpret_cast<std::uintptr_t>(outputOf(0)) / sizeof(D) % std::size_t(filter.lanes));
-    const PassRange range = {std::max<Index>(n, filter.lanes), direct ? lead : 0, pitch};
-    std::byte* lines[2 * 5];  // twice, so that the window's rows follow each other from any row on
-    for (int j = 0; j < 2 * filter.height; ++j)
-      lines[j] = memory + j % filter.height * lineBytes + range.lead * filter.keptBytes;
-
-    for (Index y = 0; y < 2 * above; ++y) filter.keep(newest.row(y - above), channels, lines[y], range);
-    for (Index y = 0; y < roi.height; ++y) {
-      filter.step(newest.row(y + above), centre.row(y), channels, lines + y % filter.height, outputOf(y), range);
-      const Element<D>* result = elementsAs<D>(output);
-      if (!whole)
-        for (Index i = 0; i < n; i += 4) std::memcpy(out.row(y) + i, result + i, 3 * sizeof(D));
-      else if (!direct)
-        std::memcpy(out.row(y), result, std::size_t(n) * sizeof(D));
+  for (Index y = 0; y < roi.height; y += most) {
+    const Index rows = std::min(most, roi.height - y);
+    if (whole && elements >= lanes) {
+      const Index lead = Index(reinterpret_cast<std::uintptr_t>(dst.row(y)) / sizeof(D) % std::size_t(lanes));
+      filter.run(src.row(y), channels, dst.row(y), {elements, lead, rows, src.step, dst.step});
+      continue;
+    }
+    // Through memory of ours, from where only colours are taken.
+    constexpr Index strip = 8 * kGrain;
+    alignas(64) Element<D> output[kBlockRows][strip];
+    for (Index x = 0; x < elements; x += strip) {
+      // A short rest begins earlier, at a pixel, and computes some elements again.
+      const Index first = x > 0 && elements - x < lanes ? x - kGrain : x;
+      const Index n = std::min(elements - first, strip);
+      const PassBlock block = {std::max(n, lanes), 0, rows, src.step, sizeof output[0]};
+      if (n >= lanes) {
+        filter.run(src.row(y) + first, channels, output[0], block);
+      } else {
+        const ShortRows<T> copies(src, y, rows, above, n * Index(sizeof(T)), above * channels * Index(sizeof(T)));
+        filter.run(copies.first(), channels, output[0], {block.n, 0, rows, copies.step, block.dstStep});
+      }
+      for (Index r = 0; r < rows; ++r) storeRow(dst.row(y + r) + first, output[r], n, whole);
     }
   }
 }

@@ -7,8 +7,11 @@
 //   template <class D> static auto column(r, p)   the output, lanes of D
 //
 // where p[0] are the pixels computed and p[-1] their left neighbours (Pixels), r[0] is what row() gave for the row
-// computed and r[-1] for the row above (KeptRows). Each source row is passed over once, and no pixel outside the window
-// is read. What is kept lies on the stack, a strip of columns at a time: such a filter needs no memory.
+// computed and r[-1] for the row above (KeptRows). A vector of columns is gone down a block of rows at a time, so that
+// what is kept lies in registers: such a filter needs no memory. No pixel outside the window is read.
+//
+// Where row() gives three sums, of the weights of the outermost rows, of those beside the middle one and of the middle
+// one, ofSum<D>(sum) may stand in place of column(): it takes their sum from top to bottom.
 #pragma once
 
 #include <algorithm>
@@ -36,23 +39,18 @@ struct KeptRows {
   const R& operator[](int k) const { return rows[k + Height / 2]; }
 };
 
-// A piece of a row of n elements, no fewer than the filter has lanes. Its first vector starts at element 0, the others
-// at multiples of their length less `lead`, so that they lie at vector boundaries of the output, and the last ends with
-// the last element: vectors may overlap. The results kept of one element lie `pitch` apart.
-struct PassRange {
-  Index n, lead, pitch;
+// A block of rows of n elements, no fewer than the filter has lanes. The first vector of a row starts at element 0, the
+// others at multiples of their length less `lead`, so that they lie at vector boundaries of the output, and the last
+// ends with the last element: vectors may overlap. Steps are in bytes.
+struct PassBlock {
+  Index n, lead, rows, srcStep, dstStep;
 };
 
-// The loops of a filter over one row, without its type.
+// A filter without its type: a loop over blocks of pixels whose neighbours lie `distance` elements apart.
 template <class T, class D>
 struct Passes {
-  int height, results;   // rows of the window; what is kept of each,
-  int keptBytes, lanes;  // as elements of so many bytes, so many at a time
-  void (*keep)(const Element<T>* newest, Index distance, std::byte* line, PassRange);
-  // The row pass over the newest row, that is the lowest of the window, and the column pass. `lines` are those of the
-  // window's rows, of which the last is filled.
-  void (*step)(const Element<T>* newest, const Element<T>* centre, Index distance, std::byte* const* lines,
-               Element<D>* dst, PassRange);
+  int height, lanes;
+  void (*run)(const Element<T>* src, Index distance, Element<D>* dst, PassBlock);
 };
 
 // Runs a filter over a region of pixels of `channels` elements, of which the first `processed` are written.
@@ -60,25 +58,6 @@ template <class T, class D>
 void runPasses(const Passes<T, D>&, Rows<const T> src, Rows<D> dst, HuxiSize roi, int channels, int processed);
 
 namespace detail {
-
-template <class R>
-struct ResultsOf {
-  static constexpr int count = 1;
-  using B = LaneType<R>;
-  static void load(R& r, const B* line, Index) { r = loadLanes<R>(line); }
-  static void store(const R& r, B* line, Index) { storeLanes(line, r); }
-};
-template <class V, std::size_t N>
-struct ResultsOf<std::array<V, N>> {
-  static constexpr int count = int(N);
-  using B = LaneType<V>;
-  static void load(std::array<V, N>& r, const B* line, Index pitch) {
-    for (std::size_t k = 0; k < N; ++k) r[k] = loadLanes<V>(line + Index(k) * pitch);
-  }
-  static void store(const std::array<V, N>& r, B* line, Index pitch) {
-    for (std::size_t k = 0; k < N; ++k) storeLanes(line + Index(k) * pitch, r[k]);
-  }
-};
 
 template <class Filter, class T>
 auto keptElement() {
@@ -94,34 +73,57 @@ auto keptElement() {
 
 template <class Filter, class T, class D>
 struct PassLoops {
-  using B = decltype(keptElement<Filter, T>());
-  using P = Pixels<B, T>;
+  using P = Pixels<decltype(keptElement<Filter, T>()), T>;
   using R = decltype(Filter::row(std::declval<P>()));
-  using Results = ResultsOf<R>;
   static constexpr int lanes = P::lanes, height = Filter::height;
 
-  static Index place(Index i, PassRange range) { return std::min(std::max<Index>(i, 0), range.n - lanes); }
+  // What is kept of the rows above the newest one.
+  struct ByRows {
+    KeptRows<R, height> kept;
 
-  static void keep(const Element<T>* newest, Index distance, std::byte* line, PassRange range) {
-    for (Index i = -range.lead; i < range.n; i += lanes) {
-      const Index at = place(i, range);
-      Results::store(Filter::row(P{newest + at, distance}), reinterpret_cast<B*>(line) + at, range.pitch);
+    void add(const P& newest) {
+      for (int j = 0; j + 1 < height; ++j) kept.rows[j] = kept.rows[j + 1];
+      kept.rows[height - 1] = Filter::row(newest);
+    }
+    auto next(const P& newest, const P& centre) {
+      add(newest);
+      return Filter::template column<D>(kept, centre);
+    }
+  };
+  // The same where the output is made of a sum: those of the windows that are begun, by the rows that they have.
+  template <class V>
+  struct BySums {
+    V one{}, two{}, three{}, four{};
+
+    void add(const P& newest) { next(newest, newest); }
+    auto next(const P& newest, const P&) {
+      const std::array<V, 3> sums = Filter::row(newest);
+      const V all = four + sums[0];
+      four = three + sums[1], three = two + sums[2], two = one + sums[1], one = sums[0];
+      return Filter::template ofSum<D>(all);
+    }
+  };
+  static auto start() {
+    if constexpr (requires(R r) { Filter::template ofSum<D>(r[0]); })
+      return BySums<typename R::value_type>();
+    else
+      return ByRows();
+  }
+
+  static void run(const Element<T>* src, Index distance, Element<D>* dst, PassBlock block) {
+    const Index above = height / 2;
+    for (Index i = -block.lead; i < block.n; i += lanes) {
+      const Index at = std::min(std::max<Index>(i, 0), block.n - lanes);
+      P centre{src + at, distance}, newest{advance(src + at, -above * block.srcStep), distance};
+      const auto down = [&](P& pixels) { pixels.first = advance(pixels.first, block.srcStep); };
+      auto rows = start();
+      for (int j = 0; j + 1 < height; ++j, down(newest)) rows.add(newest);
+      Element<D>* to = dst + at;
+      for (Index y = 0; y < block.rows; ++y, down(newest), down(centre), to = advance(to, block.dstStep))
+        storeLanes(to, Lanes<D, lanes>(rows.next(newest, centre)));
     }
   }
-  static void step(const Element<T>* newest, const Element<T>* centre, Index distance, std::byte* const* lines,
-                   Element<D>* dst, PassRange range) {
-    std::array<B*, height> line;
-    for (std::size_t j = 0; j < height; ++j) line[j] = reinterpret_cast<B*>(lines[j]);
-    for (Index i = -range.lead; i < range.n; i += lanes) {
-      const Index at = place(i, range);
-      KeptRows<R, height> kept;
-      for (std::size_t j = 0; j + 1 < height; ++j) Results::load(kept.rows[j], line[j] + at, range.pitch);
-      kept.rows[height - 1] = Filter::row(P{newest + at, distance});
-      Results::store(kept.rows[height - 1], line[height - 1] + at, range.pitch);
-      storeLanes(dst + at, Lanes<D, lanes>(Filter::template column<D>(kept, P{centre + at, distance})));
-    }
-  }
-  static constexpr Passes<T, D> passes = {height, Results::count, sizeof(B), lanes, keep, step};
+  static constexpr Passes<T, D> passes = {height, lanes, run};
 };
 
 }  // namespace detail

@@ -366,14 +366,17 @@ TEST(FixedFilters, EveryShape) {
   }
 }
 
-// Wide regions are gone through in pieces of a multiple of 64 elements; what is left behind the last may be short.
-TEST(FixedFilters, WideRegions) {
+// Large regions are gone through in blocks of rows and, beside alpha, in pieces of a multiple of 64 elements; what is
+// left behind the last may be short.
+TEST(FixedFilters, LargeRegions) {
   Rng rng(2);
   for (const Member& m : members()) {
     SCOPED_TRACE(m.name);
-    for (int piece : {5, 11, 18, 31, 37, 63})
+    for (int piece : {8, 16, 24})
       expectFiltered(rng, m, (piece * 64 + between(rng, 0, 20)) / m.layout.stride, between(rng, 1, 2),
                      Place(between(rng, 0, 2)), m.mask);
+    for (int width : {between(rng, 1, 8), between(rng, 9, 80)})
+      expectFiltered(rng, m, width, between(rng, 16, 40), Place(between(rng, 0, 2)), m.mask);
     if (testing::Test::HasFatalFailure()) return;
   }
 }
