@@ -922,43 +922,24 @@ HUX_API HuxStatus huxiLUTPalette_16u24u_C1R(const Hux16u* pSrc, int srcStep, Hux
 HUX_API HuxStatus huxiLUTPalette_16u32u_C1R(const Hux16u* pSrc, int srcStep, Hux32u* pDst, int dstStep,
                                             HuxiSize roiSize, const Hux32u* pTable, int nBitSize);
 
-/* CrossCorr, SqrDistance: how well a template agrees with an image, at every place of a window of the template's size.
- * With t the template, p the window, mt and mp their means, and sums over the window, for each channel:
- *
- *   CrossCorr*_Norm         sum(t * p) / sqrt(sum(t^2) * sum(p^2)): 1 where the window is a multiple of the template
- *   CrossCorr*_NormLevel    the same of t - mt and p - mp: 1 also where it differs by a constant
- *   SqrDistance*_Norm       sum((t - p)^2) / sqrt(sum(t^2) * sum(p^2)): 0 where both are equal
- *
- * The result is as large as the name says, and its pixel (0, 0) is that of the window whose first pixel is
- *
- *   Full     srcRoiSize + tplRoiSize - 1    (1 - tplRoiSize.width, 1 - tplRoiSize.height)
- *   Same     srcRoiSize                     (-(tplRoiSize.width >> 1), -(tplRoiSize.height >> 1))
- *   Valid    srcRoiSize - tplRoiSize + 1    (0, 0)
- *
- * Pixels outside the image count as 0, and none are read there. pDst must have room for the result and may not overlap
- * the images. There are as many results for a pixel as channels; the alpha of AC4 is neither read nor written.
- *
- * The factors of the denominator are held above zero: sum(p^2) is at least 0.0005 (32f) or 1 (8u, 8s) before its root
- * is taken, and sqrt(sum(t^2)) itself at least as much; of NormLevel sum((p - mp)^2) and sum((t - mt)^2) are. So a flat
- * window gives a small number and never a division by zero. 8u results are multiplied by 2^-scaleFactor, rounded to the
- * nearest, ties to even, and limited to 0 ... 255: a factor of -7 makes 128 of a perfect match. The numerators come
- * from transforms of tiles in single precision.
- *
- * NormLevel and SqrDistance are parallel, Norm is serial; no result depends on the number of threads.
- * Checks, in order: null pointers (huxStsNullPtr), a width or height below 1 or a template larger than the image in
- * either direction (huxStsBadSize), a step below 1 (huxStsBadStep), a template too large for the transforms
- * (huxStsBadOrder), memory (huxStsNoMem; nothing is written then).
- * Example:
- *   const HuxiSize patch = {16, 16}, places = {size.width - 15, size.height - 15};
- *   int step = 0;
- *   Hux32f* agreement = huxiMalloc_32f_C1(places.width, places.height, &step);
- *   Hux32f best = 0;
- *   int x = 0, y = 0;
- *   huxiCrossCorrValid_NormLevel_8u32f_C1R(src, srcStep, size, src + 20 * srcStep + 30, srcStep, patch, agreement,
- *                                          step);
- *   huxiMaxIndx_32f_C1R(agreement, step, places, &best, &x, &y);  // best is 1, x is 30, y is 20
- *   huxiFree(agreement);
- */
+/* Template matching: for each place of a window of the template's size over the image, one number that tells how alike
+ * the two are, for each channel: 1 (C1), 3 (C3, AC4) or 4; alpha of AC4 is neither read nor written.
+ * The template must not be larger than the image, in either direction. The name tells which windows there are:
+ *   Full   a result of srcRoiSize + tplRoiSize - 1, from the window at (1 - tplRoiSize.width, 1 - tplRoiSize.height) on
+ *   Same   of srcRoiSize, from the window at (-(tplRoiSize.width >> 1), -(tplRoiSize.height >> 1)) on
+ *   Valid  of srcRoiSize - tplRoiSize + 1, from the window at (0, 0) on
+ * Pixels outside the image count as 0 and are not read. In the formulas t is the template, p the window, n the number
+ * of their pixels, and all sums are over these; max(..., f) stands for the floor f that the terms of a denominator do
+ * not fall below, 1 on 8u and 8s and 0.0005 on 32f. Sums of products come from transforms of tiles in single precision,
+ * with an error of about 1e-7 of the largest in the tile; the others are made in double precision.
+ * 8u results are multiplied by 2^-scaleFactor, rounded to the nearest, ties to even, and limited to 0..255. */
+
+/* CrossCorrFull_Norm, CrossCorrSame_Norm, CrossCorrValid_Norm: normalised correlation.
+ *   sum(t * p) / (sqrt(max(sum(p^2), f)) * max(sqrt(sum(t^2)), f))
+ * is 1 where the window is a positive multiple of the template.
+ * Checks, in order: null pointers (huxStsNullPtr), a width or height below 1 or a template larger than the image
+ * (huxStsBadSize), a step below 1 (huxStsBadStep), a template that needs transforms of an order above 30
+ * (huxStsBadOrder), memory (huxStsNoMem; nothing is written then). */
 HUX_API HuxStatus huxiCrossCorrFull_Norm_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize srcRoiSize,
                                                  const Hux32f* pTpl, int tplStep, HuxiSize tplRoiSize, Hux32f* pDst,
                                                  int dstStep);
@@ -1103,6 +1084,23 @@ HUX_API HuxStatus huxiCrossCorrValid_Norm_8u_C4RSfs(const Hux8u* pSrc, int srcSt
 HUX_API HuxStatus huxiCrossCorrValid_Norm_8u_AC4RSfs(const Hux8u* pSrc, int srcStep, HuxiSize srcRoiSize,
                                                      const Hux8u* pTpl, int tplStep, HuxiSize tplRoiSize, Hux8u* pDst,
                                                      int dstStep, int scaleFactor);
+
+/* CrossCorrFull_NormLevel, CrossCorrSame_NormLevel, CrossCorrValid_NormLevel: normalised correlation without the means.
+ *   sum((t - mean(t)) * p) / sqrt(max(sum(p^2) - sum(p)^2 / n, f) * max(sum(t^2) - n * mean(t)^2, f))
+ * is 1 where the window is a positive multiple of the template plus a constant. Parallel; no result depends on the
+ * number of threads.
+ * Checks, in order: null pointers (huxStsNullPtr), a width or height below 1 or a template larger than the image
+ * (huxStsBadSize), a step below 1 (huxStsBadStep), a template that needs transforms of an order above 30
+ * (huxStsBadOrder), memory (huxStsNoMem; nothing is written then).
+ * Example:
+ *   const HuxiSize patch = {40, 40}, places = {size.width - 39, size.height - 39};
+ *   Hux32f best;
+ *   int step, x, y;
+ *   Hux32f* scores = huxiMalloc_32f_C1(places.width, places.height, &step);
+ *   huxiCrossCorrValid_NormLevel_8u32f_C1R(src, srcStep, size, dst, dstStep, patch, scores, step);
+ *   huxiMaxIndx_32f_C1R(scores, step, places, &best, &x, &y);
+ *   huxiFree(scores);
+ */
 HUX_API HuxStatus huxiCrossCorrFull_NormLevel_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize srcRoiSize,
                                                       const Hux32f* pTpl, int tplStep, HuxiSize tplRoiSize,
                                                       Hux32f* pDst, int dstStep);
@@ -1247,6 +1245,14 @@ HUX_API HuxStatus huxiCrossCorrValid_NormLevel_8u_C4RSfs(const Hux8u* pSrc, int 
 HUX_API HuxStatus huxiCrossCorrValid_NormLevel_8u_AC4RSfs(const Hux8u* pSrc, int srcStep, HuxiSize srcRoiSize,
                                                           const Hux8u* pTpl, int tplStep, HuxiSize tplRoiSize,
                                                           Hux8u* pDst, int dstStep, int scaleFactor);
+
+/* SqrDistanceFull_Norm, SqrDistanceSame_Norm, SqrDistanceValid_Norm: normalised squared distance.
+ *   sum((t - p)^2) / (sqrt(max(sum(p^2), f)) * max(sqrt(sum(t^2)), f))
+ * is 0 where the window is the template. It comes from sum(p^2) - 2 * sum(t * p) + sum(t^2) and may miss 0 by a
+ * little, below it too. Parallel; no result depends on the number of threads.
+ * Checks, in order: null pointers (huxStsNullPtr), a width or height below 1 or a template larger than the image
+ * (huxStsBadSize), a step below 1 (huxStsBadStep), a template that needs transforms of an order above 30
+ * (huxStsBadOrder), memory (huxStsNoMem; nothing is written then). */
 HUX_API HuxStatus huxiSqrDistanceFull_Norm_32f_C1R(const Hux32f* pSrc, int srcStep, HuxiSize srcRoiSize,
                                                    const Hux32f* pTpl, int tplStep, HuxiSize tplRoiSize, Hux32f* pDst,
                                                    int dstStep);
