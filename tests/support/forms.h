@@ -9,8 +9,6 @@
 
 namespace hux::test {
 
-// erased<huxiCopy_8u_C1R> is that function with every pointer to elements taken as a pointer to void, so that the
-// members of all types fit one table.
 namespace detail {
 
 template <class A>
@@ -67,13 +65,18 @@ struct As<HuxStatus(P...), Fn, order...> {
 template <class Signature, auto Fn, std::size_t... order>
 inline constexpr Signature* as = &detail::As<Signature, Fn, order...>::function;
 
+// erased<huxiCopy_8u_C1R> is that function with every pointer to elements taken as a pointer to void and all else as it
+// is.
 template <auto Fn>
 inline constexpr auto erased = &detail::Call<Fn>::erased;
+
 // Elements from one pixel to the next, and how many of each pixel a form touches.
 struct Layout {
   int stride, touched;
 };
-// Those of complex numbers are names alone.
+inline constexpr Layout C1{1, 1}, C3{3, 3}, C4{4, 4}, AC4{4, 3}, C3C{3, 1}, C4C{4, 1};
+
+// What an element is. Those of complex numbers are names alone.
 enum class Number { k8u, k8s, k16u, k16s, k32s, k32f, k16sc, k32sc, k32fc };
 // Calls body(T()) with the type of elements.
 template <class Body>
@@ -108,13 +111,10 @@ inline double numberAt(Number type, const void* p) {
   return withType(type, [&]<class T>(T) { return double(valueAt<T>(p)); });
 }
 
-inline constexpr Layout C1{1, 1}, C3{3, 3}, C4{4, 4}, AC4{4, 3}, C3C{3, 1}, C4C{4, 1};
-
 struct Form {
   std::string name;
   int elementBytes;
   Layout layout;
-
   Number type = Number::k8u;
 
   int pixelBytes() const { return layout.stride * elementBytes; }
