@@ -26,46 +26,33 @@ struct Plane {
 // The image with its margin, in an array of w by h.
 Plane widened(const Plane& p, const Plane& kernel, int w, int h) {
   const int k = kernel.w, m = (k - 1) / 2;
-  Plane a(w, h);
-  const auto sum = [](int a0, int a1, int b0, int b1, auto cell) {
-    Hux32f total = 0;
-    for (int i = a0; i < a1; ++i)
-      for (int j = b0; j < b1; ++j) total += cell(i, j);
-    return total;
-  };
-  const auto K = [&](int row, int column) { return kernel.at(column, row); };
-  const auto topLeft = [&](int i, int j) { return K(k - 1 - i, k - 1 - j); };
-  const auto topRight = [&](int i, int j) { return K(k - 1 - i, j); };
-  const auto bottomLeft = [&](int i, int j) { return K(i, k - 1 - j); };
-  const auto lo = [&](int x) { return std::max(m - x, 0); };
-  const auto hi = [&](int x, int n) { return std::min(k, m + n - x); };
-  const int right = p.w + 2 * m - 1, bottom = p.h + 2 * m - 1;
-
-  for (int y = 0; y < p.h; ++y)
-    for (int x = 0; x < p.w; ++x) a.at(m + x, m + y) = p.at(x, y);
-  const auto corner = [&](int column, int row, Hux32f pixel, int i, int j, auto cell) {
-    a.at(column, row) = pixel * sum(0, i + 1, 0, j + 1, cell) / sum(0, m + 1, 0, m + 1, cell);
-  };
-  for (int i = 0; i < m; ++i)
-    for (int j = 0; j < m; ++j) {
-      corner(j, i, p.at(0, 0), i, j, topLeft);
-      corner(m + p.w + j, i, p.at(p.w - 1, 0), i, j, topRight);
-      corner(j, bottom - i, p.at(0, p.h - 1), i, j, bottomLeft);
-      corner(right - j, bottom - i, p.at(p.w - 1, p.h - 1), i, j, K);
+  Plane out(w, h);
+  for (int y = 0; y < p.h + 2 * m; ++y)
+    for (int x = 0; x < p.w + 2 * m; ++x) {
+      const bool above = y < m, left = x < m, row = above || y >= m + p.h, column = left || x >= m + p.w;
+      const int u = std::clamp(x - m, 0, p.w - 1), v = std::clamp(y - m, 0, p.h - 1);
+      const int i = above ? y : p.h + 2 * m - 1 - y;
+      const int j = left ? x : above ? x - m - p.w : p.w + 2 * m - 1 - x;  // the upper right runs outwards
+      const auto sum = [&](int a0, int a1, int b0, int b1, bool up, bool mirror) {
+        Hux32f total = 0;
+        for (int a = a0; a < a1; ++a)
+          for (int b = b0; b < b1; ++b) total += kernel.at(mirror ? k - 1 - b : b, up ? k - 1 - a : a);
+        return total;
+      };
+      const auto lo = [&](int at) { return std::max(m - at, 0); };
+      const auto hi = [&](int at, int n) { return std::min(k, m + n - at); };
+      Hux32f part = 1, whole = 1;
+      if (row && column) {
+        part = sum(0, i + 1, 0, j + 1, above, left), whole = sum(0, m + 1, 0, m + 1, above, left);
+      } else if (row) {
+        part = sum(0, i + 1, lo(u), hi(u, p.w), above, true), whole = sum(0, m + 1, lo(u), hi(u, p.w), above, false);
+      } else if (column) {
+        const int edge = left ? x : p.w + 2 * m - 1 - x;
+        part = sum(lo(v), hi(v, p.h), 0, edge + 1, false, left), whole = sum(lo(v), hi(v, p.h), 0, m + 1, false, left);
+      }
+      out.at(x, y) = p.at(u, v) * part / whole;
     }
-  for (int i = 0; i < m; ++i)
-    for (int x = 0; x < p.w; ++x) {
-      const int from = lo(x), to = hi(x, p.w);
-      a.at(m + x, i) = p.at(x, 0) * sum(0, i + 1, from, to, topLeft) / sum(0, m + 1, from, to, topRight);
-      a.at(m + x, bottom - i) = p.at(x, p.h - 1) * sum(0, i + 1, from, to, bottomLeft) / sum(0, m + 1, from, to, K);
-    }
-  for (int y = 0; y < p.h; ++y)
-    for (int j = 0; j < m; ++j) {
-      const int from = lo(y), to = hi(y, p.h);
-      a.at(j, m + y) = p.at(0, y) * sum(from, to, 0, j + 1, bottomLeft) / sum(from, to, 0, m + 1, bottomLeft);
-      a.at(right - j, m + y) = p.at(p.w - 1, y) * sum(from, to, 0, j + 1, K) / sum(from, to, 0, m + 1, K);
-    }
-  return a;
+  return out;
 }
 
 Hux32f kept(Hux32f v, Hux32f threshold) { return std::fabs(v) > threshold ? v : 0; }
