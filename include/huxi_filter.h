@@ -1088,14 +1088,16 @@ HUX_API HuxStatus huxiFilterWiener_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux
 
 /* ---- Convolution ---- */
 
-/* ConvFull: the convolution of two images, of W = src1Size.width + src2Size.width - 1 by H = src1Size.height +
- * src2Size.height - 1 pixels. Pixel (x, y) is the sum over all (i, j) of src1(i, j) * src2(x - i, y - j), where nothing
- * is added outside of the images. ConvValid: that part of it where the smaller image lies within the larger, of
- * bigWidth - smallWidth + 1 by bigHeight - smallHeight + 1 pixels; pixel (x, y) is the sum over all (i, j) of
- * small(i, j) * big(x + smallWidth - 1 - i, y + smallHeight - 1 - j). Neither reads around its images. Each channel is
- * convolved with that of the other image; the alpha of AC4 is left as it was. In 8u and 16s the sum is divided by the
- * divisor, that is, multiplied by recip = 1.0f / divisor in single precision, and limited to the range of the type. The
- * images must not overlap.
+/* ConvFull, ConvValid: the convolution of two images, and that part of it where the smaller lies within the larger.
+ *
+ *   ConvFull   W = src1Size.width + src2Size.width - 1 by H = src1Size.height + src2Size.height - 1 pixels, of which
+ *              (x, y) is the sum over all (i, j) of src1(i, j) * src2(x - i, y - j), nothing being added outside
+ *   ConvValid  bigWidth - smallWidth + 1 by bigHeight - smallHeight + 1 pixels, of which (x, y) is the sum over all
+ *              (i, j) of small(i, j) * big(x + smallWidth - 1 - i, y + smallHeight - 1 - j)
+ *
+ * Neither reads around its images. Each channel is convolved with that of the other image; the alpha of AC4 is left as
+ * it was in the destination. In 8u and 16s the sum is divided by the divisor, that is, multiplied by recip = 1.0f /
+ * divisor in single precision, and limited to the range of the type. The images must not overlap.
  *
  * The order of the sources does not matter but for what follows. In ConvFull the first is `big` unless it is narrower
  * than the second; in ConvValid unless it is narrower or lower. Of several ways of computing the same, which round
@@ -1122,12 +1124,18 @@ HUX_API HuxStatus huxiFilterWiener_32f_AC4R(const Hux32f* pSrc, int srcStep, Hux
  *       Transforms of blocks of `big`.
  *
  * Transforms are those of huxiFFTFwd_RToPack_32f and huxiFFTInv_PackToR_32f, so that results are within the rounding of
- * floats; 8u and 16s are rounded to the nearest integer, ties to even, after they were multiplied by recip. The work is
- * shared among threads; the result is the same for any number of them.
- * Checks: null pointers (huxStsNullPtr), both sizes (huxStsBadSize), steps (huxStsBadStep), divisor of 0
- * (huxStsBadDivisor), in ConvValid images of which neither fits into the other (huxStsBadSize). huxStsNoMem when there
- * is no memory, which the sums of ConvFull_32f can do without; huxStsBadOrder for blocks of more than 2^30 pixels along
- * a side. Nothing has been written then. */
+ * floats; 8u and 16s are rounded to the nearest integer, ties to even, after they were multiplied by recip.
+ * Parallel: the result is the same for any number of threads.
+ * Checks, in order: null pointers (huxStsNullPtr), a width or height below 1 (huxStsBadSize), a step below 1
+ * (huxStsBadStep), divisor 0 (huxStsBadDivisor), in ConvValid images of which neither fits into the other
+ * (huxStsBadSize), memory (huxStsNoMem), which the sums of ConvFull_32f can do without. Blocks of more than 2^30 pixels
+ * along a side are refused (huxStsBadOrder). Nothing has been written then.
+ * Example:
+ *   Hux8u ones[32 * 32];  // the mean of 32 by 32 pixels, where the image has them
+ *   const HuxiSize kernel = {32, 32};
+ *   for (int i = 0; i < 32 * 32; ++i) ones[i] = 1;
+ *   huxiConvValid_8u_C1R(src, srcStep, size, ones, 32, kernel, dst, dstStep, 32 * 32);
+ */
 HUX_API HuxStatus huxiConvFull_8u_C1R(const Hux8u* pSrc1, int src1Step, HuxiSize src1Size, const Hux8u* pSrc2,
                                       int src2Step, HuxiSize src2Size, Hux8u* pDst, int dstStep, Hux32s divisor);
 HUX_API HuxStatus huxiConvFull_8u_C3R(const Hux8u* pSrc1, int src1Step, HuxiSize src1Size, const Hux8u* pSrc2,
@@ -1167,27 +1175,28 @@ HUX_API HuxStatus huxiConvValid_32f_AC4R(const Hux32f* pSrc1, int src1Step, Huxi
 
 /* ---- Deconvolution ---- */
 
-/* DeconvFFT, DeconvLR: an image restored that was blurred by a known kernel of kernelSize by kernelSize taps, row by
- * row; of C3 three interleaved values for each tap, one for each channel, and each channel is restored by itself. A
- * state is made for one kernel and layout (InitAlloc), serves any number of calls one after the other, each of which
- * starts afresh, and is freed (Free). The calls write to it: threads must not share one. Nothing tells a state of C1
- * from one of C3.
+/* DeconvFFTInitAlloc, DeconvLRInitAlloc: states that restore images which were blurred by a known kernel.
+ * The kernel has kernelSize by kernelSize taps, row by row; of C3 three interleaved values for each tap, one for each
+ * channel, and each channel is restored by itself. A state serves any number of calls one after the other, each of
+ * which starts afresh, and ends with Free. The calls write to it: threads must not share one. Nothing tells a state of
+ * C1 from one of C3.
  *
- * Both widen the region by h = (kernelSize - 1) / 2 pixels on each side: its edge, weighted by what part of the
+ * Both ways widen the region by h = (kernelSize - 1) / 2 pixels on each side: its edge, weighted by what part of the
  * kernel's weight reaches each pixel. A kernel that adds up to 0 over a quarter or an edge makes that part infinite or
- * NaN. Values of the result of a magnitude not above the threshold become 0. The images may be one.
+ * NaN. Values of the result of a magnitude not above the threshold become 0.
  *
- * DeconvFFT: inverse filtering on a square of 2^FFTorder pixels, which holds the region and the kernel. Taps of a
- * magnitude not above the threshold count as 0; of each frequency of the kernel, a part below the threshold counts as
- * 0, and where neither is above it the frequency passes unchanged.
- * DeconvLR: numIter times estimate *= filter(image / filter(estimate)), from the widened image on. Both filters are
- * huxiFilter_32f_C1R with the anchor (h, h), the first with the kernel, the second with the kernel transposed; a
- * quotient whose divisor is not above the threshold in magnitude is 0, and so becomes an estimate below 1.18e-36.
+ *   DeconvFFT  inverse filtering on a square of 2^FFTorder pixels, which holds the region with its margin. Taps of a
+ *              magnitude not above the threshold count as 0; of each frequency of the kernel, a part below the
+ *              threshold counts as 0, and where neither is above it the frequency passes unchanged
+ *   DeconvLR   numIter times estimate = estimate * filter(image / filter(estimate)), from the widened image on. The
+ *              filters are those of huxiFilter_32f_C1R with the anchor (h, h), the inner one with the kernel, the
+ *              outer one with the kernel transposed. A quotient whose divisor is not above the threshold in magnitude
+ *              counts as 0, and an estimate not above 1.1754943508222875e-36 becomes 0. maxRoiSize is the largest
+ *              region with its margin: roiSize + kernelSize - 1
  *
- * InitAlloc. Checks: null pointers (huxStsNullPtr); kernelSize below 1 or above 2^FFTorder, or a side of maxRoiSize,
- * which may be no less than 1 either (huxStsBadSize); threshold below 0 (huxStsBadArg); FFTorder above 30
- * (huxStsBadOrder); memory (huxStsNoMem). On failure *ppState is as it was. maxRoiSize is the largest region with its
- * margin: roiSize + kernelSize - 1. */
+ * Checks, in order: null pointers (huxStsNullPtr), kernelSize below 1 or above 2^FFTorder, or above a side of
+ * maxRoiSize (huxStsBadSize), threshold below 0 (huxStsBadArg), FFTorder above 30 (huxStsBadOrder), memory
+ * (huxStsNoMem). On failure *ppState is as it was. */
 typedef struct HuxiDeconvFFTState HuxiDeconvFFTState;
 typedef struct HuxiDeconvLRState HuxiDeconvLRState;
 HUX_API HuxStatus huxiDeconvFFTInitAlloc_32f_C1R(HuxiDeconvFFTState** ppState, const Hux32f* pKernel, int kernelSize,
@@ -1199,9 +1208,24 @@ HUX_API HuxStatus huxiDeconvLRInitAlloc_32f_C1R(HuxiDeconvLRState** ppState, con
 HUX_API HuxStatus huxiDeconvLRInitAlloc_32f_C3R(HuxiDeconvLRState** ppState, const Hux32f* pKernel, int kernelSize,
                                                 HuxiSize maxRoiSize, Hux32f threshold);
 
-/* The restoration itself. No memory is taken. Checks: null pointers (huxStsNullPtr); roiSize (huxStsBadSize); roiSize +
- * kernelSize - 1 above 2^FFTorder, or above maxRoiSize (huxStsBadSize); steps below the bytes of a row (huxStsBadStep);
- * steps that are no multiple of 4 (huxStsStepNotMultipleOf4); numIter below 1 (huxStsBadArg). */
+/* DeconvFFT, DeconvLR: the restoration of a region by a state. Source and destination may be one image.
+ * Checks, in order: null pointers (huxStsNullPtr), width or height of roiSize below 1 (huxStsBadSize), roiSize +
+ * kernelSize - 1 above 2^FFTorder or maxRoiSize (huxStsBadSize), a step below the bytes of a row (huxStsBadStep), a
+ * step that is no multiple of 4 (huxStsStepNotMultipleOf4), numIter below 1 (huxStsBadArg).
+ * Example:
+ *   const Hux32f ninth = 1 / 9.f, box[9] = {ninth, ninth, ninth, ninth, ninth, ninth, ninth, ninth, ninth};
+ *   const HuxiSize most = {size.width + 2, size.height + 2};
+ *   HuxiDeconvLRState* state;
+ *   int step;
+ *   Hux32f* image = huxiMalloc_32f_C1(size.width, size.height, &step);
+ *   if (image && huxiDeconvLRInitAlloc_32f_C1R(&state, box, 3, most, 1e-4f) == huxStsOk) {
+ *     huxiConvert_8u32f_C1R(src, srcStep, image, step, size);
+ *     huxiDeconvLR_32f_C1R(image, step, image, step, size, 20, state);
+ *     huxiConvert_32f8u_C1R(image, step, dst, dstStep, size, huxRndNear);
+ *     huxiDeconvLRFree_32f_C1R(state);
+ *   }
+ *   huxiFree(image);
+ */
 HUX_API HuxStatus huxiDeconvFFT_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
                                         HuxiDeconvFFTState* pState);
 HUX_API HuxStatus huxiDeconvFFT_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
@@ -1211,7 +1235,8 @@ HUX_API HuxStatus huxiDeconvLR_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* 
 HUX_API HuxStatus huxiDeconvLR_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize,
                                        int numIter, HuxiDeconvLRState* pState);
 
-/* Frees a state. Checks: null pointer (huxStsNullPtr). */
+/* DeconvFFTFree, DeconvLRFree: end a state.
+ * Checks, in order: pState null (huxStsNullPtr). */
 HUX_API HuxStatus huxiDeconvFFTFree_32f_C1R(HuxiDeconvFFTState* pState);
 HUX_API HuxStatus huxiDeconvFFTFree_32f_C3R(HuxiDeconvFFTState* pState);
 HUX_API HuxStatus huxiDeconvLRFree_32f_C1R(HuxiDeconvLRState* pState);
