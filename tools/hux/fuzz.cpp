@@ -95,8 +95,9 @@ class Fuzzer : public Caller {
       const int broken = bytes_.below(function.own);
       const Argument& argument = kArguments[function.firstArgument + broken];
       const int ways = breaks(function, argument);
-      // Steps are varied where images are placed, so that rows stay inside them.
-      if (ways && argument.role != Role::step) plan.broken[k] = broken, plan.how[k] = bytes_.below(ways);
+      // Steps and sizes are varied where images are placed, so that these have room.
+      const bool places = argument.role == Role::step || argument.role == Role::size || argument.role == Role::region;
+      if (ways && !places) plan.broken[k] = broken, plan.how[k] = bytes_.below(ways);
     }
     if (plan.broken[0] == plan.broken[1]) plan.broken[1] = -1;
     Caller::run(function, plan);
