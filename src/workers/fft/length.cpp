@@ -92,10 +92,10 @@ HUX_INLINE inline void points(Z* z) {
 // within one, and lanes are neighbouring numbers of the parts.
 
 // The factors of the steps of a pass, in the order in which they come, the deepest first; 0 is any above 5. The first
-// pass has two steps, or such a factor.
+// pass has two steps, or a factor of at least 5.
 struct Kind {
   int first, second;
-  constexpr bool opens() const { return first == 0 || second > 1; }
+  constexpr bool opens() const { return second > 1 || first == 5 || first == 0; }
 };
 constexpr Kind kKinds[] = {{5, 5}, {5, 3}, {5, 4}, {5, 2}, {3, 3}, {3, 4}, {3, 2},
                            {4, 4}, {4, 2}, {5, 1}, {3, 1}, {4, 1}, {2, 1}, {0, 1}};
@@ -243,7 +243,7 @@ void firstPass(const void* block, const LengthPlan& plan, const Bring& bring, Hu
     }
     Hux32fc* to[8];
     for (int l = 0; l < 8; ++l) to[l] = l < count ? dst + places.next() : unused;
-    if (kLanes < 8 || count == 1) {
+    if (kLanes < 8 || count < 4) {
       for (Index l = 0; l < count; ++l)
         for (int q = 0; q < p.all; ++q) std::memcpy(to[l] + q, numbers + q * kLanes + l, sizeof(Hux32fc));
       continue;
@@ -272,11 +272,9 @@ void pass(const Pass& p, Joining run, const Hux32fc* from, Hux32fc* to) {
     run(p, p.turns, whole * kLanes, from, length, to, length);
     for (int q = 0; q < p.all; ++q) std::memcpy(to + last + q * length, aside + q * kLanes, kLanes * sizeof(Hux32fc));
   } else {
-    std::fill(aside, aside + p.all * kLanes, Hux32fc{});
-    const auto bytes = std::size_t(length) * sizeof(Hux32fc);
-    for (int r = 0; r < p.all; ++r) std::memcpy(aside + r * kLanes, from + r * length, bytes);
+    for (int r = 0; r < p.all; ++r) storeSplit(aside + r * kLanes, loadSplit<V>(from + r * length, length));
     run(p, p.turns, kLanes, aside, kLanes, aside, kLanes);
-    for (int q = 0; q < p.all; ++q) std::memcpy(to + q * length, aside + q * kLanes, bytes);
+    for (int q = 0; q < p.all; ++q) storeSplit(to + q * length, loadSplit<V>(aside + q * kLanes), length);
   }
 }
 
@@ -524,7 +522,10 @@ void LengthPlan::take(Arena& arena, bool kernels, Index longestDirect) {
   } else if (Hux32s list[kMostFactors]; const int count = testDftPrimeFact(n, list)) {
     method = Method::factors;
     for (int i = count - 1; i >= 0; ++passes) {
-      const int f = list[i--], s = f <= 5 && i >= 0 ? list[i--] : 1;
+      const int f = list[i--];
+      // Few groups would leave most lanes of a first pass of two steps empty.
+      const bool two = f <= 5 && i >= 0 && (passes > 0 || f < 5 || n > 2 * f * list[i]);
+      const int s = two ? list[i--] : 1;
       kind[passes] = kindOf(f, s), all[passes] = f * s;
     }
     parts[0] = 1;
