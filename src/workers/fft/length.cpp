@@ -294,8 +294,8 @@ void furtherPasses(const void* block, const LengthPlan& plan, int i, Hux32fc* fr
   }
 }
 
-// The result is in dst; `other` is as long, or the same, and neither is where the sequence lies, but for `other` where
-// the number of passes is odd.
+// The result is in dst; `other` is as long, or the same. The sequence lies in neither, or in the one that the first
+// pass does not write: in `other` where the number of passes is odd, else in dst.
 template <Way W, class Bring>
 void primeFact(const void* block, const LengthPlan& plan, const Bring& bring, Hux32fc* dst, Hux32fc* other) {
   firstPass<W>(block, plan, bring, plan.passes % 2 ? dst : other);
