@@ -1,4 +1,5 @@
 // The tour's steps through neighbourhood filters.
+#include <algorithm>
 #include <vector>
 
 #include "tour.h"
@@ -130,11 +131,75 @@ Colour openedAndClosed(const Photos& in) {
   return out;
 }
 
+// Light spread over discs, as by a lens that is out of focus, and brought together again, from the bytes that a camera
+// would give. Light from outside of a photograph cannot be brought back: more is restored than is shown.
+Colour restored(const Photos& in) {
+  using Plane = Image<Hux32f, 1>;
+  constexpr int radius = 3, side = 2 * radius + 1, around = 32, reach = around + radius;
+  constexpr HuxiSize disc = {side, side}, taken = {kFace.width + 2 * around, kFace.height + 2 * around},
+                     scene = {taken.width + side - 1, taken.height + side - 1};
+  std::vector<Hux32f> kernel;
+  for (int y = -radius; y <= radius; ++y)
+    for (int x = -radius; x <= radius; ++x) kernel.push_back(x * x + y * y <= radius * radius ? 1 : 0);
+  const int kernelStep = side * int(sizeof(Hux32f));
+  Hux64f sum;
+  HUX_DO(huxiSum_32f_C1R(kernel.data(), kernelStep, disc, &sum, huxHintNone));
+  HUX_DO(huxiDivC_32f_C1IR(Hux32f(sum), kernel.data(), kernelStep, disc));
+
+  const auto gray = [](const Plane& p) {
+    Gray g(p.size());
+    HUX_DO(huxiConvert_32f8u_C1R(p.at(0, 0), p.step(), g.at(0, 0), g.step(), g.size(), huxRndNear));
+    return g;
+  };
+  const auto plane = [](const Gray& g) {
+    Plane p(g.size());
+    HUX_DO(huxiConvert_8u32f_C1R(g.at(0, 0), g.step(), p.at(0, 0), p.step(), p.size()));
+    return p;
+  };
+  Gray pixels(scene);
+  HUX_DO(huxiCopy_8u_C3C1R(face(in) - reach * in.raccoon.step() - reach * 3 + 1, in.raccoon.step(), pixels.at(0, 0),
+                           pixels.step(), scene));
+  const Plane sharp = plane(pixels);
+  Plane spread(taken), divided(taken), iterated(taken);
+  HUX_DO(huxiConvValid_32f_C1R(sharp.at(0, 0), sharp.step(), scene, kernel.data(), kernelStep, disc, spread.at(0, 0),
+                               spread.step()));
+  const Plane blurred = plane(gray(spread));
+
+  HuxiDeconvFFTState* byFFT;
+  HUX_DO(huxiDeconvFFTInitAlloc_32f_C1R(&byFFT, kernel.data(), side, 10, 0.028f));
+  HUX_DO(huxiDeconvFFT_32f_C1R(blurred.at(0, 0), blurred.step(), divided.at(0, 0), divided.step(), taken, byFFT));
+  HUX_DO(huxiDeconvFFTFree_32f_C1R(byFFT));
+  HuxiDeconvLRState* byLR;
+  HUX_DO(huxiDeconvLRInitAlloc_32f_C1R(&byLR, kernel.data(), side, scene, 1e-4f));
+  HUX_DO(huxiDeconvLR_32f_C1R(blurred.at(0, 0), blurred.step(), iterated.at(0, 0), iterated.step(), taken, 20, byLR));
+  HUX_DO(huxiDeconvLRFree_32f_C1R(byLR));
+
+  // Both must be much nearer to what was there.
+  const auto distance = [&](const Plane& p) {
+    Hux64f norm;
+    HUX_DO(huxiNormDiff_L2_32f_C1R(p.at(around, around), p.step(), sharp.at(reach, reach), sharp.step(), kFace, &norm,
+                                   huxHintNone));
+    return norm;
+  };
+  if (std::max(distance(divided), distance(iterated)) > 0.8 * distance(blurred))
+    throw std::runtime_error("a blur was not undone");
+
+  Colour out(kWhole);
+  const Plane* planes[] = {&blurred, &divided, &iterated, &sharp};
+  for (int i = 0; i < 4; ++i) {
+    const int from = i < 3 ? around : reach;
+    const Gray g = gray(*planes[i]);
+    HUX_DO(huxiDup_8u_C1C3R(g.at(from, from), g.step(), quarter(out, i), out.step(), kFace));
+  }
+  return out;
+}
+
 constexpr Step kSteps[] = {
     {"edges", "slopes along rows, along columns, both; bends", edges},
     {"sharpened", "as it is; sharpened, smoothed, in relief", sharpened},
     {"denoised", "with noise; mean, median, Wiener filter", denoised},
     {"opened-and-closed", "above 110; opened, closed; outlines", openedAndClosed},
+    {"restored", "out of focus; by the spectrum, by Lucy; in focus", restored},
 };
 
 }  // namespace
