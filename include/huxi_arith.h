@@ -6,6 +6,8 @@
 
 HUX_BEGIN_C
 
+/* ---- Arithmetic on real pixels ---- */
+
 /* Scaled arithmetic on real pixels: Add, Sub, Mul, Div and, with a constant, AddC, SubC, MulC, DivC.
  * The exact integer result is multiplied by 2^-scaleFactor with ties rounded to even, then saturated to the pixel
  * type; for 8u and 16u a negative difference becomes 0 first. A negative scaleFactor multiplies. 32f works in single
@@ -561,6 +563,8 @@ HUX_API HuxStatus huxiDivC_32f_AC4R(const Hux32f* pSrc, int srcStep, const Hux32
                                     HuxiSize roiSize);
 HUX_API HuxStatus huxiDivC_32f_AC4IR(const Hux32f* pValue, Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
 
+/* ---- Arithmetic on complex pixels ---- */
+
 /* Arithmetic on complex pixels: Add, Sub, Mul, Div and, with a constant, AddC, SubC, MulC, DivC.
  * Add and Sub treat real and imaginary parts apart; Mul and Div are those of complex numbers. Integer parts are
  * multiplied by 2^-scaleFactor, rounded to nearest with ties to even, and saturated; 32fc works in single precision.
@@ -864,6 +868,8 @@ HUX_API HuxStatus huxiDivC_32fc_AC4R(const Hux32fc* pSrc, int srcStep, const Hux
                                      int dstStep, HuxiSize roiSize);
 HUX_API HuxStatus huxiDivC_32fc_AC4IR(const Hux32fc* pValue, Hux32fc* pSrcDst, int srcDstStep, HuxiSize roiSize);
 
+/* ---- Elementary functions ---- */
+
 /* Elementary functions: Abs, Sqr, Sqrt, Exp, Ln of each element.
  * Integer results are the exact result times 2^-scaleFactor, ties rounded to even, saturated. Float results of Sqrt,
  * Exp and Ln are those in double precision, narrowed. Warnings are kept to the end, the first one met stands, and the
@@ -1024,6 +1030,8 @@ HUX_API HuxStatus huxiLn_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, 
 HUX_API HuxStatus huxiLn_32f_C3R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
 HUX_API HuxStatus huxiLn_32f_C1IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
 HUX_API HuxStatus huxiLn_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
+
+/* ---- Operations on bits ---- */
 
 /* And, Or, Xor, AndC, OrC, XorC: operations on the bits of each element of two images, or of an image and a constant.
  * Constant forms have value (C1), or pValue with 3 (C3, AC4) or 4 (C4) constants, of the pixel type. In place pSrcDst
@@ -1376,6 +1384,8 @@ HUX_API HuxStatus huxiRShiftC_32s_AC4R(const Hux32s* pSrc, int srcStep, const Hu
                                        HuxiSize roiSize);
 HUX_API HuxStatus huxiRShiftC_32s_AC4IR(const Hux32u* pValue, Hux32s* pSrcDst, int srcDstStep, HuxiSize roiSize);
 
+/* ---- Fractions ---- */
+
 /* MulScale, MulCScale: the product of two images, or of an image and a constant, as fractions of the type's maximum.
  *   8u   (p + (p >> 8) + 1) >> 8      of the product p: the maximum times b is b
  *   16u  (p + (p >> 16) + 1) >> 16
@@ -1441,10 +1451,14 @@ HUX_API HuxStatus huxiMulCScale_16u_AC4R(const Hux16u* pSrc, int srcStep, const 
                                          int dstStep, HuxiSize roiSize);
 HUX_API HuxStatus huxiMulCScale_16u_AC4IR(const Hux16u* pValue, Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize);
 
+/* ---- Sign and magnitude ---- */
+
 /* Complement: turns two's complement into sign and magnitude, in place; the lowest value stays.
  * Checks, in order: pSrcDst null (huxStsNullPtr), srcDstStep below 1 (huxStsBadStep), width or height below 1
  * (huxStsBadSize). */
 HUX_API HuxStatus huxiComplement_32s_C1IR(Hux32s* pSrcDst, int srcDstStep, HuxiSize roiSize);
+
+/* ---- Alpha ---- */
 
 /* AlphaComp: composes image A (pSrc1) with image B (pSrc2) by alphaType.
  * With a and b for the alphas, M for the maximum of the type and D(x) for x / M rounded down, in integers (x + (x >>
@@ -1569,6 +1583,8 @@ HUX_API HuxStatus huxiAlphaPremulC_16u_AC4IR(Hux16u alpha, Hux16u* pSrcDst, int 
 HUX_API HuxStatus huxiAlphaPremulC_16u_AP4R(const Hux16u* const pSrc[4], int srcStep, Hux16u alpha,
                                             Hux16u* const pDst[4], int dstStep, HuxiSize roiSize);
 HUX_API HuxStatus huxiAlphaPremulC_16u_AP4IR(Hux16u alpha, Hux16u* const pSrcDst[4], int srcDstStep, HuxiSize roiSize);
+
+/* ---- Thresholds and comparisons ---- */
 
 /* Threshold: replaces elements beyond a threshold by it (Threshold, GT, LT) or by a value (Val, GTVal, LTVal,
  * LTValGTVal).

@@ -6,6 +6,8 @@
 
 HUX_BEGIN_C
 
+/* ---- Image memory ---- */
+
 /* Malloc: allocates an image of widthPixels by heightPixels whose rows all start at a multiple of 32 bytes.
  * The step from one row to the next, in bytes, goes to *pStepBytes: the length of a row rounded up to a multiple of
  * 32. The pixels are not initialised. The caller frees the image by huxiFree, never by free.
@@ -55,6 +57,8 @@ HUX_API Hux32fc* huxiMalloc_32fc_AC4(int widthPixels, int heightPixels, int* pSt
 
 /* Free: frees an image from huxiMalloc, or a vector from huxsMalloc; a null pointer is ignored. */
 HUX_API void huxiFree(void* pImage);
+
+/* ---- Copies and constants ---- */
 
 /* Copy: copies the pixels of the region.
  * C1R, C3R, C4R: all elements. AC4R: the first three of each pixel; alpha of the destination stays. AC4C3R, C3AC4R:
@@ -270,6 +274,8 @@ HUX_API HuxStatus huxiSet_32s_AC4MR(const Hux32s* pValue, Hux32s* pDst, int dstS
 HUX_API HuxStatus huxiSet_32f_AC4MR(const Hux32f* pValue, Hux32f* pDst, int dstStep, HuxiSize roiSize,
                                     const Hux8u* pMask, int maskStep);
 
+/* ---- Types of pixels ---- */
+
 /* Convert: the same value in another type; what does not fit is saturated.
  * From 32f: rounded by roundMode (huxRndNear: to nearest, ties to even, with the half added in single precision; any
  * other value: towards zero); NaN gives the lower limit. To 32f all values are exact. AC4: alpha of the destination
@@ -442,6 +448,8 @@ HUX_API HuxStatus huxiScale_32f8u_C4R(const Hux32f* pSrc, int srcStep, Hux8u* pD
 HUX_API HuxStatus huxiScale_32f8u_AC4R(const Hux32f* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize,
                                        Hux32f vMin, Hux32f vMax);
 
+/* ---- Borders ---- */
+
 /* CopyConstBorder: places the source region in a larger destination and fills the frame around it with a constant.
  * The region lies topBorderHeight rows down and leftBorderWidth pixels to the right in the destination; what
  * dstRoiSize leaves on the right and below is frame too. pValue holds 3 constants (C3, AC4) or 4 (C4). AC4: alpha of
@@ -578,6 +586,8 @@ HUX_API HuxStatus huxiCopyWrapBorder_32s_C1R(const Hux32s* pSrc, int srcStep, Hu
 HUX_API HuxStatus huxiCopyWrapBorder_32s_C1IR(Hux32s* pSrc, int srcDstStep, HuxiSize srcRoiSize, HuxiSize dstRoiSize,
                                               int topBorderHeight, int leftBorderWidth);
 
+/* ---- Channels and places ---- */
+
 /* Dup: writes each source element to all three channels of the destination pixel.
  * Checks, in order: null pointers (huxStsNullPtr), width or height below 1 (huxStsBadSize). Steps are not checked. */
 HUX_API HuxStatus huxiDup_8u_C1C3R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
@@ -673,6 +683,8 @@ HUX_API HuxStatus huxiMirror_32s_C4IR(Hux32s* pSrcDst, int srcDstStep, HuxiSize 
 HUX_API HuxStatus huxiMirror_8u_AC4IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
 HUX_API HuxStatus huxiMirror_16u_AC4IR(Hux16u* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
 HUX_API HuxStatus huxiMirror_32s_AC4IR(Hux32s* pSrcDst, int srcDstStep, HuxiSize roiSize, HuxiAxis flip);
+
+/* ---- Test images and noise ---- */
 
 /* ImageRamp: writes a linear ramp.
  *   c * slope + offset, in single precision

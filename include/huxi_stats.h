@@ -6,6 +6,8 @@
 
 HUX_BEGIN_C
 
+/* ---- Sums and extrema ---- */
+
 /* Sum: the sum of each channel, 1 (C1), 3 (C3, AC4) or 4 (C4) values; alpha of AC4 is not read.
  * Integer pixels are added up in 32 bits that wrap silently: 8u row by row, 16s and 16u in blocks of 65536 pixels of a
  * row, each total taken as a signed number (on 16u too, where a block of more than 32768 bright pixels turns
@@ -182,6 +184,8 @@ HUX_API HuxStatus huxiCountInRange_32f_C3R(const Hux32f* pSrc, int srcStep, Huxi
                                            const Hux32f lowerBound[3], const Hux32f upperBound[3]);
 HUX_API HuxStatus huxiCountInRange_32f_AC4R(const Hux32f* pSrc, int srcStep, HuxiSize roiSize, int pCounts[3],
                                             const Hux32f lowerBound[3], const Hux32f upperBound[3]);
+
+/* ---- Norms ---- */
 
 /* Norms: of an image (Norm), of the difference pSrc1 - pSrc2 (NormDiff), and of the difference relative to pSrc2
  * (NormRel).
@@ -455,6 +459,8 @@ HUX_API HuxStatus huxiNormRel_L2_32f_AC4R(const Hux32f* pSrc1, int src1Step, con
 HUX_API HuxStatus huxiNormRel_L2_32f_C4R(const Hux32f* pSrc1, int src1Step, const Hux32f* pSrc2, int src2Step,
                                          HuxiSize roiSize, Hux64f pValue[4], HuxAccuracyHint hint);
 
+/* ---- Moments ---- */
+
 /* Records of moments: sums of pixels times powers of their coordinates, up to the third order, and what follows from
  * them.
  * A record is created (MomentInitAlloc, or MomentInit in MomentGetStateSize bytes of the caller's, at any address),
@@ -546,6 +552,8 @@ HUX_API HuxStatus huxiGetNormalizedCentralMoment_64s(const HuxiMomentRecord_64s*
  * filled (huxStsBadMomentIndex), M00 zero, on 64f of magnitude 2.220446049250313e-16 or less (huxStsMomentTooSmall). */
 HUX_API HuxStatus huxiGetHuMoments_64f(const HuxiMomentRecord_64f* pState, int channel, Hux64f pHu[7]);
 HUX_API HuxStatus huxiGetHuMoments_64s(const HuxiMomentRecord_64s* pState, int channel, Hux64s pHu[7], int scaleFactor);
+
+/* ---- Histograms and tables ---- */
 
 /* HistogramRange, HistogramEven: count pixels into nLevels - 1 bins.
  * Bin k of a channel counts pLevels[k] <= p < pLevels[k + 1]; pHist holds nLevels - 1 counters, which are set, not
@@ -921,6 +929,8 @@ HUX_API HuxStatus huxiLUTPalette_16u24u_C1R(const Hux16u* pSrc, int srcStep, Hux
                                             const Hux8u* pTable, int nBitSize);
 HUX_API HuxStatus huxiLUTPalette_16u32u_C1R(const Hux16u* pSrc, int srcStep, Hux32u* pDst, int dstStep,
                                             HuxiSize roiSize, const Hux32u* pTable, int nBitSize);
+
+/* ---- Template matching ---- */
 
 /* Template matching: for each place of a window of the template's size over the image, one number that tells how alike
  * the two are, for each channel: 1 (C1), 3 (C3, AC4) or 4; alpha of AC4 is neither read nor written.
@@ -1397,6 +1407,8 @@ HUX_API HuxStatus huxiSqrDistanceValid_Norm_8u_C4RSfs(const Hux8u* pSrc, int src
 HUX_API HuxStatus huxiSqrDistanceValid_Norm_8u_AC4RSfs(const Hux8u* pSrc, int srcStep, HuxiSize srcRoiSize,
                                                        const Hux8u* pTpl, int tplStep, HuxiSize tplRoiSize, Hux8u* pDst,
                                                        int dstStep, int scaleFactor);
+
+/* ---- Quality index ---- */
 
 /* QualityIndex: how alike two images are, for each channel.
  *   4 * cov * mean1 * mean2 / ((var1 + var2) * (mean1^2 + mean2^2))

@@ -7,6 +7,8 @@
 
 HUX_BEGIN_C
 
+/* ---- Memory ---- */
+
 /* Malloc: allocates len elements, aligned to 32 bytes, whose contents are not initialised.
  * Null when len is below 1 or memory runs out. The caller frees the vector by huxsFree, never by free.
  * Example:
@@ -28,6 +30,8 @@ HUX_API Hux64fc* huxsMalloc_64fc(int len);
 
 /* Free: frees a vector from huxsMalloc, or an image from huxiMalloc; a null pointer is ignored. */
 HUX_API void huxsFree(void* pVector);
+
+/* ---- Arithmetic ---- */
 
 /* Arithmetic on vectors of len elements: Add, Sub, Mul, Div and, with a constant, AddC, SubC, MulC, DivC.
  *   Add  pSrc1 + pSrc2     Sub  pSrc2 - pSrc1     Mul  pSrc1 * pSrc2     Div  pSrc2 / pSrc1
@@ -115,6 +119,8 @@ HUX_API HuxStatus huxsDivC_16s_Sfs(const Hux16s* pSrc, Hux16s value, Hux16s* pDs
 HUX_API HuxStatus huxsDivC_16sc_Sfs(const Hux16sc* pSrc, Hux16sc value, Hux16sc* pDst, int len, int scaleFactor);
 HUX_API HuxStatus huxsDivC_16sc_ISfs(Hux16sc value, Hux16sc* pSrcDst, int len, int scaleFactor);
 
+/* ---- Elementary functions ---- */
+
 /* Elementary functions of len elements: Abs, Sqr, Sqrt, Exp, Ln, as on images (huxi_arith.h).
  * Integer results (Sfs) are multiplied by 2^-scaleFactor. Warnings of Sqrt (huxStsSqrtNegWarn) and Ln
  * (huxStsLogZeroWarn, huxStsLogNegWarn) come at the end, the first one met stands, and the whole vector is written.
@@ -151,6 +157,8 @@ HUX_API HuxStatus huxsExp_32f_I(Hux32f* pSrcDst, int len);
 HUX_API HuxStatus huxsLn_16s_Sfs(const Hux16s* pSrc, Hux16s* pDst, int len, int scaleFactor);
 HUX_API HuxStatus huxsLn_16s_ISfs(Hux16s* pSrcDst, int len, int scaleFactor);
 
+/* ---- Complex elements ---- */
+
 /* Magnitude, Phase: magnitude and phase, in radians, of complex elements, times 2^-scaleFactor on integers.
  * Magnitude rounds ties to even for a positive scaleFactor only, else up. Phase lies in -pi..pi; at scaleFactor 0 it
  * uses a fast approximation of the arc tangent. The vectors must not overlap.
@@ -178,6 +186,8 @@ HUX_API HuxStatus huxsPolarToCart_16sc(const Hux16s* pMagnitude, const Hux16s* p
                                        Hux16sc* pDst, int len);
 HUX_API HuxStatus huxsPolarToCart_32sc(const Hux32s* pMagnitude, const Hux32s* pPhase, int phaseFixedPoint,
                                        Hux32sc* pDst, int len);
+
+/* ---- Types, constants and copies ---- */
 
 /* Convert: between element types.
  * From float: times 2^-scaleFactor, in single precision (to 32s in double), then rounded by roundMode (huxRndNear: to
@@ -214,6 +224,8 @@ HUX_API HuxStatus huxsCopy_8u(const Hux8u* pSrc, Hux8u* pDst, int len);
 HUX_API HuxStatus huxsCopy_32f(const Hux32f* pSrc, Hux32f* pDst, int len);
 HUX_API HuxStatus huxsMove_16s(const Hux16s* pSrc, Hux16s* pDst, int len);
 HUX_API HuxStatus huxsMove_32f(const Hux32f* pSrc, Hux32f* pDst, int len);
+
+/* ---- Windows and measures ---- */
 
 /* WinBartlett, WinHamming: the vector times a window that falls off from the middle to both ends alike.
  * Of len values, number k from either end has the weight
