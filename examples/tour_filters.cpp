@@ -1,5 +1,6 @@
-// The tour's steps through neighbourhood filters.
+// The tour's steps through neighbourhood filters and template matching.
 #include <algorithm>
+#include <stdexcept>
 #include <vector>
 
 #include "tour.h"
@@ -194,12 +195,58 @@ Colour restored(const Photos& in) {
   return out;
 }
 
+// Draws the outline of a region of a quarter.
+void outline(Colour& picture, int i, HuxiPoint at, HuxiSize size) {
+  constexpr Hux8u amber[] = {255, 190, 0};
+  constexpr int width = 3;
+  const auto fill = [&](int x, int y, HuxiSize area) {
+    HUX_DO(huxiSet_8u_C3R(amber, quarter(picture, i) + y * picture.step() + x * 3, picture.step(), area));
+  };
+  const int right = at.x + size.width - width, bottom = at.y + size.height - width;
+  fill(at.x, at.y, {size.width, width}), fill(at.x, bottom, {size.width, width});
+  fill(at.x, at.y, {width, size.height}), fill(right, at.y, {width, size.height});
+}
+
+// An eye, cut out of the photograph, is sought in a copy that is darker, flatter and noisy: correlation without the
+// means does not mind.
+Colour found(const Photos& in) {
+  constexpr HuxiPoint eye = {218, 156};
+  constexpr HuxiSize patch = {64, 48}, places = {kFace.width - patch.width + 1, kFace.height - patch.height + 1};
+  const Gray gray = grayFace(in);
+  Gray seen(kFace);
+  Hux32u seed = 5;
+  HUX_DO(huxiMulC_8u_C1RSfs(gray.at(0, 0), gray.step(), 3, seen.at(0, 0), seen.step(), kFace, 3));
+  HUX_DO(huxiAddRandGauss_Direct_8u_C1IR(seen.at(0, 0), seen.step(), kFace, 10, 12, &seed));
+
+  Image<Hux32f, 1> scores(places);
+  HUX_DO(huxiCrossCorrValid_NormLevel_8u32f_C1R(seen.at(0, 0), seen.step(), kFace, gray.at(eye.x, eye.y), gray.step(),
+                                                patch, scores.at(0, 0), scores.step()));
+  Hux32f best;
+  HuxiPoint at;
+  HUX_DO(huxiMaxIndx_32f_C1R(scores.at(0, 0), scores.step(), places, &best, &at.x, &at.y));
+  if (at.x != eye.x || at.y != eye.y) throw std::runtime_error("the eye was found where it is not");
+
+  Gray map(kFace), large(kFace);
+  HUX_DO(huxiSet_8u_C1R(0, map.at(0, 0), map.step(), kFace));
+  HUX_DO(huxiScale_32f8u_C1R(scores.at(0, 0), scores.step(), map.at(patch.width / 2, patch.height / 2), map.step(),
+                             places, -1, 1));
+  HUX_DO(huxiResize_8u_C1R(gray.at(0, 0), kFace, gray.step(), {eye.x, eye.y, patch.width, patch.height}, large.at(0, 0),
+                           large.step(), kFace, 8, 8, huxiInterNearest));
+  Colour out(kWhole);
+  show(gray, out, 0), outline(out, 0, eye, patch);
+  show(large, out, 1);
+  show(map, out, 2);
+  show(seen, out, 3), outline(out, 3, at, patch);
+  return out;
+}
+
 constexpr Step kSteps[] = {
     {"edges", "slopes along rows, along columns, both; bends", edges},
     {"sharpened", "as it is; sharpened, smoothed, in relief", sharpened},
     {"denoised", "with noise; mean, median, Wiener filter", denoised},
     {"opened-and-closed", "above 110; opened, closed; outlines", openedAndClosed},
     {"restored", "out of focus; by the spectrum, by Lucy; in focus", restored},
+    {"found", "an eye; enlarged; where it agrees; found in the dark", found},
 };
 
 }  // namespace
