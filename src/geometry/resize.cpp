@@ -50,22 +50,22 @@ HuxStatus ownviResize(const Call& c) {
     if (super) return Axis{image, countOf(extent, factor, most), false, Hux64f(origin), 0, factor};
     return axisOf(image, origin, extent, most, factor, shift, c.bySteps, mode);
   };
-  ResizePlane plane{c.format,
-                    nullptr,
-                    c.src.step,
-                    nullptr,
-                    c.dst.step,
-                    axis(c.srcSize.width, roi.x, roi.width, c.dstSize.width, c.x, c.xShift),
-                    axis(c.srcSize.height, roi.y, roi.height, c.dstSize.height, c.y, c.yShift)};
+  const ResizePlane plane{c.format,
+                          nullptr,
+                          c.src.step,
+                          nullptr,
+                          c.dst.step,
+                          axis(c.srcSize.width, roi.x, roi.width, c.dstSize.width, c.x, c.xShift),
+                          axis(c.srcSize.height, roi.y, roi.height, c.dstSize.height, c.y, c.yShift)};
   if (plane.x.count < 1 || plane.y.count < 1) return huxStsResizeTooSmall;
-  for (std::size_t i = 0; i < std::size_t(c.format.planes); ++i) {
-    plane.src = c.src.plane[i], plane.dst = c.dst.plane[i];
-    if (!super)
-      resizePlane(plane, mode);
-    else if (HuxStatus s = ownviDecimateSuper(plane))
-      return s;
+  const auto count = std::size_t(c.format.planes);
+  std::array<ResizePlane, 4> planes;
+  for (std::size_t i = 0; i < count; ++i) {
+    planes[i] = plane;
+    planes[i].src = c.src.plane[i], planes[i].dst = c.dst.plane[i];
+    if (!super) resizePlane(planes[i], mode);
   }
-  return huxStsOk;
+  return super ? ownviDecimateSuper({planes.data(), count}) : huxStsOk;
 }
 
 // One axis of a resize about a point, which comes to the middle of the destination.

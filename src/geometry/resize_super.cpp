@@ -79,12 +79,13 @@ const Element<T>* rowOf(const ResizePlane& p, Index y) {
 
 // Blocks of any size, one element after the other. S is what columns are summed up in, Total what blocks are.
 template <class T, class S, class Total>
-HuxStatus bySingles(const ResizePlane& p, const Columns& columns, Hux64f yStep) {
+HuxStatus bySingles(const ResizePlane& p, const Columns& columns, Hux64f yStep, Planes rest) {
   const Format& f = p.format;
   const Index stride = f.stride, width = p.x.count;
   const Scratch<S> sums((columns.needed + 64) * stride);
   const Scratch<Total> blocks(width * stride);
   if (!sums || !blocks) return huxStsNoMem;
+  if (HuxStatus s = ownviDecimateSuper(rest)) return s;
   const Hux64f scale = p.x.step * p.y.step;
   Covers alongY(yStep);
   for (Index y = 0; y < p.y.count; ++y) {
@@ -129,7 +130,7 @@ void storeTouched(const Format& f, Element<T>* dst, V v, int count) {
 
 // The same in vectors, of blocks whose sums fit 32 bits and a row of sums that 32 bits count.
 template <class T, class S>
-HuxStatus byLanes(const ResizePlane& p, const Columns& columns, Hux64f yStep) {
+HuxStatus byLanes(const ResizePlane& p, const Columns& columns, Hux64f yStep, Planes rest) {
   using V = Lanes<S, laneCount<S>>;
   constexpr Index lanes = lanesIn<V>, perStore = lanes * 4 / Index(sizeof(T));
   const Format& f = p.format;
@@ -139,6 +140,7 @@ HuxStatus byLanes(const ResizePlane& p, const Columns& columns, Hux64f yStep) {
   const Scratch<S> sums(room), weights(columns.most * all);
   const Scratch<Hux32s> first(all);
   if (!sums || !weights || !first) return huxStsNoMem;
+  if (HuxStatus s = ownviDecimateSuper(rest)) return s;
   std::fill_n(sums.get(), room, S(0));
   std::fill_n(weights.get(), columns.most * all, S(0));
   std::fill_n(first.get(), all, 0);
@@ -284,49 +286,57 @@ void halvesOfThree(const ResizePlane& p) {
   }
 }
 
-// Blocks of two by two pixels that lie in the image; false where they do not, or where picking bytes is slow.
+// Blocks of two by two pixels: whether they lie in the image and picking bytes is not slow.
 template <class T>
-bool byHalves(const ResizePlane& p) {
+bool halvesServe(const ResizePlane& p) {
   if (2 * p.x.count > p.x.image - Index(p.x.origin) || 2 * p.y.count > p.y.image - Index(p.y.origin)) return false;
+  return kPicks || std::is_floating_point_v<T> || p.format.stride == 1 || p.format.stride == 3;
+}
+template <class T>
+void byHalves(const ResizePlane& p) {
   if (p.format.stride == 3)
     halvesOfThree<T>(p);
   else if (p.format.stride == 1)
     halves<T, 1>(p);
-  else if (!kPicks && std::is_integral_v<T>)
-    return false;
   else if (p.format.stride == 4)
     halves<T, 4>(p);
   else
     halves<T, 2>(p);  // luma of packed pixels
-  return true;
 }
 
 template <class T>
-HuxStatus decimate(const ResizePlane& p) {
+HuxStatus decimate(const ResizePlane& p, Planes rest) {
   const Hux64f x = 1 / p.x.step, y = 1 / p.y.step;
-  if (x == 2 && y == 2 && byHalves<T>(p)) return huxStsOk;
+  if (x == 2 && y == 2 && halvesServe<T>(p)) {
+    if (HuxStatus s = ownviDecimateSuper(rest)) return s;
+    byHalves<T>(p);
+    return huxStsOk;
+  }
   const Columns columns(p.x, x);
   if (!columns.covers) return huxStsNoMem;
   const bool counted = (columns.needed + columns.most) * p.format.stride < (Index(1) << 30);
   if constexpr (std::is_integral_v<T>) {
     if (x == std::floor(x) && y == std::floor(y)) {
-      if (counted && x * y * std::numeric_limits<T>::max() < 0x1p31) return byLanes<T, Hux32s>(p, columns, y);
-      return bySingles<T, Hux32u, std::uint64_t>(p, columns, y);
+      if (counted && x * y * std::numeric_limits<T>::max() < 0x1p31) return byLanes<T, Hux32s>(p, columns, y, rest);
+      return bySingles<T, Hux32u, std::uint64_t>(p, columns, y, rest);
     }
   }
-  return counted ? byLanes<T, Hux32f>(p, columns, y) : bySingles<T, Hux32f, Hux32f>(p, columns, y);
+  return counted ? byLanes<T, Hux32f>(p, columns, y, rest) : bySingles<T, Hux32f, Hux32f>(p, columns, y, rest);
 }
 
 }  // namespace
 
-HuxStatus ownviDecimateSuper(const ResizePlane& p) {
-  switch (p.format.type) {
+HuxStatus ownviDecimateSuper(Planes planes) {
+  if (planes.empty()) return huxStsOk;
+  const ResizePlane& first = planes.front();
+  const Planes rest = planes.subspan(1);
+  switch (first.format.type) {
     case ElementType::u8:
-      return decimate<Hux8u>(p);
+      return decimate<Hux8u>(first, rest);
     case ElementType::u16:
-      return decimate<Hux16u>(p);
+      return decimate<Hux16u>(first, rest);
     case ElementType::f32:
-      return decimate<Hux32f>(p);
+      return decimate<Hux32f>(first, rest);
   }
   return huxStsOk;
 }

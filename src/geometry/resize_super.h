@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cmath>
+#include <span>
 
 #include "geometry/resize_rows.h"
 
@@ -53,8 +54,9 @@ class Covers {
   bool first_ = true;
 };
 
-// Factors of at most 1, which the plane's axes hold in place of steps. huxStsNoMem where there is no memory for a row
-// of sums.
-HuxStatus ownviDecimateSuper(const ResizePlane& plane);
+// Factors of at most 1, which the planes' axes hold in place of steps. huxStsNoMem where there is no memory for a row
+// of sums: each plane takes its own before those behind it, and is written after them, so that nothing is written then.
+using Planes = std::span<const ResizePlane>;
+HuxStatus ownviDecimateSuper(Planes planes);
 
 }  // namespace hux

@@ -136,9 +136,9 @@ HuxStatus ownviDecimateYUY2super(const Packed& p, Hux64f xFactor, Hux64f yFactor
                        {p.rows.image, p.rows.count, false, p.rows.origin, 0, yFactor}};
   };
   const Index chroma = p.srcWidth / 2;
-  if (HuxStatus s = ownviDecimateSuper(plane(2, 0, p.srcWidth, 2 * p.srcX, 2 * p.pairs))) return s;
-  if (HuxStatus s = ownviDecimateSuper(plane(4, 1, chroma, p.srcX, p.pairs))) return s;
-  return ownviDecimateSuper(plane(4, 3, chroma, p.srcX, p.pairs));
+  const ResizePlane planes[] = {plane(2, 0, p.srcWidth, 2 * p.srcX, 2 * p.pairs), plane(4, 1, chroma, p.srcX, p.pairs),
+                                plane(4, 3, chroma, p.srcX, p.pairs)};
+  return ownviDecimateSuper(planes);
 }
 
 HuxStatus ownviResizeYUY2(const Hux8u* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Hux8u* pDst, int dstStep,
