@@ -2,9 +2,12 @@
 
 add_library(hux_build_flags INTERFACE)
 target_compile_options(hux_build_flags INTERFACE -Wall -Wextra -Wundef $<$<BOOL:${HUX_WERROR}>:-Werror>)
+
+# What is compiled with the sanitizers: the libraries, and what looks into them. All programs are linked with them.
+add_library(hux_sanitizers INTERFACE)
 if(HUX_SANITIZE)
-  target_compile_options(hux_build_flags INTERFACE -fsanitize=${HUX_SANITIZE} -fno-sanitize-recover=all
-                                                   -fno-omit-frame-pointer)
+  target_compile_options(hux_sanitizers INTERFACE -fsanitize=${HUX_SANITIZE} -fno-sanitize-recover=all
+                                                  -fno-omit-frame-pointer)
   target_link_options(hux_build_flags INTERFACE -fsanitize=${HUX_SANITIZE})
 endif()
 
@@ -32,7 +35,7 @@ function(hux_add_objects name arch)
     add_library(${name}_${part} OBJECT ${HUX_${list}_SOURCES})
     target_include_directories(${name}_${part} PRIVATE ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/src)
     target_compile_options(${name}_${part} PRIVATE ${HUX_LIBRARY_FLAGS} $<$<BOOL:${arch}>:-march=${arch}>)
-    target_link_libraries(${name}_${part} PRIVATE hux_build_flags hux_threads)
+    target_link_libraries(${name}_${part} PRIVATE hux_build_flags hux_sanitizers hux_threads)
     set_target_properties(${name}_${part} PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden
                                                      VISIBILITY_INLINES_HIDDEN ON)
   endforeach()
