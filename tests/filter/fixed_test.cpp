@@ -390,21 +390,16 @@ TEST(FixedFilters, ChecksInOrderAndMemory) {
     Arguments a(image);
     a.a = image.bytes(4, 4), a.d = image.bytes(8, 8);
     HuxiMaskSize mask = m.mask;
-    CheckOrder order([&] { return m.call(a.a, a.aStep, a.d, a.dStep, a.roi, mask); });
+    const auto call = [&] { return m.call(a.a, a.aStep, a.d, a.dStep, a.roi, mask); };
+    CheckOrder order(call);
     order.in(a, "adzAD");
     if (m.masked && !m.lenient)
       for (HuxiMaskSize other : others) order.breaks(huxStsBadMaskSize, mask, other);
     order.run(image);
     if (m.lenient && m.size == 5)
       for (HuxiMaskSize other : others) expectFiltered(rng, m, 9, 3, Place::kInside, other);
-
     // Only the filters that run take memory.
-    const Source src = Source::make(rng, m, 70, 2, Place::kInside);
-    const Image dst(rng, 70, 2, m.dstBytes * m.layout.stride);
-    const auto call = [&] {
-      return m.call(src.first(m), src.image.step(), dst.bytes(), dst.step(), dst.size(), m.mask);
-    };
-    EXPECT_EQ(failuresOf(call, dst) > 0, m.runs());
+    EXPECT_EQ(failuresOf(call) > 0, m.runs());
   }
 }
 

@@ -188,7 +188,7 @@ TEST(Morphology, ChecksPointersStepsSizeMaskAnchorAndRows) {
   }
 }
 
-// In place memory may be missing. The other forms do their work without any: also with masks for which they would ask.
+// Out of place memory is not needed, also with masks for which it would be asked.
 TEST(Morphology, MissingMemory) {
   Rng rng(4);
   for (const MorphForm& f : forms()) {
@@ -200,14 +200,11 @@ TEST(Morphology, MissingMemory) {
     const auto outOf = [&](const Image& to) {
       return f.outOf(src.at({0, 0}), src.step(), to.bytes(), to.step(), roi, mask.data(), size, {0, 0});
     };
-    walkAllocationFailures([&] { return outOf(other); }, [&](HuxStatus status) { EXPECT_EQ(status, huxStsOk); });
+    ASSERT_EQ(outOf(other), huxStsOk);
     failAllocation(0);
     EXPECT_EQ(outOf(dst), huxStsOk);
     stopFailing();
     EXPECT_TRUE(same(dst, other));
-    EXPECT_GT(failuresOf([&] { return f.in3x3(src.at({1, 1}), src.step(), roi); }, src.image()), 0);
-    const auto in = [&] { return f.in(src.at({0, 0}), src.step(), roi, mask.data(), {5, 3}, {0, 0}); };
-    EXPECT_TRUE(!f.in || failuresOf(in, src.image()) > 0);
   }
 }
 

@@ -159,7 +159,8 @@ TEST(Rank, ChecksInOrderAndMemory) {
     const Image image(rng, roi.width, roi.height, f.pixelBytes());
     Arguments a(image, roi);
     a.a = source.at(anchor), a.aStep = source.step();
-    CheckOrder order([&] { return f(a.a, a.aStep, a.d, a.dStep, a.roi, mask, anchor); });
+    const auto call = [&] { return f(a.a, a.aStep, a.d, a.dStep, a.roi, mask, anchor); };
+    CheckOrder order(call);
     order.in(a, "adzAD");
     if (f.masks.empty()) {
       order.breaks(huxStsBadMaskSize, mask, {0, 5}).breaks(huxStsBadMaskSize, mask, {7, 0});
@@ -176,7 +177,6 @@ TEST(Rank, ChecksInOrderAndMemory) {
     }
     order.run(image);
     // The general median of 16s, FilterMin and FilterMax report that memory is missing; the others need none.
-    const auto call = [&] { return f(a.a, a.aStep, a.d, a.dStep, a.roi, mask, anchor); };
     EXPECT_EQ(failuresOf(call, image) > 0, f.masks.empty() && !(f.rule == Rule::kMedian && f.elementBytes == 1));
   }
 }

@@ -5,7 +5,6 @@
 
 #include "huxi_filter.h"
 #include "huxs.h"
-#include "support/failing_malloc.h"
 #include "support/forms.h"
 
 namespace hux::test {
@@ -85,13 +84,12 @@ void expectWindowed(Rng& rng, const Member& m, HuxiSize size) {
   const auto get = [&](const Image& of, int x, int y) {
     return m.bytes ? double(of.get<Hux8u>(x, y)) : double(of.get<Hux32f>(x, y));
   };
-  for (int y = 0; y < size.height; ++y)
-    for (int x = 0; x < size.width; ++x) {
-      ASSERT_TRUE(holds(m, get(src, x, y), get(dst, x, y), x, y, size))
-          << x << ", " << y << ": " << get(src, x, y) << " became " << get(dst, x, y);
-      std::memcpy(outside.bytes(x, y), dst.bytes(x, y), std::size_t(m.elementBytes));
-      std::memcpy(src.bytes(x, y), dst.bytes(x, y), std::size_t(m.elementBytes));
-    }
+  forPixels(size, [&](int x, int y) {
+    ASSERT_TRUE(holds(m, get(src, x, y), get(dst, x, y), x, y, size))
+        << x << ", " << y << ": " << get(src, x, y) << " became " << get(dst, x, y);
+    std::memcpy(outside.bytes(x, y), dst.bytes(x, y), std::size_t(m.elementBytes));
+    std::memcpy(src.bytes(x, y), dst.bytes(x, y), std::size_t(m.elementBytes));
+  });
   ASSERT_TRUE(same(dst, outside));
   ASSERT_TRUE(same(image, src)) << "in place";
 }
@@ -131,19 +129,16 @@ TEST(Windows, TiesOfWeights) {
   }
 }
 
-TEST(Windows, ChecksInOrderAndMemory) {
+TEST(Windows, ChecksInOrder) {
   Rng rng(2);
   const Image image(rng, 16, 8, 4);
   for (const Member& m : kMembers) {
     SCOPED_TRACE(m.name);
     Arguments a(image, {3, 3});
-    const auto apart = [&] { return m.apart(a.a, a.aStep, a.d, a.dStep, a.roi); };
-    const auto inPlace = [&] { return m.inPlace(a.d, a.dStep, a.roi); };
-    CheckOrder order(apart);
+    CheckOrder order([&] { return m.apart(a.a, a.aStep, a.d, a.dStep, a.roi); });
     order.in(a, "ad").breaks(huxStsBadSize, a.roi.width, 2).breaks(huxStsBadSize, a.roi.height, 2).in(a, "AD");
     order.run(image);
-    CheckOrder(inPlace).in(a, "dzD").run(image);
-    EXPECT_EQ(failuresOf(apart) + failuresOf(inPlace), 4);
+    CheckOrder([&] { return m.inPlace(a.d, a.dStep, a.roi); }).in(a, "dzD").run(image);
   }
   Hux32f value = 1;
   for (auto* line : {huxsWinBartlett_32f_I, huxsWinHamming_32f_I}) {
