@@ -90,10 +90,10 @@ struct Picture {
       : m(m),
         image(rng, width, m.planar ? 4 * height : height, m.planar ? m.elementBytes : m.pixelBytes(), place),
         height(height) {
-    for (int y = 0; y < height; ++y)  // random bytes already; one in three gets an end of the range
-      for (int x = 0; x < width; ++x)
-        for (int c = 0; c < m.layout.stride; ++c)
-          if (const auto roll = rng(); roll % 3 == 0) set(x, y, c, roll % 2 ? 0 : -1);
+    // Random bytes already; one in three gets an end of the range.
+    forElements({width, height}, m.layout.stride, [&](int x, int y, int c) {
+      if (const auto roll = rng(); roll % 3 == 0) set(x, y, c, roll % 2 ? 0 : -1);
+    });
   }
   std::byte* at(int x, int y, int c) const {
     return m.planar ? image.bytes(x, c * height + y) : image.bytes(x, y) + c * m.elementBytes;
