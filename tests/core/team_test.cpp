@@ -1,5 +1,5 @@
-// The four work divisions: every row and tile once, whatever the team, and a status for every failure. The program is
-// also run with a thread limit of 1, where the runtime refuses all teams.
+// The four work divisions: every row and tile once, whatever the team. The program is also run with a thread limit of
+// 1, where the runtime refuses all teams.
 #include "core/team.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +15,6 @@
 #include <vector>
 
 #include "huxcore.h"
-#include "support/failing_malloc.h"
 
 namespace hux::test {
 namespace {
@@ -94,24 +93,6 @@ TEST(Team, LoopRowsGivesEachThreadOneRangeAndItsOwnSlice) {
         EXPECT_TRUE(visits.eachOnce());
         EXPECT_LE(int(slices.size()), fork ? most : 1);
       }
-  });
-}
-
-TEST(Team, RowsWithoutScratchNeedNoMemory) {
-  forTeams([](int) {
-    for (bool fork : {false, true}) {
-      Visits visits(9);
-      failAllocation(0);
-      EXPECT_EQ(loopRows(9, fork, 0,
-                         [&](RowRange r, std::byte* slice) {
-                           visits.visit(r);
-                           EXPECT_EQ(slice, nullptr);
-                         }),
-                huxStsOk);
-      EXPECT_FALSE(allocationFailed());
-      stopFailing();
-      EXPECT_TRUE(visits.eachOnce());
-    }
   });
 }
 
@@ -195,30 +176,6 @@ TEST(Team, PartialSumsAreAddedInThreadOrder) {
       EXPECT_EQ(sum, height);
       EXPECT_LE(partials, most);
     }
-  });
-}
-
-TEST(Team, NoMemoryIsAStatusAndNothingRuns) {
-  forTeams([](int) {
-    for (bool fork : {false, true}) {
-      Visits visits(8);
-      EXPECT_EQ(failuresOf([&] {
-                  return loopRows(8, fork, 10,
-                                  [&](RowRange r, std::byte*) { allocationFailed() ? visits.visit(r) : void(); });
-                }),
-                1);
-      EXPECT_TRUE(visits.none());
-    }
-    const auto tiles = [] {
-      return runTiles(
-          {1, 1}, [](std::byte*, Index&) { return HuxStatus(huxStsOk); },
-          [](Index, std::byte*, std::byte*) { return HuxStatus(huxStsOk); });
-    };
-    const auto sums = [] {
-      return sumRows(
-          4, 8, [](RowRange, std::byte*) {}, [](const std::byte*) {});
-    };
-    EXPECT_EQ(failuresOf(tiles) + failuresOf(sums), 2);
   });
 }
 
