@@ -12,7 +12,6 @@
 #include "lanes/lanes_sum.h"
 #include "lanes/round.h"
 #include "lanes/simd.h"
-#include "workers/table.h"
 
 namespace hux {
 namespace {
@@ -189,39 +188,6 @@ TEST(Lanes, AddUpNeighboursAndProducts) {
     for (int i = 0; i < lanesIn<Longs>; ++i)
       ASSERT_EQ(Hux64s(product[i]), Hux64s(Hux32s(from[i])) * Hux64s(Hux32s(~from[i])));
   });
-}
-
-TEST(Bytes, ThatAreNotZero) {
-  std::uint8_t bytes[64];
-  std::mt19937 random(2);
-  for (int round = 0; round < 256; ++round) {
-    std::uint64_t expected = 0;
-    for (int i = 0; i < 64; ++i) {
-      bytes[i] = random() % 2 ? std::uint8_t(1 << random() % 8) : 0;
-      expected |= std::uint64_t(bytes[i] != 0) << i;
-    }
-    ASSERT_EQ(simd::nonZeroBytes(bytes), expected);
-  }
-}
-
-TEST(Bytes, CopiedInFewSteps) {
-  for (int length = 0; length <= 200; ++length) {
-    std::vector<std::uint8_t> from(208), to(208, 255), expected(208, 255);
-    for (int i = 0; i < 208; ++i) from[std::size_t(i)] = std::uint8_t(i + 1);
-    std::copy_n(from.begin(), length, expected.begin() + 3);
-    simd::copyFew(to.data() + 3, from.data(), length);
-    ASSERT_EQ(to, expected) << length;
-  }
-}
-
-TEST(Bytes, LookedUpInATable) {
-  std::mt19937 random(3);
-  Hux8u table[256];
-  for (Hux8u& e : table) e = Hux8u(random());
-  std::vector<Hux8u> from(999), to(999), expected;
-  for (std::size_t i = 0; i < from.size(); ++i) from[i] = Hux8u(i), expected.push_back(table[Hux8u(i)]);
-  ByteTables<C1>(table).map(elements(from.data()), elements(to.data()), Index(from.size()));
-  EXPECT_EQ(to, expected);
 }
 
 }  // namespace
