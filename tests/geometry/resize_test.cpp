@@ -1,7 +1,6 @@
 // Resize by factors, about a point and by steps, by every interpolation.
 #include "geometry/resampling.h"
 #include "huxi_geometry.h"
-#include "support/failing_malloc.h"
 
 namespace hux::test {
 namespace {
@@ -230,16 +229,6 @@ TEST(Resize, SupersamplingIsTheMeanByArea) {
           }
       ASSERT_TRUE(same(s.dst, before)) << "outside the result";
     }
-}
-
-// Nothing is left behind when memory runs out.
-TEST(Resize, SupersamplingTellsOfNoMemory) {
-  Rng rng(4);
-  for (const ResizeForm& f : forms()) {
-    Scene s(rng, f, HuxiSize{30, 20}, HuxiSize{10, 10});
-    s.roi = {0, 0, 30, 20};
-    failuresOf([&] { return s.call(f.resize, 0.3, 0.5, huxiInterSuper); });
-  }
 }
 
 TEST(Resize, NegativeSourceStepsWalkUp) {
