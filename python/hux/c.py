@@ -152,8 +152,8 @@ def __getattr__(name):
         function = _symbol(name, lambda library: library[name])
         function.argtypes = [_parameter(p) for p in entry["parameters"]]
         returns = entry["returns"]["type"]
-        function.restype = (None if returns == "void" else
-                            ctypes.c_void_p if entry["returns"]["element"] and returns.endswith("*") else _type(returns))
+        memory = entry["returns"]["element"] and returns.endswith("*")
+        function.restype = None if returns == "void" else ctypes.c_void_p if memory else _type(returns)
         function.__doc__ = f"{entry['signature']}\n\n{_registry['groups'][entry['group']]['comment']}"
         value = function
     elif name in _variables:

@@ -23,6 +23,18 @@ SHAPES = {"int": "i", "Hux32s": "i", "Hux32u": "u", "Hux8u": "b", "Hux8s": "k", 
           "Hux16sc": "C", "Hux32sc": "D", "Hux32fc": "E", "Hux64fc": "F"}
 
 
+def trampolines(shapes):
+    """call of table.h, for these shapes."""
+    lines = ["Value call(int shape, Any function, const Value* a) {", "  Value r = {};", "  switch (shape) {"]
+    for index, shape in enumerate(shapes):
+        types = ", ".join(CTYPES[letter] for letter in shape[1:]) or "void"
+        values = ", ".join((f"static_cast<{CTYPES[letter]}>(a[{i}].{MEMBERS[letter]})" if letter in "bkhcl" else
+                            f"a[{i}].{MEMBERS[letter]}") for i, letter in enumerate(shape[1:]))
+        run = f"reinterpret_cast<{CTYPES[shape[0]]} (*)({types})>(function)({values})"
+        lines.append(f"    case {index}: {'' if shape[0] == 'v' else f'r.{MEMBERS[shape[0]]} = '}{run}; break;")
+    return lines + ["    default: break;", "  }", "  return r;", "}"]
+
+
 class Table:
     def __init__(self, registry):
         self.registry, self.rules = registry, rules.resolve(registry)
@@ -171,16 +183,6 @@ class Table:
         words = ["huxStsNoMem"] if written else words
         return f"{{{words[0]}, {words[-1]}}}, {str(written).lower()}"
 
-    def trampolines(self):
-        lines = ["Value call(int shape, Any function, const Value* a) {", "  Value r = {};", "  switch (shape) {"]
-        for index, shape in enumerate(self.shapes):
-            types = ", ".join(CTYPES[letter] for letter in shape[1:]) or "void"
-            values = ", ".join((f"static_cast<{CTYPES[letter]}>(a[{i}].{MEMBERS[letter]})" if letter in "bkhcl" else
-                                f"a[{i}].{MEMBERS[letter]}") for i, letter in enumerate(shape[1:]))
-            run = f"reinterpret_cast<{CTYPES[shape[0]]} (*)({types})>(function)({values})"
-            lines.append(f"    case {index}: {'' if shape[0] == 'v' else f'r.{MEMBERS[shape[0]]} = '}{run}; break;")
-        return lines + ["    default: break;", "  }", "  return r;", "}"]
-
     def write(self, path):
         functions = [self.function(f) for f in self.registry["functions"]]
 
@@ -205,7 +207,7 @@ class Table:
         text += ["const char* nameOf(HuxStatus status) {", "  switch (status) {"]
         text += [f'    case {s["value"]}: return "{s["name"]}";' for s in self.registry["statuses"]]
         text += ["    default: return \"no status\";", "  }", "}"]
-        Path(path).write_text("\n".join(text + self.trampolines() + ["}  // namespace hux::tool", ""]))
+        Path(path).write_text("\n".join(text + trampolines(self.shapes) + ["}  // namespace hux::tool", ""]))
 
 
 def main():

@@ -1,0 +1,260 @@
+"""The operations: each function that they reach gives the bits that it gives by hux.c, however the arrays lie."""
+import pickle
+import subprocess
+import sys
+import threading
+import warnings
+
+import numpy as np
+import pytest
+
+import hux
+from hux import c
+
+DTYPES = {"8u": np.uint8, "8s": np.int8, "16u": np.uint16, "16s": np.int16, "32u": np.uint32, "32s": np.int32,
+          "32f": np.float32, "64f": np.float64, "16sc": hux.complex_int16, "32sc": hux.complex_int32,
+          "32fc": np.complex64, "64fc": np.complex128}
+OPERATIONS = [value for value in vars(hux).values() if isinstance(value, hux.Operation)]
+warnings.simplefilter("ignore", hux.Warning)
+
+
+def pixels(shape, dtype, seed):
+    random = np.random.default_rng(seed)
+    dtype = np.dtype(dtype)
+    if dtype.kind == "c":
+        return (random.uniform(-3, 3, shape) + 1j * random.uniform(-3, 3, shape)).astype(dtype)
+    if dtype.kind == "f":
+        return random.uniform(-3, 3, shape).astype(dtype)
+    whole = np.zeros(shape, dtype)
+    for part in ([whole[name] for name in dtype.names] if dtype.names else [whole]):
+        part[...] = random.integers(0, 120, shape)
+    return whole
+
+
+def by_c(name, a, b, constants, out):
+    """The function itself on packed arrays; b is what the operation takes away or divides by."""
+    entry = c._functions[name]
+    sources = [p for p in entry["parameters"] if p["role"] == "source"]
+    operands = [a, b]
+    if entry["flags"]["in_place"] and len(sources) == 1:
+        operands = [b]
+    elif entry["family"] in ("Sub", "Div"):
+        operands = [b, a]
+    arguments, height, width = [], a.shape[0], a.shape[1]
+    for p in entry["parameters"]:
+        role = p["role"]
+        if role == "source":
+            arguments.append(operands.pop(0))
+        elif role in ("destination", "source_destination"):
+            arguments.append(out)
+        elif role == "step":
+            arguments.append(a.strides[0])
+        elif role == "size":
+            arguments.append((width, height))
+        elif role == "scale_factor":
+            arguments.append(2)
+        else:
+            value = constants.tolist() if p["kind"] == "value" else constants
+            arguments.append(value[0] if p["kind"] == "value" else value)
+    return getattr(c, name)(*arguments)
+
+
+@pytest.mark.parametrize("operation", OPERATIONS, ids=lambda o: o.__name__)
+def test_every_member_has_the_bits_of_c(operation):
+    for name in operation.members:
+        entry = c._functions[name]
+        channels = int(entry["layout"][-1])
+        a, b = (pixels((5, 7, channels), DTYPES[entry["types"][0]], seed) for seed in (1, 2))
+        element = next((p["element"] for p in entry["parameters"] if p["role"] == "constant"), None)
+        constants = pixels(4, DTYPES[element], 3) if element else None
+        if element == "32u":
+            constants %= 5
+        keep = entry["layout"] == "AC4"
+        expected = a.copy()
+        assert by_c(name, a, b, constants, expected) >= 0, name
+        options = {"alpha": "keep"} if keep else {}
+        if entry["flags"]["scaled"]:
+            options["shift"] = 2
+        arguments = [a]
+        if element:
+            given = constants.tolist()[:3 if keep else channels]
+            arguments.append(tuple(complex(*v) if isinstance(v, tuple) else v for v in given))
+        elif any(p["role"] == "source" for p in entry["parameters"][1 if not entry["flags"]["in_place"] else 0:]):
+            arguments.append(b)
+        if entry["flags"]["in_place"]:
+            arguments[0] = out = a.copy()
+            options["out"] = out
+        assert operation.which(*arguments, **options) == name
+        result = operation(*arguments, **options)
+        assert result.tobytes() == expected.tobytes(), name
+        assert result.shape == a.shape and result.dtype == a.dtype
+        if entry["flags"]["in_place"]:
+            assert result is out
+
+
+def layouts_of_rows():
+    """Arrays of the same pixels, each laid out otherwise."""
+    yield "packed", lambda x: x.copy()
+    yield "part", lambda x: np.pad(x, ((1, 2), (3, 1), (0, 0)))[1:-2, 3:-1]
+    yield "upside down", lambda x: x[::-1].copy()[::-1]
+    yield "mirrored", lambda x: x[:, ::-1].copy()[:, ::-1]
+    yield "columns first", lambda x: np.asfortranarray(x)
+    yield "every other row", lambda x: np.repeat(x, 2, 0)[::2]
+
+
+def test_rows_and_pixels_of_any_stride():
+    a, b = (pixels((6, 9, 3), np.uint8, seed) for seed in (1, 2))
+    expected = np.minimum(a.astype(int) + b, 255)
+    for name, lay in layouts_of_rows():
+        assert np.array_equal(hux.add(lay(a), b), expected), name
+        assert np.array_equal(hux.add(a, lay(b)), expected), name
+        out = lay(np.zeros_like(a))
+        if name in ("mirrored", "columns first"):
+            with pytest.raises(ValueError, match="one after another"):
+                hux.add(a, b, out=out)
+        else:
+            around = out.base.copy() if out.base is not None else None
+            assert hux.add(a, b, out=out) is out
+            assert np.array_equal(out, expected), name
+            if name == "part":
+                written = (out.base != around).any(-1)
+                assert not written[0].any() and not written[-2:].any() and not written[:, :3].any()
+    one = np.broadcast_to(a[:1], a.shape)
+    assert np.array_equal(hux.add(one, b), np.minimum(one.astype(int) + b, 255))
+    assert np.array_equal(hux.add(a[..., 1], b[..., 2]), expected_of(a[..., 1], b[..., 2]))
+    assert np.array_equal(hux.add(a[0, :, 0], b[0, :, 0]), expected_of(a[0, :, 0], b[0, :, 0]))
+    with pytest.raises(ValueError, match="do not overlap"):
+        hux.add(a, b, out=np.lib.stride_tricks.as_strided(np.zeros(400, np.uint8), a.shape, (3, 3, 1)))
+
+
+def expected_of(a, b):
+    return np.minimum(a.astype(int) + b, 255)
+
+
+@pytest.mark.parametrize("operation", [hux.add, hux.sub, hux.xor, hux.div], ids=lambda o: o.__name__)
+def test_out_may_share_bytes_with_the_sources(operation):
+    random = np.random.default_rng(5)
+    for _ in range(200):
+        memory = random.integers(1, 200, (12, 40), np.uint8)
+
+        def window():
+            y, x = random.integers(0, 4), random.integers(0, 4)
+            view = memory[y:y + 8, x:x + 20]
+            return view[::-1] if random.random() < 0.2 else view
+        a, b = window(), window()
+        out = (a, b, window(), window())[random.integers(0, 4)]
+        expected = operation(a.copy(), b.copy())
+        untouched = memory.copy()
+        assert operation(a, b, out=out) is out
+        assert np.array_equal(out, expected)
+        changed = np.zeros(memory.shape, bool)
+        origin = out.__array_interface__["data"][0] - memory.__array_interface__["data"][0]
+        y, x = divmod(origin, 40)
+        rows = slice(y - 7, y + 1) if out.strides[0] < 0 else slice(y, y + 8)
+        changed[rows, x:x + 20] = True
+        assert np.array_equal(memory[~changed], untouched[~changed])
+
+
+def test_alpha_is_kept():
+    a, b, out = (pixels((4, 5, 4), np.uint8, seed) for seed in (1, 2, 3))
+    alpha = out[..., 3].copy()
+    hux.add(a, b, out=out, alpha="keep")
+    assert np.array_equal(out[..., 3], alpha) and np.array_equal(out[..., :3], a[..., :3] + b[..., :3])
+    assert np.array_equal(hux.add(a, b, alpha="keep")[..., 3], a[..., 3])
+    flipped = out[::-1]
+    hux.add(a, 1, out=flipped, alpha="keep")
+    assert np.array_equal(out[..., 3], alpha) and np.array_equal(flipped[..., :3], a[..., :3] + 1)
+
+
+def test_constants():
+    rgb = pixels((2, 3, 3), np.uint8, 1)
+    assert np.array_equal(hux.add(rgb, 7), rgb + 7)
+    assert np.array_equal(hux.add(rgb, (1, 2, 3)), rgb + np.array([1, 2, 3]))
+    assert np.array_equal(hux.add(rgb, np.uint8(7)), rgb + 7)
+    for wrong, error in ((256, ValueError), (-1, ValueError), (10**30, ValueError), (1.5, TypeError), ("7", TypeError),
+                         ((1, 2), ValueError), ((1, 2, "3"), TypeError), (None, TypeError), ({}, TypeError)):
+        with pytest.raises(error):
+            hux.add(rgb, wrong)
+    with pytest.raises(ValueError, match="constant"):
+        hux.add(np.ones((2, 2), np.float32), 1e39)
+    with pytest.raises(hux.DivByZeroError) as caught:
+        hux.div(rgb, 0)
+    assert isinstance(caught.value, ZeroDivisionError) and caught.value.status == c.huxStsDivByZero
+    assert caught.value.function == "huxiDivC_8u_C3RSfs" and caught.value.operation == "div"
+
+
+def test_what_is_refused_says_why():
+    a = pixels((4, 5), np.uint8, 1)
+    read_only = a.copy()
+    read_only.flags.writeable = False
+    for call, error, text in (
+            (lambda: hux.add(a, a.astype(np.int16)), TypeError, "no promotion"),
+            (lambda: hux.add(a, a[:2]), ValueError, "no broadcasting"),
+            (lambda: hux.add(a.astype(np.int64), 1), TypeError, "format 'l'"),
+            (lambda: hux.add(a.astype(">i2"), 1), TypeError, "format"),
+            (lambda: hux.exp(a.astype(np.float64)), TypeError, "there are: uint8 with 1"),
+            (lambda: hux.add(a, a, out=a.astype(np.int16)), TypeError, "out must have the dtype"),
+            (lambda: hux.add(a, a, out=a[:2].copy()), ValueError, "out must have the shape"),
+            (lambda: hux.add(a, a, out=read_only), ValueError, "read-only"),
+            (lambda: hux.add(a, a, alpha="keep"), TypeError, "four channels"),
+            (lambda: hux.add(np.zeros((2, 2, 4), np.uint8), 1, alpha="drop"), ValueError, "keep"),
+            (lambda: hux.add(np.zeros((2, 2, 2), np.uint8), 1), TypeError, "1, 3 or 4"),
+            (lambda: hux.add(np.zeros((2, 2, 2, 2), np.uint8), 1), TypeError, "4 axes"),
+            (lambda: hux.add(np.uint8(1), 1), TypeError, "0 axes"),
+            (lambda: hux.add(a.astype(np.float32), 1, shift=1), TypeError, "no shift for float32"),
+            (lambda: hux.and_(a, 1, shift=1), TypeError, "no keyword"),
+            (lambda: hux.add(a), TypeError, "2 positional"), (lambda: hux.add(), TypeError, "2 positional"),
+            (lambda: hux.add(a, a, shift=2**40), ValueError, "32 bits"),
+            (lambda: hux.add(a, a, shift=2**70), ValueError, "32 bits"),
+            (lambda: hux.add([[1]], 1), TypeError, "an array is expected"),
+            (lambda: hux.add(a[:0], a[:0]), hux.BadSizeError, "add: .*huxiAdd_8u_C1RSfs")):
+        with pytest.raises(error, match=text):
+            call()
+
+
+def test_warnings_point_at_the_caller():
+    a = np.array([[4, -4]], np.float32)
+    with warnings.catch_warnings(record=True) as caught:
+        warnings.simplefilter("always")
+        hux.sqrt(a)
+    assert [w.category for w in caught] == [hux.SqrtNegWarning] and caught[0].filename == __file__
+    with warnings.catch_warnings():
+        warnings.simplefilter("error")
+        with pytest.raises(hux.SqrtNegWarning):
+            hux.sqrt(a)
+
+
+def test_nothing_leaks_and_threads_share():
+    a, b = (pixels((300, 400), np.uint8, seed) for seed in (1, 2))
+    expected = hux.add(a, b)
+    bad = []
+
+    def work():
+        for _ in range(50):
+            if not np.array_equal(hux.add(a, b), expected):
+                bad.append(1)
+    threads = [threading.Thread(target=work) for _ in range(4)]
+    [t.start() for t in threads], [t.join() for t in threads]
+    assert not bad
+    small, references = pixels((4, 4), np.uint8, 1), sys.getrefcount
+    before = references(small), references(np.dtype(np.uint8)), references(hux.add)
+    for _ in range(1000):
+        hux.add(small, small, out=small)
+        hux.add(small, 3, shift=1)
+        for wrong in ({"out": small[:2]}, {"alpha": "keep"}, {"nothing": 1}):
+            with pytest.raises((TypeError, ValueError)):
+                hux.add(small, small, **wrong)
+    after = references(small), references(np.dtype(np.uint8)), references(hux.add)
+    assert all(abs(x - y) < 10 for x, y in zip(before, after))
+    small.resize((8, 8), refcheck=False)  # refused while a buffer is held
+
+
+def test_reference():
+    assert "pSrc1 + pSrc2" in hux.add.__doc__ and hux.add.__doc__.startswith("add(a, b, /, *, out=None, shift=0")
+    assert "a is what C calls pSrc2" in hux.sub.__doc__ and "shift" not in hux.and_.__doc__.split("\n")[0]
+    assert repr(hux.add) == "<operation hux.add>" and pickle.loads(pickle.dumps(hux.add)) is hux.add
+    with pytest.raises(TypeError):
+        hux.Operation()
+    program = "from hux import *; print(abs(-1), add.__name__)"
+    star = subprocess.run([sys.executable, "-c", program], capture_output=True, text=True, check=True)
+    assert star.stdout.split() == ["1", "add"]
