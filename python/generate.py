@@ -87,11 +87,13 @@ def main():
         groups = dict.fromkeys(f["group"] for f, _ in own)
         comment = "\n\n".join(registry["groups"][g]["comment"] for g in groups)
         call = f"{name}({'a, b' if sources == 2 else 'a'}, /, *, out=None"
-        call += f"{', shift=0' if any('s' in p for _, p in own) else ''}, alpha=None)"
+        scaled = any("s" in program for _, program in own)
+        call += f"{', shift=0' if scaled else ''}, alpha=None)"
         if any(rules[f["family"]].get("reversed") for f, _ in own):
             comment = f"Here a is what C calls pSrc2, and b is pSrc1.\n\n{comment}"
         doc = text(f"{call}\n\n{comment}")
-        lines.append(f"{{{text(name)}, {doc}, {len(members)}, {len(own)}, {sources}, {str(commutative).lower()}}}")
+        traits = ", ".join(str(trait).lower() for trait in (commutative, scaled))
+        lines.append(f"{{{text(name)}, {doc}, {len(members)}, {len(own)}, {sources}, {traits}}}")
         for function, program in own:
             constant = next((p["element"] for p in function["parameters"] if p["role"] == "constant"), None)
             members.append(f"{{{text(function['name'])}, reinterpret_cast<Any>(&{function['name']}), "

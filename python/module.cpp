@@ -32,8 +32,12 @@ PyObject *gEmpty, *gContiguous, *gCopy, *gDtypes, *gReport;
 PyObject *gOut, *gShift, *gAlpha;  // names of keywords
 
 struct Callable {
-  PyObject_HEAD VectorCall call;
+  PyObject ob_base;  // PyObject_HEAD
+  VectorCall call;
   const Operation* operation;
+  // By type, layout, whether there is a constant, whether in place: which of the operation's members, from 1; 0 is
+  // none.
+  short index[int(Type::t64fc) + 1][6][2][2];
 };
 
 const char* const kTypeNames[] = {"none",          "uint8",     "int8",      "uint16",  "int16",
@@ -274,11 +278,9 @@ Value byValue(Type type, const void* element) {
   return value;
 }
 
-const Member* find(const Operation& operation, Type type, int layout, bool constant, bool inPlace) {
-  for (const Member* m = kMembers + operation.first; m < kMembers + operation.first + operation.count; ++m)
-    if (m->type == type && m->layout == layout && (m->constant != Type::none) == constant && m->inPlace == inPlace)
-      return m;
-  return nullptr;
+const Member* find(const Callable& self, Type type, int layout, bool constant, bool inPlace) {
+  const int place = self.index[int(type)][layout][constant][inPlace];
+  return place ? kMembers + self.operation->first + place - 1 : nullptr;
 }
 
 std::string existing(const Operation& operation) {
@@ -293,7 +295,8 @@ std::string existing(const Operation& operation) {
   return list;
 }
 
-bool isConstant(PyObject* object) {
+bool isConstant(PyObject* object, PyObject* source) {
+  if (Py_TYPE(object) == Py_TYPE(source)) return false;
   if (PyLong_Check(object) || PyFloat_Check(object) || PyComplex_Check(object) || PyTuple_Check(object) ||
       PyList_Check(object))
     return true;
@@ -336,7 +339,7 @@ bool readOptions(const Operation& operation, PyObject* const* values, PyObject* 
     auto is = [&](PyObject* word) { return name == word || PyUnicode_Compare(name, word) == 0; };
     if (is(gOut)) {
       options->out = value == Py_None ? nullptr : value;
-    } else if (is(gShift) && std::strstr(operation.doc, "shift=0, alpha")) {
+    } else if (is(gShift) && operation.scaled) {
       const long shift = PyLong_AsLong(value);
       const bool failed = shift == -1 && PyErr_Occurred();
       if (failed && !PyErr_ExceptionMatches(PyExc_OverflowError)) return false;
@@ -360,7 +363,8 @@ bool readOptions(const Operation& operation, PyObject* const* values, PyObject* 
 }
 
 // Runs the operation, or with only asked, tells which function would run.
-PyObject* run(const Operation& op, PyObject* const* given, Py_ssize_t count, PyObject* names, bool onlyAsked) {
+PyObject* run(const Callable& self, PyObject* const* given, Py_ssize_t count, PyObject* names, bool onlyAsked) {
+  const Operation& op = *self.operation;
   Options options;
   if (count != op.sources) {
     PyErr_Format(PyExc_TypeError, "%s takes %d positional argument%s, not %zd", op.name, op.sources,
@@ -371,7 +375,7 @@ PyObject* run(const Operation& op, PyObject* const* given, Py_ssize_t count, PyO
 
   View a, b, out;
   if (!a.takeToRead(given[0], op.name)) return nullptr;
-  const bool constant = count == 2 && isConstant(given[1]);
+  const bool constant = count == 2 && isConstant(given[1], given[0]);
   if (count == 2 && !constant) {
     if (!b.takeToRead(given[1], op.name)) return nullptr;
     if (b.type != a.type) {
@@ -389,8 +393,8 @@ PyObject* run(const Operation& op, PyObject* const* given, Py_ssize_t count, PyO
     return nullptr;
   }
   const int layout = options.keepAlpha ? 5 : a.channels;
-  const Member* apart = find(op, a.type, layout, constant, false);
-  const Member* inPlace = find(op, a.type, layout, constant, true);
+  const Member* apart = find(self, a.type, layout, constant, false);
+  const Member* inPlace = find(self, a.type, layout, constant, true);
   if (!apart && !inPlace) {
     const std::string list = existing(op);
     PyErr_Format(PyExc_TypeError, "%s: no function for %s%s with %d channel%s%s; there are: %s", op.name,
@@ -512,14 +516,15 @@ PyObject* run(const Operation& op, PyObject* const* given, Py_ssize_t count, PyO
   return result;
 }
 
-const Operation& operationOf(PyObject* self) { return *reinterpret_cast<Callable*>(self)->operation; }
+const Callable& callable(PyObject* self) { return *reinterpret_cast<Callable*>(self); }
+const Operation& operationOf(PyObject* self) { return *callable(self).operation; }
 
 PyObject* vectorCall(PyObject* self, PyObject* const* given, size_t count, PyObject* names) {
-  return run(operationOf(self), given, Py_ssize_t(count & ~kArgumentsOffset), names, false);
+  return run(callable(self), given, Py_ssize_t(count & ~kArgumentsOffset), names, false);
 }
 
 PyObject* which(PyObject* self, PyObject* const* given, Py_ssize_t count, PyObject* names) {
-  return run(operationOf(self), given, count, names, true);
+  return run(callable(self), given, count, names, true);
 }
 
 PyObject* name(PyObject* self, void*) { return PyUnicode_FromString(operationOf(self).name); }
@@ -584,6 +589,10 @@ PyMODINIT_FUNC PyInit__hux() {
     if (!self) return nullptr;
     self->call = vectorCall;
     self->operation = &kOperations[i];
+    for (int k = 0; k < kOperations[i].count; ++k) {
+      const Member& m = kMembers[kOperations[i].first + k];
+      self->index[int(m.type)][m.layout][m.constant != Type::none][m.inPlace] = short(k + 1);
+    }
     PyTuple_SetItem(operations, i, reinterpret_cast<PyObject*>(self));
   }
   for (int i = 0; i < kStatusCount; ++i)

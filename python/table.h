@@ -24,7 +24,7 @@ struct Operation {
   const char* doc;
   int first, count;  // in kMembers
   int sources;
-  bool commutative;
+  bool commutative, scaled;
 };
 
 struct Status {
