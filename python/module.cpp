@@ -87,6 +87,8 @@ struct View {
     if (PyObject_GetBuffer(object, &buffer, written ? PyBUF_RECORDS : PyBUF_RECORDS_RO) < 0) {
       if (PyErr_ExceptionMatches(PyExc_TypeError))
         PyErr_Format(PyExc_TypeError, "%s: an array is expected, not %R", operation, object);
+      else if (PyErr_ExceptionMatches(PyExc_BufferError))
+        PyErr_Format(PyExc_ValueError, "%s: %R is read-only", operation, object);
       return false;
     }
     held = true;

@@ -4,6 +4,7 @@ import subprocess
 import sys
 import threading
 import warnings
+from random import Random
 
 import numpy as np
 import pytest
@@ -15,7 +16,7 @@ DTYPES = {"8u": np.uint8, "8s": np.int8, "16u": np.uint16, "16s": np.int16, "32u
           "32f": np.float32, "64f": np.float64, "16sc": hux.complex_int16, "32sc": hux.complex_int32,
           "32fc": np.complex64, "64fc": np.complex128}
 OPERATIONS = [value for value in vars(hux).values() if isinstance(value, hux.Operation)]
-warnings.simplefilter("ignore", hux.Warning)
+quiet = pytest.mark.filterwarnings("ignore::hux.Warning")
 
 
 def pixels(shape, dtype, seed):
@@ -59,6 +60,7 @@ def by_c(name, a, b, constants, out):
     return getattr(c, name)(*arguments)
 
 
+@quiet
 @pytest.mark.parametrize("operation", OPERATIONS, ids=lambda o: o.__name__)
 def test_every_member_has_the_bits_of_c(operation):
     for name in operation.members:
@@ -258,3 +260,48 @@ def test_reference():
     program = "from hux import *; print(abs(-1), add.__name__)"
     star = subprocess.run([sys.executable, "-c", program], capture_output=True, text=True, check=True)
     assert star.stdout.split() == ["1", "add"]
+
+
+def anything(random, memory, usual):
+    """Mostly an array somewhere in memory, laid out in some way, sometimes absurdly; else no array."""
+    if random.random() < 0.2:
+        return random.choice([7, -3, 1.5, 2 + 1j, (1, 2, 3), [1, 2, 3, 4], None, "x", b"abc", 10**40, float("nan"),
+                              np.float32(2), np.array(3), (None,) * 3, {}, bytearray(9), memoryview(b"abcdef")])
+    dtype = np.dtype(random.choice([*DTYPES.values(), np.uint8, np.int16, np.float32, np.int64, bool, ">i2", "S3"]))
+    shape = random.choice([(5, 7), (5, 7, 3), (5, 7, 4), (5, 7, 1), (7,), (0, 5), (5, 0), (1, 1), (2, 2, 2), ()])
+    if random.random() < 0.8:
+        dtype, shape = usual
+    array = np.ndarray(shape, dtype, memory, random.randrange(64))
+    if array.ndim > 1 and array.size:
+        strided = np.lib.stride_tricks.as_strided
+        array = random.choice([array] * 6 + [
+            array[::-1], array[:, ::-1], array[::2], array[:, ::2], array.T, array[1:, 1:], array[..., 0],
+            np.broadcast_to(array[:1], array.shape), strided(array, shape, (1,) * len(shape)),
+            strided(array, (1, *shape[1:]), (random.choice([0, -10**15, 10**15, 1]), *array.strides[1:]))])
+    return array
+
+
+@quiet
+def test_no_argument_crashes_or_writes_outside():
+    random, ran = Random(1), 0
+    for _ in range(5000):
+        memory = np.full(6000, 0xA5, np.uint8)
+        inside = memory[1000:5000]
+        usual = np.dtype(random.choice([np.uint8, np.int16, np.float32])), random.choice([(5, 7), (5, 7, 3), (5, 7, 4)])
+        arguments = [anything(random, inside, usual) for _ in range(random.choice([1, 2, 2, 2, 3]))]
+        if len(arguments) == 2 and random.random() < 0.5:
+            arguments[1] = arguments[0]
+        options = {}
+        if random.random() < 0.5:
+            options["out"] = random.choice([anything(random, inside, usual), arguments[0], arguments[-1]])
+        if random.random() < 0.3:
+            options["shift"] = random.choice([0, 1, -1, 40, 2**31 - 1, -2**31, 2**70, None, 1.5])
+        if random.random() < 0.2:
+            options["alpha"] = random.choice(["keep", None, "x", 3])
+        try:
+            random.choice(OPERATIONS)(*arguments, **options)
+            ran += 1
+        except (TypeError, ValueError, ZeroDivisionError):
+            pass
+        assert (memory[:1000] == 0xA5).all() and (memory[5000:] == 0xA5).all()
+    assert ran > 200  # the others were refused
