@@ -196,6 +196,7 @@ class ExtremeRows {
   // Of low windows so many rows are computed at once, without memory for what they have.
   static constexpr Index kInRegisters = 4, kLowest = 8;
   static constexpr Index kDirect = 6;  // the widest windows that are found in one pass
+  static_assert((kDirect - 1) * 4 <= kWidestMargin);
 
   // Strips of `count` elements; no more than mask.height rows at once.
   struct Shape {

@@ -55,7 +55,7 @@ struct SourceRow {
   const Element<T>* first;
   Index margin;
 };
-inline constexpr Index kWidestMargin = 16;
+inline constexpr Index kWidestMargin = 20;  // five pixels of four elements
 
 // body(rows, i) for vectors V at i that cover `count` elements, as coverRow does, with the starts of the source rows,
 // of which no more is read than told. Rows of less than a vector are seen as copies with readable memory behind them.
