@@ -1,6 +1,6 @@
 // Calls functions with whatever a string of bytes says: sizes, steps, enumerations, floats of all kinds, null pointers,
-// foreign records. Every operand lies against an unreadable page. What is found: accesses outside of operands, errors
-// that have written something, sources that have changed.
+// foreign and spoilt records. Every operand lies against an unreadable page. What is found: accesses outside of
+// operands, errors that have written something, records that are taken without their tag.
 //
 // With libFuzzer it is a target; without (HUX_FUZZ_ALONE) a program that goes through random strings:
 //   hux_fuzz SECONDS [FIRST]
@@ -100,6 +100,7 @@ class Fuzzer : public Caller {
       if (ways && !places) plan.broken[k] = broken, plan.how[k] = bytes_.below(ways);
     }
     if (plan.broken[0] == plan.broken[1]) plan.broken[1] = -1;
+    right_ = plan.broken[0] < 0 && plan.broken[1] < 0;
     Caller::run(function, plan);
     return true;
   }
@@ -218,10 +219,25 @@ class Fuzzer : public Caller {
   }
 
   HuxStatus invoke(const Function& function, const Value* arguments) override {
+    // In a call that is right, one record in eight has a bit of its tag turned, that is of its first word, and must be
+    // refused.
+    unsigned char* tag = nullptr;
+    const int turned = bytes_.below(8 * 32);
+    for (int i = 0; i < function.own && right_ && turned < 32; ++i) {
+      const Argument& argument = kArguments[function.firstArgument + i];
+      if (argument.kind == Kind::record && argument.judged && function.part != Part::init && arguments[i].p)
+        tag = static_cast<unsigned char*>(arguments[i].p) + turned / 8;
+    }
+    if (tag) *tag ^= static_cast<unsigned char>(1 << turned % 8);
     Digest before, after;
     memory().digest(before);
     const HuxStatus status = Caller::invoke(function, arguments);
     memory().digest(after);
+    if (tag) *tag ^= static_cast<unsigned char>(1 << turned % 8);
+    if (tag && status >= 0) {
+      std::fprintf(stderr, "%s takes a record without its tag\n", function.name);
+      std::abort();
+    }
     if (status < 0 && before.value() != after.value() && !function.errorsWrite) {
       std::fprintf(stderr, "%s returns %d and has written\n", function.name, status);
       std::abort();
@@ -230,6 +246,7 @@ class Fuzzer : public Caller {
   }
 
   Bytes bytes_;
+  bool right_ = true;  // none of the arguments has been broken
 };
 
 Pages pages;
