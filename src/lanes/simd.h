@@ -10,6 +10,8 @@
 
 #if defined(__SSE2__)
 #include <immintrin.h>
+#elif defined(__aarch64__)
+#include <arm_neon.h>
 #endif
 
 namespace hux::simd {
@@ -22,7 +24,7 @@ inline constexpr int kBytes = 16;
 #endif
 
 // Whether permuting bytes is one instruction and not a loop in disguise.
-#if defined(__SSSE3__) || defined(__ARM_NEON)
+#if defined(__SSSE3__) || defined(__aarch64__)
 inline constexpr bool kPermutes = true;
 #else
 inline constexpr bool kPermutes = false;
@@ -99,7 +101,7 @@ inline std::uint64_t nonZeroBytes(const void* p) {
     std::uint64_t word;
     std::memcpy(&word, static_cast<const std::byte*>(p) + 8 * i, sizeof word);
     // The top bit of each byte says that the byte is not 0; the product gathers the eight of them.
-    word = ((word & 0x7f7f7f7f7f7f7f7f) + 0x7f7f7f7f7f7f7f7f | word) & 0x8080808080808080;
+    word = (((word & 0x7f7f7f7f7f7f7f7f) + 0x7f7f7f7f7f7f7f7f) | word) & 0x8080808080808080;
     bits |= ((word >> 7) * 0x0102040810204080 >> 56) << (8 * i);
   }
   return bits;
@@ -203,6 +205,10 @@ inline Vec permuteBy(Vec a, Vec b, Vec index) {
   const Vec inA = Vec(index < kBytes);  // a shuffle clears bytes whose index has the top bit set
   return Vec(_mm_shuffle_epi8(__m128i(a), __m128i(index | ~inA))) |
          Vec(_mm_shuffle_epi8(__m128i(b), __m128i((index - kBytes) | inA)));
+}
+#elif defined(__aarch64__)
+inline Vec permuteBy(Vec a, Vec b, Vec index) {
+  return Vec(vqtbl2q_u8({{uint8x16_t(a), uint8x16_t(b)}}, uint8x16_t(index)));
 }
 #else
 inline Vec permuteBy(Vec a, Vec b, Vec index) {

@@ -17,7 +17,7 @@ inline constexpr int kWindowBytes = 16;
 inline constexpr int kWindows = kLaneBytes / kWindowBytes;
 
 // Whether picking is one instruction. Where it is not, tables of windows are not worth their making.
-#if defined(__SSSE3__)
+#if defined(__SSSE3__) || defined(__aarch64__)
 inline constexpr bool kPicks = kLaneBytes == 16 || kLaneBytes == 32 || kLaneBytes == 64;
 #else
 inline constexpr bool kPicks = false;
@@ -47,6 +47,8 @@ inline WindowBytes pickBytes(WindowBytes windows, WindowBytes pick) {
   return WindowBytes(_mm256_shuffle_epi8(__m256i(windows), __m256i(pick)));
 #elif defined(__SSSE3__)
   return WindowBytes(_mm_shuffle_epi8(__m128i(windows), __m128i(pick)));
+#elif defined(__aarch64__)
+  return WindowBytes(vqtbl1q_u8(uint8x16_t(windows), uint8x16_t(pick)));
 #else
   WindowBytes v{};
   for (int j = 0; j < kLaneBytes; ++j) v[j] = pick[j] & 0x80 ? 0 : windows[j / 16 * 16 + pick[j] % 16];
@@ -110,6 +112,14 @@ HUX_PACKS(32, __m256i, _mm256)
 HUX_PACKS(16, __m128i, _mm)
 #endif
 #undef HUX_PACKS
+#if defined(__aarch64__)
+inline auto packWords(Lanes<Hux32s, 4> a, Lanes<Hux32s, 4> b) {
+  return Lanes<Hux16s, 8>(vqmovn_high_s32(vqmovn_s32(int32x4_t(a)), int32x4_t(b)));
+}
+inline auto packBytes(Lanes<Hux16s, 8> a, Lanes<Hux16s, 8> b) {
+  return Lanes<Hux8u, 16>(vqmovun_high_s16(vqmovun_s16(int16x8_t(a)), int16x8_t(b)));
+}
+#endif
 
 // Undoes the order that packing K vectors leaves: runs of 16 / K bytes, window by window.
 template <int K, class V>
