@@ -35,6 +35,7 @@ function(hux_add_objects name arch)
     add_library(${name}_${part} OBJECT ${HUX_${list}_SOURCES})
     target_include_directories(${name}_${part} PRIVATE ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/src)
     target_compile_options(${name}_${part} PRIVATE ${HUX_LIBRARY_FLAGS} $<$<BOOL:${arch}>:-march=${arch}>)
+    target_compile_definitions(${name}_${part} PRIVATE $<$<PLATFORM_ID:Windows>:HUX_BUILDS_${list}>)
     target_link_libraries(${name}_${part} PRIVATE hux_build_flags hux_sanitizers hux_threads)
     set_target_properties(${name}_${part} PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden
                                                      VISIBILITY_INLINES_HIDDEN ON)
@@ -57,9 +58,11 @@ function(hux_add_libraries name objects)
                                                            $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
     # A template's inline helpers may come out as weak symbols of the standard library; only our names leave the library.
     # They have a version, as the soname does: where two libraries of different majors meet in a process, each call goes
-    # to the one that it was linked with.
-    target_link_options(${name}${library} PRIVATE LINKER:--version-script=${PROJECT_BINARY_DIR}/exports.map
-                                                  LINKER:--no-undefined)
-    set_target_properties(${name}${library} PROPERTIES LINK_DEPENDS ${PROJECT_BINARY_DIR}/exports.map)
+    # to the one that it was linked with. (On Windows a library exports what is marked and no more, and has no versions.)
+    if(NOT WIN32)
+      target_link_options(${name}${library} PRIVATE LINKER:--version-script=${PROJECT_BINARY_DIR}/exports.map
+                                                    LINKER:--no-undefined)
+      set_target_properties(${name}${library} PROPERTIES LINK_DEPENDS ${PROJECT_BINARY_DIR}/exports.map)
+    endif()
   endforeach()
 endfunction()

@@ -12,8 +12,28 @@
 #define HUX_END_C
 #endif
 
+/* What libhuxi and libhuxcore export. On Windows a program imports it, and a library exports its own where it is built.
+ */
+#ifndef _WIN32
+#define HUX_EXPORT __attribute__((visibility("default")))
+#define HUX_IMPORT HUX_EXPORT
+#else
+#define HUX_EXPORT __declspec(dllexport)
+#define HUX_IMPORT __declspec(dllimport)
+#endif
 #ifndef HUX_API
-#define HUX_API __attribute__((visibility("default")))
+#ifdef HUX_BUILDS_IMAGES
+#define HUX_API HUX_EXPORT
+#else
+#define HUX_API HUX_IMPORT
+#endif
+#endif
+#ifndef HUX_CORE_API
+#ifdef HUX_BUILDS_CORE
+#define HUX_CORE_API HUX_EXPORT
+#else
+#define HUX_CORE_API HUX_IMPORT
+#endif
 #endif
 
 HUX_BEGIN_C

@@ -12,7 +12,8 @@
 #ifdef _OPENMP
 #include <omp.h>
 #endif
-#if defined _OPENMP && __has_include(<pthread.h>)
+#if defined _OPENMP && !defined _WIN32 && __has_include(<pthread.h>)
+#define HUX_FORKS
 #include <pthread.h>
 #endif
 #if __has_include(<sys/single_threaded.h>)
@@ -36,7 +37,7 @@ int requestedTeam(int most = kMostThreads) {
 
 // A fork takes along the thread that called it and no other, but the runtime of a child may wait for the team that it
 // remembers. So the teams of a child have one thread, unless its parent had only one as well.
-#if defined _OPENMP && __has_include(<pthread.h>)
+#ifdef HUX_FORKS
 bool childAlone = false, severalAtFork = true;
 void beforeFork() {
 #if __has_include(<sys/single_threaded.h>)

@@ -178,7 +178,7 @@ class PublicHeaders(unittest.TestCase):
         registry = json.loads(run().stdout)
         names = [f["name"] for f in registry["functions"]]
         self.assertEqual(len(names), len(set(names)))
-        declared = subprocess.run(f"cat {ROOT}/include/*.h | grep -c '^HUX_API '", shell=True, capture_output=True,
+        declared = subprocess.run(f"cat {ROOT}/include/*.h | grep -cE '^HUX_(CORE_)?API '", shell=True, capture_output=True,
                                   text=True)
         self.assertEqual(len(names), int(declared.stdout))
         for function in registry["functions"]:

@@ -1,6 +1,8 @@
 #include "about.h"
 
-#if defined(__unix__) || defined(__APPLE__)
+#if defined(_WIN32)
+#include <windows.h>
+#elif defined(__unix__) || defined(__APPLE__)
 #include <dlfcn.h>
 #endif
 
@@ -31,7 +33,15 @@ std::string processor() {
 }
 
 std::string loaded() {
-#if defined(__unix__) || defined(__APPLE__)
+#if defined(_WIN32)
+  HMODULE module;
+  char name[MAX_PATH];
+  // The start of its version's record lies in the library; a function's address may be that of a way there.
+  if (GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                         reinterpret_cast<const char*>(huxiGetLibVersion()), &module) &&
+      GetModuleFileNameA(module, name, sizeof name))
+    return name;
+#elif defined(__unix__) || defined(__APPLE__)
   Dl_info info;
   if (dladdr(reinterpret_cast<void*>(&huxiGetLibVersion), &info) && info.dli_fname)
     return std::filesystem::weakly_canonical(info.dli_fname).string();
