@@ -227,8 +227,8 @@ def resolve(registry):
     families = {f["name"] for f in registry["families"]}
     for rule in resolver.rules["family"]:
         for name in rule["names"]:
-            if name not in families and not rule.get("coming"):
-                print(f"rules: no family {name} in the headers", file=sys.stderr)
+            if name not in families:
+                sys.exit(f"rules: no family {name} in the headers")
     resolved = {}
     for function in registry["functions"]:
         try:
