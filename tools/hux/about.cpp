@@ -32,15 +32,20 @@ std::string processor() {
 #endif
 }
 
+#if defined(_WIN32)
+std::string fileOf(HMODULE module) {
+  char name[MAX_PATH];
+  return GetModuleFileNameA(module, name, sizeof name) ? name : "unknown";
+}
+#endif
+
 std::string loaded() {
 #if defined(_WIN32)
   HMODULE module;
-  char name[MAX_PATH];
   // The start of its version's record lies in the library; a function's address may be that of a way there.
   if (GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                         reinterpret_cast<const char*>(huxiGetLibVersion()), &module) &&
-      GetModuleFileNameA(module, name, sizeof name))
-    return name;
+                         reinterpret_cast<const char*>(huxiGetLibVersion()), &module))
+    return fileOf(module);
 #elif defined(__unix__) || defined(__APPLE__)
   Dl_info info;
   if (dladdr(reinterpret_cast<void*>(&huxiGetLibVersion), &info) && info.dli_fname)
@@ -57,10 +62,14 @@ std::string about() {
          processor() + "\n  threads    " + std::to_string(huxGetThreadCount()) + "\n";
 }
 
-std::string listOfDigests(const char* program) {
+std::string listOfDigests([[maybe_unused]] const char* program) {
   std::error_code error;
+#if defined(_WIN32)
+  const std::filesystem::path place = fileOf(nullptr);
+#else
   const std::filesystem::path linked = std::filesystem::read_symlink("/proc/self/exe", error);
   const std::filesystem::path place = error ? std::filesystem::absolute(program, error) : linked;
+#endif
   const std::filesystem::path list = place.parent_path().parent_path() / "share" / "hux" / "digests.txt";
   if (std::filesystem::exists(list, error)) return list.string();
   return HUX_DIGESTS;
