@@ -9,7 +9,7 @@ namespace hux {
 
 template <class V>
 int lanesThatHold(V comparison) {
-  constexpr int laneBytes = int(sizeof(LaneType<V>));
+  [[maybe_unused]] constexpr int laneBytes = int(sizeof(LaneType<V>));
   if constexpr (sizeof(V) > std::size_t(kLaneBytes)) {
     struct Halves {
       Lanes<LaneType<V>, lanesIn<V> / 2> low, high;
