@@ -7,12 +7,12 @@
 #include <limits>
 
 #include "core/stamp.h"
-#include "filter/blocks.h"
 #include "huxi_arith.h"
 #include "huxi_filter.h"
 #include "huxi_pixel.h"
 #include "workers/channels.h"
 #include "workers/convert.h"
+#include "workers/fft/blocks.h"
 #include "workers/taps_sum.h"
 
 namespace hux {
@@ -85,11 +85,9 @@ struct Division {
 };
 // At least twice the smaller image; four times, where the result is as large, up to 256.
 Division divided(Index small, Index result) {
-  int n = 1;
-  while (Index(1) << n < 2 * small) ++n;
-  if (n < 8 && Index(1) << n < result) ++n;
-  const Index step = (Index(1) << n) - small + 1;
-  return {n, step, (result + step - 1) / step};
+  const int order = fft::blockOrder(small, result, 8);
+  const Index step = (Index(1) << order) - small + 1;
+  return {order, step, (result + step - 1) / step};
 }
 
 // Of one block, along one axis: the results, where its pixels begin and how many there are, and how many results wrap
@@ -126,12 +124,9 @@ auto linesTo(Rows<T> dst, Part x, Part y, Rule rule) {
 constexpr Index kFloatBytes = sizeof(Hux32f);
 Hux32f* floatsAt(std::byte* memory) { return reinterpret_cast<Hux32f*>(memory); }
 
-HuxStatus orders(int x, int y) { return failUnless(std::max(x, y) <= fft::kMostOrder, huxStsBadOrder); }
-
 template <class T>
 HuxStatus convBlocks(Image<T> big, Image<T> small, Rows<T> dst, Extent result, bool valid, Ending<T> ending) {
   const Division across = divided(small.size.width, result.width), down = divided(small.size.height, result.height);
-  if (HuxStatus s = orders(across.order, down.order)) return s;
   const Blocks blocks(across.order, down.order);
   if (HuxStatus s = blocks.status()) return s;
   const Index spectrum = blocks.spectrumFloats(), own = blocks.blockFloats() + blocks.roomFloats();
@@ -142,7 +137,7 @@ HuxStatus convBlocks(Image<T> big, Image<T> small, Rows<T> dst, Extent result, b
         Hux32f *factor = floatsAt(shared), *block = factor + spectrum;
         const Index rows = small.size.height;
         blocks.rowsForward(rows, linesOf(small, 0, 0, small.size.width, blocks), block, slice(block));
-        blocks.columnsForward(rows, block, factor, slice(block));
+        blocks.columnsForward({0, rows}, block, factor, false, slice(block));
         tiles = across.count * down.count;
         return huxStsOk;
       },
@@ -153,7 +148,7 @@ HuxStatus convBlocks(Image<T> big, Image<T> small, Rows<T> dst, Extent result, b
         const Blocks::Room room = slice(block);
         const RowRange results{y.skip, y.count};
         blocks.rowsForward(y.pixels, linesOf(big, x.from, y.from, x.pixels, blocks), block, room);
-        blocks.columnsThrough(y.pixels, block, floatsAt(shared), results, room);
+        blocks.columnsThrough({0, y.pixels}, block, floatsAt(shared), results, room);
         blocks.rowsInverse(block, results, linesTo(dst, x, y, ending.ofTransform()), room);
         return huxStsOk;
       });
@@ -161,18 +156,10 @@ HuxStatus convBlocks(Image<T> big, Image<T> small, Rows<T> dst, Extent result, b
 
 // --- By the spectra of both.
 
-int orderOf(Index size) {
-  int n = 1;
-  while (Index(1) << n < size) ++n;
-  return n;
-}
-
 // The two images are transformed side by side; columns and rows of the product are shared out.
 template <class T>
 HuxStatus convWhole(Image<T> big, Image<T> small, Rows<T> dst, Extent result, Ending<T> ending) {
-  const int orderX = orderOf(result.width), orderY = orderOf(result.height);
-  if (HuxStatus s = orders(orderX, orderY)) return s;
-  const Blocks blocks(orderX, orderY);
+  const Blocks blocks(fft::orderOf(result.width), fft::orderOf(result.height));
   if (HuxStatus s = blocks.status()) return s;
   const Index block = blocks.blockFloats(), own = blocks.spectrumFloats() + block;
   const Scratch<Hux32f> memory(2 * own + kAlignment);
@@ -188,7 +175,7 @@ HuxStatus convWhole(Image<T> big, Image<T> small, Rows<T> dst, Extent result, En
     Hux32f *rows = images + tile * own, *spectrum = rows + block;
     blocks.rowsForward(image.size.height, linesOf(image, 0, 0, image.size.width, blocks), rows,
                        blocks.room(floatsAt(slice)));
-    blocks.columnsForward(image.size.height, rows, spectrum, blocks.room(floatsAt(slice)));
+    blocks.columnsForward({0, image.size.height}, rows, spectrum, false, blocks.room(floatsAt(slice)));
     return huxStsOk;
   });
   if (status) return status;

@@ -15,7 +15,7 @@
 #include "huxi_stats.h"
 #include "stats/windows.h"
 #include "workers/convert.h"
-#include "workers/tiles.h"
+#include "workers/fft/blocks.h"
 
 namespace hux {
 namespace {
@@ -90,23 +90,21 @@ Axis axisOf(Extent extent, Index image, Index tpl) {
   Axis axis = extent == Extent::full   ? Axis{1 - tpl, image + tpl - 1, 0}
               : extent == Extent::same ? Axis{-(tpl >> 1), image, 0}
                                        : Axis{0, image - tpl + 1, 0};
-  axis.order = blockOrder(tpl, axis.result, 7);
+  axis.order = fft::blockOrder(tpl, axis.result, 7);
   return axis;
 }
 
 // Places of results, and the pixels that their windows see.
 struct Grid {
-  Extent extent;
   Axis x, y;
   Index width, height, across, down;  // of a tile, and numbers of tiles
   Index columns, rows;                // of a block in memory
 
-  Grid(Extent e, HuxiSize image, HuxiSize tpl)
-      : extent(e), x(axisOf(e, image.width, tpl.width)), y(axisOf(e, image.height, tpl.height)) {}
-
   // A full result that fits a block is one tile, though its windows reach beyond the block: what they see there are the
   // zeros around the image, in sums of products by way of the block's other end.
-  void cut(Index blockWidth, Index blockHeight, HuxiSize tpl) {
+  Grid(Extent extent, HuxiSize image, HuxiSize tpl)
+      : x(axisOf(extent, image.width, tpl.width)), y(axisOf(extent, image.height, tpl.height)) {
+    const Index blockWidth = Index(1) << x.order, blockHeight = Index(1) << y.order;
     const bool whole = extent == Extent::full && blockWidth >= x.result && blockHeight >= y.result;
     width = whole ? x.result : blockWidth - tpl.width + 1;
     height = whole ? y.result : blockHeight - tpl.height + 1;
@@ -182,12 +180,11 @@ class Matcher {
         tpl_(tpl),
         dst_(dst),
         factor_(factor),
-        grid_(extent, src.size, tpl.size) {}
+        grid_(extent, src.size, tpl.size),
+        blocks_(grid_.x.order, grid_.y.order, grid_.columns) {}
 
   HuxStatus run() {
-    if (HuxStatus s = blocks_.make(grid_.x.order, grid_.y.order)) return s;
-    grid_.cut(blocks_.width(), blocks_.height(), tpl_.size);
-    step_ = blocks_.step(grid_.columns);
+    if (HuxStatus s = blocks_.status()) return s;
     const TilePool pool = {spectraBytes() + sliceBytes(), sliceBytes()};
     const auto prepared = [&](std::byte* shared, Index& tiles) {
       prepare(shared);
@@ -217,38 +214,41 @@ class Matcher {
   // Memory of one tile.
   struct Slice {
     Hux32f *block, *energies;
-    Hux64f* room;
-    std::byte* work;
+    Hux64f* sums;
+    fft::Blocks::Room room;
   };
   Index energyStep() const { return (grid_.width + 15) / 16 * 16; }
-  std::size_t blockBytes() const { return roundedUp(std::size_t(step_ * grid_.rows) * sizeof(Hux32f), kLine); }
-  std::size_t energyBytes() const {
-    return roundedUp(std::size_t(energyStep() * grid_.height) * sizeof(Hux32f), kLine);
-  }
-  std::size_t roomBytes() const { return roundedUp(std::size_t(windowRoom(grid_.width)) * sizeof(Hux64f), kLine); }
-  std::size_t sliceBytes() const {
-    return blockBytes() + energyBytes() + roomBytes() + roundedUp(blocks_.workBytes(), kLine);
-  }
-  std::size_t spectraBytes() const {
-    return roundedUp(std::size_t(pixels_.processed * blocks_.spectrumFloats()) * sizeof(Hux32f), kLine);
-  }
+  static std::size_t floats(Index count) { return roundedUp(std::size_t(count) * sizeof(Hux32f), kLine); }
+  std::size_t blockBytes() const { return floats(blocks_.step() * grid_.rows); }
+  std::size_t energyBytes() const { return floats(energyStep() * grid_.height); }
+  std::size_t sumBytes() const { return floats(2 * windowRoom(grid_.width)); }
+  std::size_t sliceBytes() const { return blockBytes() + energyBytes() + sumBytes() + floats(blocks_.roomFloats()); }
+  std::size_t spectraBytes() const { return floats(pixels_.processed * blocks_.spectrumFloats()); }
   Slice sliceAt(std::byte* memory) const {
-    std::byte *energies = memory + blockBytes(), *room = energies + energyBytes();
-    return {reinterpret_cast<Hux32f*>(memory), reinterpret_cast<Hux32f*>(energies), reinterpret_cast<Hux64f*>(room),
-            room + roomBytes()};
+    std::byte *energies = memory + blockBytes(), *sums = energies + energyBytes(), *room = sums + sumBytes();
+    return {reinterpret_cast<Hux32f*>(memory), reinterpret_cast<Hux32f*>(energies), reinterpret_cast<Hux64f*>(sums),
+            blocks_.room(reinterpret_cast<Hux32f*>(room))};
   }
 
   // Brings a rectangle of a channel to (left, top) of a block of zeros.
   void bringBlock(const Source& image, Index c, HuxiRect from, Index left, Index top, Hux32f* block) const {
     const auto zero = [](Hux32f* first, Hux32f* last) { std::fill(first, last, 0.0f); };
-    zero(block, block + top * step_);
+    const Index step = blocks_.step();
+    zero(block, block + top * step);
     for (Index y = 0; y < from.height; ++y) {
-      Hux32f* row = block + (top + y) * step_;
+      Hux32f* row = block + (top + y) * step;
       zero(row, row + left);
       pixels_.bring(image.at(from.x, from.y + y, c, pixels_.channels, pixels_.bytes), from.width, row + left);
-      zero(row + left + from.width, row + step_);
+      zero(row + left + from.width, row + step);
     }
-    zero(block + (top + from.height) * step_, block + grid_.rows * step_);
+    zero(block + (top + from.height) * step, block + grid_.rows * step);
+  }
+  // The rows of a block that are not zeros alone.
+  void rowsForward(RowRange rows, const Slice& slice) const {
+    for (Index y = rows.first; y < rows.first + rows.count; ++y) {
+      Hux32f* row = slice.block + y * blocks_.step();
+      blocks_.rowForward(row, row, slice.room);
+    }
   }
 
   void prepare(std::byte* shared) {
@@ -268,8 +268,9 @@ class Matcher {
       bringBlock(tpl_, c, {0, 0, tpl_.size.width, tpl_.size.height}, 0, 0, slice.block);
       if (measure_ == Measure::level)
         for (Index y = 0; y < height; ++y)
-          for (Index x = 0; x < width; ++x) slice.block[y * step_ + x] -= Hux32f(mean[c]);
-      blocks_.spectrumOf(slice.block, step_, spectra + c * blocks_.spectrumFloats(), true, slice.work);
+          for (Index x = 0; x < width; ++x) slice.block[y * blocks_.step() + x] -= Hux32f(mean[c]);
+      rowsForward({0, height}, slice);
+      blocks_.columnsForward({0, height}, slice.block, spectra + c * blocks_.spectrumFloats(), true, slice.room);
     }
   }
 
@@ -283,18 +284,20 @@ class Matcher {
     const HuxiRect seen = {int(left + outX), int(top + outY),
                            int(std::min(src_.size.width - left, blocks_.width()) - outX),
                            int(std::min(src_.size.height - top, blocks_.height()) - outY)};
-    const Windows windows = {slice.block, step_, tpl_.size.width, tpl_.size.height, width, height};
+    const RowRange given{outY, seen.height};
+    const Windows windows = {slice.block, blocks_.step(), tpl_.size.width, tpl_.size.height, width, height};
     for (Index c = 0; c < pixels_.processed; ++c) {
       bringBlock(src_, c, seen, outX, outY, slice.block);
       if (measure_ == Measure::level)
-        windowVariances(windows, 1.0f / Hux32f(area(tpl_.size)), slice.energies, energyStep(), slice.room);
+        windowVariances(windows, 1.0f / Hux32f(area(tpl_.size)), slice.energies, energyStep(), slice.sums);
       else
-        windowEnergies(windows, slice.energies, energyStep(), slice.room);
-      blocks_.multiply(slice.block, step_, reinterpret_cast<const Hux32f*>(shared) + c * blocks_.spectrumFloats(),
-                       slice.work);
+        windowEnergies(windows, slice.energies, energyStep(), slice.sums);
+      rowsForward(given, slice);
+      blocks_.columnsThrough(given, slice.block, reinterpret_cast<const Hux32f*>(shared) + c * blocks_.spectrumFloats(),
+                             {0, height}, slice.room);
       for (Index row = 0; row < height; ++row) {
-        Hux32f* sums = slice.block + row * step_;
-        blocks_.finish(sums, slice.work);
+        Hux32f* sums = slice.block + row * blocks_.step();
+        blocks_.rowInverse(sums, sums, slice.room);
         divideRow(measure_, sums, slice.energies + row * energyStep(), width, terms_[c], pixels_.floor);
         pixels_.put(sums, width, dst_.at(x, y + row, c, pixels_.channels, pixels_.resultBytes));
       }
@@ -307,8 +310,7 @@ class Matcher {
   Result dst_;
   Hux32f factor_;
   Grid grid_;
-  Blocks blocks_;
-  Index step_ = 0;
+  fft::Blocks blocks_;
   Terms terms_[4];
 };
 
