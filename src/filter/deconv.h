@@ -126,4 +126,25 @@ void widen(Kernel kernel, HuxiSize size, Pixel pixel, Put put, Hux32f* sums) {
   }
 }
 
+// A state releases what it holds outside of its record.
+template <class State>
+HuxStatus freeState(State* pState) {
+  if (HuxStatus s = check(pointers(pState))) return s;
+  pState->releaseParts();
+  release(pState);
+  return huxStsOk;
+}
+
 }  // namespace hux::deconv
+
+// The names of a family, whose initAlloc is told what limits the region and whose deconv may be told one thing more.
+#define HUX_EXPORT_DECONV(family, l, Most, most, parameter, argument)                                                \
+  HuxStatus huxi##family##InitAlloc_32f_##l##R(Huxi##family##State** ppState, const Hux32f* pKernel, int kernelSize, \
+                                               Most most, Hux32f threshold) {                                        \
+    return hux::initAlloc<hux::l>(ppState, pKernel, kernelSize, most, threshold);                                    \
+  }                                                                                                                  \
+  HuxStatus huxi##family##_32f_##l##R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep,                    \
+                                      HuxiSize roiSize HUX_LIST parameter, Huxi##family##State* pState) {            \
+    return hux::restore<hux::l>(pSrc, srcStep, pDst, dstStep, roiSize HUX_LIST argument, pState);                    \
+  }                                                                                                                  \
+  HuxStatus huxi##family##Free_32f_##l##R(Huxi##family##State* pState) { return hux::deconv::freeState(pState); }

@@ -19,6 +19,7 @@ struct HuxiDeconvFFTState {
   hux::Index mostWidth() const { return fftSize; }
   hux::Index mostHeight() const { return fftSize; }
   hux::Index numbers() const { return hux::Index(fftSize) * fftSize; }
+  void releaseParts() { huxiFFTFree_C_32fc(context); }
 };
 
 namespace hux {
@@ -94,7 +95,7 @@ HuxStatus initAlloc(State** ppState, const Hux32f* pKernel, int kernelSize, int 
 }
 
 template <class L>
-HuxStatus deconvFFT(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roi, State* pState) {
+HuxStatus restore(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roi, State* pState) {
   if (HuxStatus s = deconv::checked<L>(pSrc, srcStep, pDst, dstStep, roi, pState)) return s;
   const auto src = rows<L>(pSrc, srcStep);
   const auto dst = rows<L>(pDst, dstStep);
@@ -117,24 +118,8 @@ HuxStatus deconvFFT(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, 
   return huxStsOk;
 }
 
-HuxStatus freeState(State* pState) {
-  if (HuxStatus s = check(pointers(pState))) return s;
-  huxiFFTFree_C_32fc(pState->context);
-  release(pState);
-  return huxStsOk;
-}
-
 }  // namespace
 }  // namespace hux
 
-#define EXPORT(t, l)                                                                                                 \
-  HuxStatus huxiDeconvFFTInitAlloc_##t##_##l##R(HuxiDeconvFFTState** ppState, const Hux32f* pKernel, int kernelSize, \
-                                                int FFTorder, Hux32f threshold) {                                    \
-    return hux::initAlloc<hux::l>(ppState, pKernel, kernelSize, FFTorder, threshold);                                \
-  }                                                                                                                  \
-  HuxStatus huxiDeconvFFT_##t##_##l##R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize, \
-                                       HuxiDeconvFFTState* pState) {                                                 \
-    return hux::deconvFFT<hux::l>(pSrc, srcStep, pDst, dstStep, roiSize, pState);                                    \
-  }                                                                                                                  \
-  HuxStatus huxiDeconvFFTFree_##t##_##l##R(HuxiDeconvFFTState* pState) { return hux::freeState(pState); }
-HUX_STAMP(EXPORT, (32f), (C1, C3))
+#define EXPORT(_, l) HUX_EXPORT_DECONV(DeconvFFT, l, int, FFTorder, (), ())
+HUX_STAMP(EXPORT, (_), (C1, C3))

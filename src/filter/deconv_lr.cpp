@@ -18,6 +18,7 @@ struct HuxiDeconvLRState {
   hux::Index stride() const { return hux::Index(kernelSize) + maxWidth; }
   hux::Index guard() const { return stride() + 1; }
   hux::Index floats() const { return guard() + stride() * (hux::Index(kernelSize) + maxHeight); }
+  void releaseParts() {}
 };
 
 namespace hux {
@@ -67,8 +68,8 @@ void filter(const Hux32f* src, Hux32f* dst, Index stride, HuxiSize size, const H
 }
 
 template <class L>
-HuxStatus deconvLR(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roi, int numIter,
-                   State* pState) {
+HuxStatus restore(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roi, int numIter,
+                  State* pState) {
   if (HuxStatus s =
           check(deconv::checked<L>(pSrc, srcStep, pDst, dstStep, roi, pState), failUnless(numIter >= 1, huxStsBadArg)))
     return s;
@@ -111,23 +112,8 @@ HuxStatus deconvLR(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, H
   return huxStsOk;
 }
 
-HuxStatus freeState(State* pState) {
-  if (HuxStatus s = check(pointers(pState))) return s;
-  release(pState);
-  return huxStsOk;
-}
-
 }  // namespace
 }  // namespace hux
 
-#define EXPORT(t, l)                                                                                                \
-  HuxStatus huxiDeconvLRInitAlloc_##t##_##l##R(HuxiDeconvLRState** ppState, const Hux32f* pKernel, int kernelSize,  \
-                                               HuxiSize maxRoiSize, Hux32f threshold) {                             \
-    return hux::initAlloc<hux::l>(ppState, pKernel, kernelSize, maxRoiSize, threshold);                             \
-  }                                                                                                                 \
-  HuxStatus huxiDeconvLR_##t##_##l##R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize, \
-                                      int numIter, HuxiDeconvLRState* pState) {                                     \
-    return hux::deconvLR<hux::l>(pSrc, srcStep, pDst, dstStep, roiSize, numIter, pState);                           \
-  }                                                                                                                 \
-  HuxStatus huxiDeconvLRFree_##t##_##l##R(HuxiDeconvLRState* pState) { return hux::freeState(pState); }
-HUX_STAMP(EXPORT, (32f), (C1, C3))
+#define EXPORT(_, l) HUX_EXPORT_DECONV(DeconvLR, l, HuxiSize, maxRoiSize, (, int numIter), (, numIter))
+HUX_STAMP(EXPORT, (_), (C1, C3))

@@ -5,7 +5,7 @@
 #include "filter/windows.h"
 #include "huxcore.h"
 #include "huxi_filter.h"
-#include "huxi_transform.h"
+#include "support/plane.h"
 
 namespace hux::test {
 namespace {
@@ -22,28 +22,9 @@ std::vector<Member> members() {
   return { HUX_STAMP(BOTH, (8u, 16s, 32f), (C1, C3, AC4)) };
 }
 
-// One channel of an image.
-template <class T>
-struct Plane {
-  int w, h;
-  std::vector<T> pixels;
-
-  Plane(int width, int height) : w(width), h(height), pixels(std::size_t(width) * std::size_t(height)) {}
-  T& at(int x, int y) { return pixels[std::size_t(y) * std::size_t(w) + std::size_t(x)]; }
-  T at(int x, int y) const { return const_cast<Plane*>(this)->at(x, y); }
-  int area() const { return w * h; }
-  HuxiSize size() const { return {w, h}; }
-};
-using Floats = Plane<Hux32f>;
-
 template <class T>
 double limited(double v) {
   return std::clamp(v, double(std::numeric_limits<T>::lowest()), double(std::numeric_limits<T>::max()));
-}
-int power(int least) {
-  int n = 1;
-  while (1 << n < least) ++n;
-  return n;
 }
 
 // A channel of a result.
@@ -68,7 +49,7 @@ struct Expected {
     else if (!valid && (out.area() < 1705 || small.area() < 121))
       sums();
     else if (!valid && big.area() <= 7 * small.area())
-      transforms(power(out.w), power(out.h), out.w, out.h);
+      transforms(orderOf(out.w), orderOf(out.h), out.w, out.h);
     else
       blocks();
     if (std::isfinite(norm(big) * norm(small))) near();
@@ -103,37 +84,20 @@ struct Expected {
   }
 
   void blocks() {
-    const auto order = [](int side, int most) {
-      const int n = power(2 * side);
-      return n < 8 && 1 << n < most ? n + 1 : n;
-    };
-    const int x = order(small.w, out.w), y = order(small.h, out.h);
+    const int x = blockOrder(small.w, out.w, 8), y = blockOrder(small.h, out.h, 8);
     transforms(x, y, (1 << x) - small.w + 1, (1 << y) - small.h + 1);
   }
   void transforms(int orderX, int orderY, int stepX, int stepY) {
-    const HuxiSize size = {1 << orderX, 1 << orderY};
-    HuxiFFTRecord* context = nullptr;
-    ASSERT_EQ(huxiFFTInitAlloc_R_32f(&context, orderX, orderY, huxFftScaleInv, huxHintNone), huxStsOk);
-    const auto spectrum = [&](const Plane<T>& p, HuxiRect part) {
-      Floats block(size.width, size.height);
-      forPixels({part.width, part.height},
-                [&](int x, int y) { block.at(x, y) = Hux32f(p.at(part.x + x, part.y + y)); });
-      huxiFFTFwd_RToPack_32f_C1IR(block.pixels.data(), 4 * size.width, context, nullptr);
-      return block;
-    };
-    const Floats factor = spectrum(small, {0, 0, small.w, small.h});
+    const Spectrum<T> spectrum(orderX, orderY, small, false);
     for (int y0 = 0; y0 < out.h; y0 += stepY)
       for (int x0 = 0; x0 < out.w; x0 += stepX) {
         const int left = valid || x0 ? small.w - 1 : 0, top = valid || y0 ? small.h - 1 : 0;
         const int x = valid ? x0 : x0 - left, y = valid ? y0 : y0 - top;
-        Floats block = spectrum(
+        const Floats block = spectrum.through(
             big, {x, y, std::min({big.w, big.w - x, stepX + left}), std::min({big.h, big.h - y, stepY + top})});
-        huxiMulPack_32f_C1IR(factor.pixels.data(), 4 * size.width, block.pixels.data(), 4 * size.width, size);
-        huxiFFTInv_PackToR_32f_C1IR(block.pixels.data(), 4 * size.width, context, nullptr);
         forPixels({std::min(stepX, out.w - x0), std::min(stepY, out.h - y0)},
                   [&](int u, int v) { out.at(x0 + u, y0 + v) = nearestEven(block.at(left + u, top + v)); });
       }
-    huxiFFTFree_R_32f(context);
   }
 
   void filter() {

@@ -3,30 +3,19 @@
 #include <limits>
 
 #include "huxi_filter.h"
-#include "huxi_transform.h"
 #include "support/failing_malloc.h"
 #include "support/forms.h"
+#include "support/plane.h"
 
 namespace hux::test {
 namespace {
 
-using Floats = std::vector<Hux32f>;
-
-// One channel, with zeros around.
-struct Plane {
-  int w, h;
-  Floats values;
-
-  Plane(int width, int height) : w(width), h(height), values(std::size_t(width) * std::size_t(height)) {}
-  HuxiSize size() const { return {w, h}; }
-  Hux32f& at(int x, int y) { return values[std::size_t(y) * std::size_t(w) + std::size_t(x)]; }
-  Hux32f at(int x, int y) const { return x < 0 || y < 0 || x >= w || y >= h ? 0 : const_cast<Plane*>(this)->at(x, y); }
-};
+using Taps = std::vector<Hux32f>;
 
 // The image with its margin, in an array of w by h.
-Plane widened(const Plane& p, const Plane& kernel, int w, int h) {
+Floats widened(const Floats& p, const Floats& kernel, int w, int h) {
   const int k = kernel.w, m = (k - 1) / 2;
-  Plane out(w, h);
+  Floats out(w, h);
   forPixels({p.w + 2 * m, p.h + 2 * m}, [&](int x, int y) {
     const bool above = y < m, left = x < m, row = above || y >= m + p.h, column = left || x >= m + p.w;
     const int u = std::clamp(x - m, 0, p.w - 1), v = std::clamp(y - m, 0, p.h - 1);
@@ -56,19 +45,19 @@ Plane widened(const Plane& p, const Plane& kernel, int w, int h) {
 
 Hux32f kept(Hux32f v, Hux32f threshold) { return std::fabs(v) > threshold ? v : 0; }
 
-Plane byFFT(const Plane& p, const Plane& kernel, int order, Hux32f threshold) {
+Floats byFFT(const Floats& p, const Floats& kernel, int order, Hux32f threshold) {
   const int n = 1 << order;
   using Numbers = std::vector<Hux32fc>;
   HuxiFFTRecord* context = nullptr;
   EXPECT_EQ(huxiFFTInitAlloc_C_32fc(&context, order, order, huxFftScaleInv, huxHintAccurate), huxStsOk);
-  const auto spectrum = [&](const Plane& image) {
+  const auto spectrum = [&](const Floats& image) {
     Numbers z(std::size_t(n) * std::size_t(n), Hux32fc{0, 0});
     forPixels(image.size(), [&](int x, int y) { z[std::size_t(y * n + x)].re = image.at(x, y); });
     huxiFFTFwd_CToC_32fc_C1IR(z.data(), 8 * n, context, nullptr);
     return z;
   };
-  Plane taps = kernel;
-  for (Hux32f& tap : taps.values)
+  Floats taps = kernel;
+  for (Hux32f& tap : taps.pixels)
     if (std::fabs(tap) <= threshold) tap = 0;
   const Numbers blur = spectrum(taps);
   Numbers image = spectrum(widened(p, kernel, n, n));
@@ -86,38 +75,38 @@ Plane byFFT(const Plane& p, const Plane& kernel, int order, Hux32f threshold) {
   }
   huxiFFTInv_CToC_32fc_C1IR(image.data(), 8 * n, context, nullptr);
   huxiFFTFree_C_32fc(context);
-  Plane out(p.w, p.h);
+  Floats out(p.w, p.h);
   forPixels(p.size(), [&](int x, int y) { out.at(x, y) = kept(image[std::size_t(y * n + x)].re, threshold); });
   return out;
 }
 
-Plane filtered(const Plane& p, const Plane& kernel) {
+Floats filtered(const Floats& p, const Floats& kernel) {
   const int k = kernel.w, m = (k - 1) / 2;
-  Plane out(p.w, p.h);
+  Floats out(p.w, p.h);
   forPixels(p.size(), [&](int x, int y) {
     for (int j = k - 1; j >= 0; --j)
       for (int i = k - 1; i >= 0; --i) out.at(x, y) += p.at(x + m - i, y + m - j) * kernel.at(i, j);
   });
   return out;
 }
-Plane byLR(const Plane& p, const Plane& kernel, int iterations, Hux32f threshold) {
+Floats byLR(const Floats& p, const Floats& kernel, int iterations, Hux32f threshold) {
   const int k = kernel.w, m = (k - 1) / 2;
-  const Plane image = widened(p, kernel, p.w + k - 1, p.h + k - 1);
-  Plane estimate = image, transposed = kernel;
+  const Floats image = widened(p, kernel, p.w + k - 1, p.h + k - 1);
+  Floats estimate = image, transposed = kernel;
   forPixels({k, k}, [&](int x, int y) { transposed.at(x, y) = kernel.at(y, x); });
   for (int n = 0; n < iterations; ++n) {
-    Plane ratio = filtered(estimate, kernel);
-    for (std::size_t i = 0; i < ratio.values.size(); ++i) {
-      Hux32f& r = ratio.values[i];
-      r = std::fabs(r) > threshold ? image.values[i] / r : 0;
+    Floats ratio = filtered(estimate, kernel);
+    for (std::size_t i = 0; i < ratio.pixels.size(); ++i) {
+      Hux32f& r = ratio.pixels[i];
+      r = std::fabs(r) > threshold ? image.pixels[i] / r : 0;
     }
-    const Plane correction = filtered(ratio, transposed);
-    for (std::size_t i = 0; i < estimate.values.size(); ++i) {
-      Hux32f& e = estimate.values[i];
-      e = std::fabs(double(e)) > 1.1754943508222875e-36 ? e * correction.values[i] : 0;
+    const Floats correction = filtered(ratio, transposed);
+    for (std::size_t i = 0; i < estimate.pixels.size(); ++i) {
+      Hux32f& e = estimate.pixels[i];
+      e = std::fabs(double(e)) > 1.1754943508222875e-36 ? e * correction.pixels[i] : 0;
     }
   }
-  Plane out(p.w, p.h);
+  Floats out(p.w, p.h);
   forPixels(p.size(), [&](int x, int y) { out.at(x, y) = kept(estimate.at(m + x, m + y), threshold); });
   return out;
 }
@@ -159,15 +148,15 @@ Image imageOf(Rng& rng, const Family& f, HuxiSize size) {
     return image;
   }
 }
-Plane channelOf(const Image& image, int c) {
-  Plane p(image.width(), image.height());
+Floats channelOf(const Image& image, int c) {
+  Floats p(image.width(), image.height());
   forPixels(p.size(), [&](int x, int y) { p.at(x, y) = image.get<Hux32f>(x, y, c); });
   return p;
 }
 // Interleaved kernels with their weight in the middle.
-Floats kernelOf(Rng& rng, const Family& f, int k) {
+Taps kernelOf(Rng& rng, const Family& f, int k) {
   const int channels = f.layout.stride;
-  Floats taps(std::size_t(k * k * channels));
+  Taps taps(std::size_t(k * k * channels));
   for (std::size_t i = 0; i < taps.size(); ++i) {
     const bool middle = int(i) / channels == k * k / 2;
     taps[i] = (middle ? Hux32f(k * k) : Hux32f(between(rng, 1, 100)) / 100) / Hux32f(2 * k * k);
@@ -182,7 +171,7 @@ TEST(Deconvolution, StepByStep) {
     for (const int k : {1, 2, 3, 4, 5, 8, 9})
       for (const Hux32f threshold : {0.0f, 0.004f, std::numeric_limits<Hux32f>::quiet_NaN()}) {
         SCOPED_TRACE(f.name + " k " + std::to_string(k) + " threshold " + std::to_string(threshold));
-        const Floats kernel = kernelOf(rng, f, k);
+        const Taps kernel = kernelOf(rng, f, k);
         const int order = between(rng, 4, 6), n = 1 << order;
         const HuxiSize most = f.fft ? HuxiSize{n, n} : HuxiSize{between(rng, k, 70), between(rng, k, 40)};
         const int live = liveBlocks();
@@ -195,10 +184,10 @@ TEST(Deconvolution, StepByStep) {
           Image expected = dst;
           const int times = between(rng, 1, 3);
           for (int c = 0; c < f.layout.stride; ++c) {
-            Plane taps(k, k);
-            for (int i = 0; i < k * k; ++i) taps.values[std::size_t(i)] = kernel[std::size_t(i * f.layout.stride + c)];
-            const Plane p = channelOf(src, c);
-            const Plane out = f.fft ? byFFT(p, taps, order, threshold) : byLR(p, taps, times, threshold);
+            Floats taps(k, k);
+            for (int i = 0; i < k * k; ++i) taps.pixels[std::size_t(i)] = kernel[std::size_t(i * f.layout.stride + c)];
+            const Floats p = channelOf(src, c);
+            const Floats out = f.fft ? byFFT(p, taps, order, threshold) : byLR(p, taps, times, threshold);
             forPixels(roi, [&](int x, int y) { expected.set(x, y, c, out.at(x, y)); });
           }
           ASSERT_EQ(f.run(src.bytes(), src.step(), dst.bytes(), dst.step(), roi, times, state), huxStsOk);
@@ -214,7 +203,7 @@ TEST(Deconvolution, Checks) {
   for (const Family& f : families()) {
     SCOPED_TRACE(f.name);
     constexpr int k = 9;
-    const Floats taps = kernelOf(rng, f, k);
+    const Taps taps = kernelOf(rng, f, k);
     const Image untouched = imageOf(rng, f, {1, 1});
     void* made = nullptr;
     {

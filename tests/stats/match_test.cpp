@@ -6,8 +6,8 @@
 
 #include "huxcore.h"
 #include "huxi_stats.h"
-#include "huxi_transform.h"
 #include "support/forms.h"
+#include "support/plane.h"
 
 namespace hux::test {
 namespace {
@@ -47,22 +47,12 @@ Image makeImage(Rng& rng, const Member& m, HuxiSize size) {
   return image;
 }
 
-// One channel of an image, and zeros around it.
-struct Plane {
-  HuxiSize size;
-  std::vector<Hux32f> pixels;
-
-  Plane(HuxiSize s) : size(s), pixels(std::size_t(s.width) * std::size_t(s.height)) {}
-  Plane(const Member& m, const Image& image, int c) : Plane(image.size()) {
-    forPixels(size, [&](int x, int y) { at(x, y) = Hux32f(numberAt(m.type, image.bytes(x, y) + c * m.elementBytes)); });
-  }
-  Hux32f& at(int x, int y) { return pixels[std::size_t(y) * std::size_t(size.width) + std::size_t(x)]; }
-  Hux32f get(int x, int y) const {
-    const bool inside = x >= 0 && y >= 0 && x < size.width && y < size.height;
-    return inside ? pixels[std::size_t(y) * std::size_t(size.width) + std::size_t(x)] : 0;
-  }
-  int step() const { return size.width * int(sizeof(Hux32f)); }
-};
+Floats channelOf(const Member& m, const Image& image, int c) {
+  Floats p(image.size());
+  forPixels(p.size(),
+            [&](int x, int y) { p.at(x, y) = Hux32f(numberAt(m.type, image.bytes(x, y) + c * m.elementBytes)); });
+  return p;
+}
 
 HuxiSize resultSize(Extent extent, HuxiSize src, HuxiSize tpl) {
   if (extent == kSame) return src;
@@ -72,12 +62,6 @@ HuxiSize resultSize(Extent extent, HuxiSize src, HuxiSize tpl) {
 HuxiPoint firstWindow(Extent extent, HuxiSize tpl) {
   if (extent == kFull) return {1 - tpl.width, 1 - tpl.height};
   return extent == kSame ? HuxiPoint{-(tpl.width / 2), -(tpl.height / 2)} : HuxiPoint{0, 0};
-}
-
-int blockOrder(int tpl, int result) {
-  int order = 1;
-  while (1 << order < 2 * tpl) ++order;
-  return order < 7 && 1 << order < result ? order + 1 : order;
 }
 
 // 2^scaleFactor as the bits of a float give it.
@@ -90,34 +74,21 @@ Hux32f factorOf(int scaleFactor) {
 }
 
 // The sums of products of a channel, tile by tile.
-Plane products(const Member& m, const Plane& src, const Plane& tpl) {
-  const HuxiSize result = resultSize(m.extent, src.size, tpl.size);
-  const HuxiPoint first = firstWindow(m.extent, tpl.size);
-  const int orderX = blockOrder(tpl.size.width, result.width), orderY = blockOrder(tpl.size.height, result.height);
+Floats products(const Member& m, const Floats& src, const Floats& tpl) {
+  const HuxiSize result = resultSize(m.extent, src.size(), tpl.size());
+  const HuxiPoint first = firstWindow(m.extent, tpl.size());
+  const int orderX = blockOrder(tpl.w, result.width, 7), orderY = blockOrder(tpl.h, result.height, 7);
   const HuxiSize block = {1 << orderX, 1 << orderY};
   const bool whole = m.extent == kFull && block.width >= result.width && block.height >= result.height;
-  const HuxiSize tile = whole ? result : HuxiSize{block.width - tpl.size.width + 1, block.height - tpl.size.height + 1};
-
-  HuxiFFTRecord* context = nullptr;
-  huxiFFTInitAlloc_R_32f(&context, orderX, orderY, huxFftScaleInv, huxHintNone);
-  const auto spectrum = [&](const Plane& from, int x0, int y0) {
-    Plane p(block);
-    forPixels(block, [&](int x, int y) { p.at(x, y) = from.get(x0 + x, y0 + y); });
-    huxiFFTFwd_RToPack_32f_C1IR(p.pixels.data(), p.step(), context, nullptr);
-    return p;
-  };
-  const Plane factors = spectrum(tpl, 0, 0);
-  Plane all(result);
+  const HuxiSize tile = whole ? result : HuxiSize{block.width - tpl.w + 1, block.height - tpl.h + 1};
+  const Spectrum<Hux32f> spectrum(orderX, orderY, tpl, true);
+  Floats all(result);
   for (int y0 = 0; y0 < result.height; y0 += tile.height)
     for (int x0 = 0; x0 < result.width; x0 += tile.width) {
-      Plane p = spectrum(src, first.x + x0, first.y + y0);
-      huxiMulPackConj_32f_C1R(p.pixels.data(), p.step(), factors.pixels.data(), p.step(), p.pixels.data(), p.step(),
-                              block);
-      huxiFFTInv_PackToR_32f_C1IR(p.pixels.data(), p.step(), context, nullptr);
+      const Floats p = spectrum.through(src, {first.x + x0, first.y + y0, block.width, block.height});
       forPixels({std::min(tile.width, result.width - x0), std::min(tile.height, result.height - y0)},
-                [&](int x, int y) { all.at(x0 + x, y0 + y) = p.get(x, y); });
+                [&](int x, int y) { all.at(x0 + x, y0 + y) = p.at(x, y); });
     }
-  huxiFFTFree_R_32f(context);
   return all;
 }
 
@@ -134,7 +105,7 @@ void normAndMean(const Member& m, const Image& tpl, Hux64f (&norm)[4], Hux64f (&
   }
   const Hux64f n = Hux64f(tpl.width()) * tpl.height();
   for (int c = 0; c < m.channels(); ++c) {
-    const Plane plane(m, tpl, c);
+    const Floats plane = channelOf(m, tpl, c);
     Hux64f sum = 0, squares = 0;
     for (Hux32f p : plane.pixels) sum += p, squares += Hux64f(p) * p;
     norm[c] = std::sqrt(squares), mean[c] = m.layout.stride == 1 ? sum / n : sum * (1 / n);
@@ -143,29 +114,29 @@ void normAndMean(const Member& m, const Image& tpl, Hux64f (&norm)[4], Hux64f (&
 
 // What a call puts into a channel, as floats, step by step; and the definition, within what transforms in single
 // precision can do to it.
-Plane expectedOf(const Member& m, const Plane& src, Plane tpl, Hux64f norm, Hux64f mean, int scaleFactor) {
-  const int n = tpl.size.width * tpl.size.height;
+Floats expectedOf(const Member& m, const Floats& src, Floats tpl, Hux64f norm, Hux64f mean, int scaleFactor) {
+  const int n = tpl.area();
   const Hux32f floor = m.type == Number::k32f ? 0.0005f : 1.0f, g = m.scaled ? factorOf(scaleFactor) : 1;
-  const Plane original = tpl;
+  const Floats original = tpl;
   Hux32f term = std::max(Hux32f(norm), floor) * g;
   if (m.measure == kLevel) {
     for (Hux32f& t : tpl.pixels) t = t - Hux32f(mean);
     term = std::max(Hux32f(norm * norm - n * mean * mean), floor) * g * g;
   }
   if (term < 1.17549435e-38f) term = 1;
-  Plane result = products(m, src, tpl);
-  const HuxiPoint first = firstWindow(m.extent, tpl.size);
+  Floats result = products(m, src, tpl);
+  const HuxiPoint first = firstWindow(m.extent, tpl.size());
   Hux64f size = 0, worst = 0;
   for (Hux32f p : src.pixels) size += Hux64f(p) * p;
   size = std::sqrt(size);
-  forPixels(result.size, [&](int x, int y) {
+  forPixels(result.size(), [&](int x, int y) {
     Hux64f squares = 0, sum = 0, direct = 0;
-    forPixels(tpl.size, [&](int i, int j) {
-      const Hux64f p = src.get(first.x + x + i, first.y + y + j), t = original.get(i, j);
+    forPixels(tpl.size(), [&](int i, int j) {
+      const Hux64f p = src.at(first.x + x + i, first.y + y + j), t = original.at(i, j);
       squares += p * p, sum += p;
       direct += m.measure == kDistance ? (t - p) * (t - p) : m.measure == kLevel ? (t - mean) * p : t * p;
     });
-    const Hux32f energy = Hux32f(squares), s = Hux32f(sum), c = result.get(x, y);
+    const Hux32f energy = Hux32f(squares), s = Hux32f(sum), c = result.at(x, y);
     Hux32f denominator, numerator = c;
     if (m.measure == kLevel) {
       const Hux32f square = s * s, less = square * (1.0f / Hux32f(n)), variance = energy - less;
@@ -203,12 +174,12 @@ void compare(Rng& rng, const Member& m, HuxiSize srcSize, HuxiSize tplSize, int 
   Hux64f norm[4], mean[4];
   normAndMean(m, tpl, norm, mean);
   for (int c = 0; c < m.channels(); ++c) {
-    const Plane plane = expectedOf(m, Plane(m, src, c), Plane(m, tpl, c), norm[c], mean[c], scaleFactor);
+    const Floats plane = expectedOf(m, channelOf(m, src, c), channelOf(m, tpl, c), norm[c], mean[c], scaleFactor);
     forPixels(size, [&](int x, int y) {
       if (m.scaled)
-        expected.set<Hux8u>(x, y, c, rounded(plane.get(x, y)));
+        expected.set<Hux8u>(x, y, c, rounded(plane.at(x, y)));
       else
-        expected.set<Hux32f>(x, y, c, plane.get(x, y));
+        expected.set<Hux32f>(x, y, c, plane.at(x, y));
     });
   }
   ASSERT_EQ(
