@@ -1,0 +1,108 @@
+#!/usr/bin/python3
+"""Looks at the reference site as a reader does: in a headless browser, on a phone's width, in the dark, and link by link.
+
+  tests/docs/site_test.py FOLDER
+"""
+import html.parser
+import io
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+from urllib.parse import unquote, urlsplit
+
+from PIL import Image
+
+SITE = Path()
+
+
+def browse(page, *options):
+    command = ["chromium", "--headless", "--no-sandbox", "--disable-gpu", "--virtual-time-budget=4000", *options]
+    return subprocess.run([*command, f"file://{SITE}/{page}"], capture_output=True, check=True, timeout=120)
+
+
+def dom(page):
+    return browse(page, "--dump-dom").stdout.decode()
+
+
+def picture(page, width, height, *options):
+    with tempfile.TemporaryDirectory() as folder:
+        file = Path(folder, "page.png")
+        browse(page, f"--window-size={width},{height}", f"--screenshot={file}", "--hide-scrollbars", *options)
+        return Image.open(io.BytesIO(file.read_bytes())).convert("RGB")
+
+
+class Page(html.parser.HTMLParser):
+    """The links, places and pictures of a page."""
+
+    def __init__(self, text):
+        super().__init__()
+        self.links, self.places, self.pictures = [], set(), []
+        self.feed(text)
+
+    def handle_starttag(self, tag, attributes):
+        values = dict(attributes)
+        if "id" in values:
+            self.places.add(values["id"])
+        if tag == "a" and values.get("href"):
+            self.links.append(values["href"])
+        if tag == "img" and values.get("src"):
+            self.pictures.append(values["src"])
+
+
+class Site(unittest.TestCase):
+    def test_links_lead_somewhere(self):
+        pages = {p: Page(p.read_text()) for p in SITE.rglob("*.html")}
+        self.assertGreater(len(pages), 100)
+        for file, page in pages.items():
+            for link in page.links + page.pictures:
+                parts = urlsplit(link)
+                if parts.scheme or link.startswith("//"):
+                    continue
+                target = (file.parent / unquote(parts.path)).resolve() if parts.path else file
+                self.assertTrue(target.exists(), f"{file.name}: {link}")
+                if parts.fragment and target.suffix == ".html":
+                    self.assertIn(unquote(parts.fragment), pages[target].places, f"{file.name}: {link}")
+
+    def test_any_name_is_found(self):
+        def first(asked):
+            found = dom(f"index.html?name={asked}").split('id="hux-found"')[1].split("</li>")[0]
+            return found.split('href="')[1].split('"')[0]
+        self.assertTrue(first("huxiAdd_8u_C3RSfs").endswith("families/Add.html#huxiAdd_8u_C3RSfs"))
+        self.assertTrue(first("filterbox").endswith("families/FilterBox.html"))
+        self.assertIn("statuses.html#huxstsbadstep", first("BadStep"))
+
+    def test_pictures_are_seen(self):
+        page = dom("families/FilterBox.html")
+        self.assertIn("<img", page)
+        # Where the picture stands there are many colours, not a blank or the sign of a missing one.
+        self.assertGreater(len(set(picture("families/FilterBox.html", 1300, 900).crop((400, 150, 1100, 650)).getdata())), 100)
+
+    def test_size(self):
+        self.assertLess(sum(f.stat().st_size for f in SITE.rglob("*") if f.is_file()), 20 << 20)
+
+    def test_phones_and_the_dark(self):
+        narrow = picture("families/Add.html", 500, 900)
+        self.assertEqual(narrow.width, 500)
+        # Nothing is wider than the page: it would be scrolled sideways, and the right edge would show text.
+        edge = narrow.crop((496, 0, 500, 900)).getdata()
+        self.assertLess(len(set(edge)), 8)
+
+        # The theme that a reader has chosen; a browser without a window has no way to prefer one.
+        def brightness(theme):
+            page = SITE / "families" / f"{theme}.html"
+            text = (SITE / "families" / "Add.html").read_text()
+            chosen = text.replace('localStorage.getItem("theme")', f'"{theme}"')
+            self.assertNotEqual(chosen, text)
+            page.write_text(chosen)
+            try:
+                return picture(f"families/{theme}.html", 900, 600).convert("L").resize((1, 1)).getpixel((0, 0))
+            finally:
+                page.unlink()
+        self.assertLess(brightness("dark") + 100, brightness("light"))
+
+
+if __name__ == "__main__":
+    SITE = Path(sys.argv.pop(1)).resolve()
+    unittest.main()
