@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Looks at the reference site as a reader does: in a headless browser, on a phone's width, in the dark, and link by link.
+"""Looks at the reference site as a reader does: in a headless browser, on a phone's width, in the dark, by its links.
 
   tests/docs/site_test.py FOLDER
 """
@@ -77,7 +77,8 @@ class Site(unittest.TestCase):
         page = dom("families/FilterBox.html")
         self.assertIn("<img", page)
         # Where the picture stands there are many colours, not a blank or the sign of a missing one.
-        self.assertGreater(len(set(picture("families/FilterBox.html", 1300, 900).crop((400, 150, 1100, 650)).getdata())), 100)
+        seen = picture("families/FilterBox.html", 1300, 900).crop((400, 150, 1100, 650))
+        self.assertGreater(len(set(seen.getdata())), 100)
 
     def test_size(self):
         self.assertLess(sum(f.stat().st_size for f in SITE.rglob("*") if f.is_file()), 20 << 20)
