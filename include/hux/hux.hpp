@@ -20,7 +20,9 @@
 #include "geometry.hpp"
 #include "image.hpp"
 #include "lines.hpp"
+#include "measures.hpp"
 #include "pixel.hpp"
+#include "plans.hpp"
 #include "stats.hpp"
 #include "transform.hpp"
 
