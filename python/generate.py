@@ -1,10 +1,11 @@
 #!/usr/bin/python3
-"""Writes the table of python/table.h from the registry and python/rules.toml.
+"""Makes the Python module's tables from the registry, tools/rules.toml and tools/fronts.toml.
 
-  generate.py REGISTRY OUTPUT      the table, as C++
-  generate.py REGISTRY --reached   which functions the operations of the module reach, by family
+  generate.py REGISTRY FOLDER      table.cpp, _table.py and the stubs __init__.pyi, in FOLDER
+  generate.py REGISTRY --reached   which functions the module reaches, by family, and which it does not, with the reason
 """
 import json
+import os.path
 import re
 import sys
 import tomllib
@@ -12,103 +13,464 @@ from collections import Counter
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
-sys.path.insert(0, str(HERE.parent / "tools" / "hux"))
+TOOLS = HERE.parent / "tools"
+sys.path[:0] = [str(TOOLS), str(TOOLS / "hux")]
 import generate as calls  # noqa: E402
+import rules  # noqa: E402
 
-LAYOUTS = {"C1": 1, "C3": 3, "C4": 4, "AC4": 5}
+LAYOUTS = {"C1": "kC1", "C2": "kC2", "C3": "kC3", "C4": "kC4", "AC4": "kAC4", "P3": "kP3", "P4": "kP4", "AP4": "kP4"}
+NATIVE = ("points", "moves", "measure")
+HIDDEN = ("make", "init", "get_size", "buffer_size", "free")  # what contexts need and plans do by themselves
+# Parameters of the functions that a front fills by itself, by role.
+OWN_ROLES = ("constant", "enumeration", "number", "index", "channel_order", "state", "hint")
+
+
+def snake(name):
+    return re.sub(r"(?<=[a-z0-9])(?=[A-Z])|(?<=[A-Z])(?=[A-Z][a-z])", "_", name).lower()
 
 
 def python_name(operation):
-    """The operation in snake case, without the C of constants."""
-    plain = re.sub(r"C(?=Scale$|$)", "", operation)
-    name = re.sub(r"(?<=[a-z0-9])(?=[A-Z])|(?<=[A-Z])(?=[A-Z][a-z])", "_", plain).lower()
+    """The operation in snake case, without the C of constants and the type of kernels."""
+    name = snake(re.sub(r"(32f|64f|64s)$", "", re.sub(r"C(?=Scale$|$)", "", operation)))
     return name + "_" if name in ("and", "or", "not") else name
 
 
-def member(function, rule):
-    """How a call fills the parameters, one letter each (see table.h), or None where the module does not reach it."""
-    flags = function["flags"]
-    if function["domain"] != "image" or function["layout"] not in LAYOUTS or len(function["types"]) != 1 or \
-            flags["masked"] or flags["one_channel"]:
-        return None
-    sources = [p["name"] for p in function["parameters"] if p["role"] == "source"]
-    images = {}
-    if flags["in_place"]:
-        images = dict.fromkeys(sources, "b")
-    elif len(sources) == 2:
-        images = dict(zip(sources, "ba" if rule.get("reversed") else "ab"))
-    else:
-        images = dict.fromkeys(sources, "a")
-    program = ""
-    for p in function["parameters"]:
-        if p["role"] == "source" and p["kind"] == "pointer":
-            program += images[p["name"]]
-        elif p["role"] in ("destination", "source_destination") and p["kind"] == "pointer":
-            program += "o"
-            images[p["name"]] = "o"
-        elif p["role"] == "step":
-            program += images[p["of"][0]].upper()
-        elif p["role"] == "constant":
-            program += "c" if p["kind"] == "value" else "C"
-        elif p["role"] == "size":
-            program += "S"
-        elif p["role"] == "scale_factor":
-            program += "s"
+def parameter_name(c_name):
+    """Of a parameter: without the p of pointers."""
+    name = snake(re.sub(r"^pp?(?=[A-Z]|x[A-Z]|y[A-Z])", "", c_name))
+    return {"round_mode": "round", "alpha": "alpha_value", "interpolation": "inter"}.get(name, name)
+
+
+def words_of(enumeration):
+    names = [v["name"] for v in enumeration["values"] if not v.get("alias")]
+    names = [n for n in names if not n.startswith("huxAlgHint")]
+    prefix = os.path.commonprefix(names)
+    words = {snake(n[len(prefix):]).replace("_x_", "x"): v["value"] for v in enumeration["values"]
+             for n in [v["name"]] if n in names}
+    if enumeration["name"] == "HuxCmpOp":
+        words |= {"<": 0, "<=": 1, "==": 2, ">=": 3, ">": 4}
+    return words
+
+
+class Model:
+    """The operations, and how each of their functions is called."""
+
+    def __init__(self, registry):
+        self.registry = registry
+        self.rules = {}
+        for entry in tomllib.loads((TOOLS / "fronts.toml").read_text())["family"]:
+            for name in entry["names"]:
+                self.rules.setdefault(name, {}).update({k: v for k, v in entry.items() if k != "names"})
+        missing = [f["name"] for f in registry["families"] if "kind" not in self.rules.get(f["name"], {})]
+        if missing:
+            sys.exit(f"generate.py: tools/fronts.toml has no kind for {', '.join(missing)}")
+        self.enumerations = {e["name"]: words_of(e) for e in registry["enumerations"] if e["name"]}
+        self.operations = {}  # name: Operation
+        self.unreached = {}  # name of a function: reason
+        for function in registry["functions"]:
+            self.add(function)
+        for operation in self.operations.values():
+            operation.finish()
+
+    def add(self, function):
+        rule = self.rules[function["family"]]
+        kind = rule["kind"]
+        context = function["context"]
+        if kind == "system" or context and context["role"] in HIDDEN and context["role"] not in ("make", "free"):
+            self.unreached[function["name"]] = "memory and threads are the module's affair"
+        elif kind == "context":
+            pass  # see plans
+        elif "buffer" in parameter_name(function["operation"]) or "BufSize" in function["operation"]:
+            pass  # asked by the operation that needs the buffer
+        elif kind == "window" and function["flags"]["in_place"]:
+            self.unreached[function["name"]] = "a window's source is framed first, so that out= may be the source"
+        elif "1u" in function["types"]:
+            pass  # pack_bits and unpack_bits
         else:
+            name = python_name(function["operation"])
+            operation = self.operations.setdefault(name, Operation(self, name, rule))
+            operation.functions.append(function)
+
+
+class Operation:
+    def __init__(self, model, name, rule):
+        self.model, self.name, self.rule, self.functions = model, name, rule, []
+        self.native = rule["kind"] in NATIVE
+
+    def finish(self):
+        groups = dict.fromkeys(f["group"] for f in self.functions)
+        self.comment = "\n\n".join(self.model.registry["groups"][g]["comment"] for g in groups)
+        if self.rule.get("reversed") and any(len(self.sources(f)) == 2 for f in self.functions):
+            self.comment = f"Here a is what C calls pSrc2, and b is pSrc1.\n\n{self.comment}"
+        if not self.native:
+            return
+        self.count = max(len(self.operands(f)) + bool(self.second(f)) for f in self.functions)
+        self.takes_constant = any(self.second(f) for f in self.functions)
+        self.parameters = []  # (name, kind, words, fallback, keyword only)
+        if self.rule.get("type"):
+            self.parameters.append(("dtype", "dtype", None, None, False))
+        own, forms = {}, {}
+        for function in self.functions:
+            for p in function["parameters"]:
+                if p["role"] in OWN_ROLES and p is not self.second(function):
+                    own.setdefault(parameter_name(p["name"]), p)
+                    forms.setdefault(parameter_name(p["name"]), set()).add(self.form(function))
+        # What decides by word how a result is made comes last, by keyword only.
+        for name, p in sorted(own.items(), key=lambda item: item[0] in ("round", "hint")):
+            if name in ("round", "hint"):
+                kind = ("enumeration", p["type"], {"round": "near", "hint": "none"}[name], True)
+            elif p["role"] == "enumeration":
+                kind = ("enumeration", p["type"], None, False)
+            else:
+                kind = ({"channel_order": "order", "state": "seed"}.get(p["role"], "constant"), None, None, False)
+            self.parameters.append((name, *kind))
+        self.form_mask = sum(1 << i for i, p in enumerate(self.parameters)
+                             if not self.takes_constant and forms.get(p[0]) == {1} and
+                             any(not self.form(f) for f in self.functions))
+        self.members = [(self.key(f), f) for f in self.functions]
+        keys = Counter(key for key, _ in self.members)
+        doubled = [f["name"] for key, f in self.members if keys[key] > 1]
+        if doubled:
+            sys.exit(f"generate.py: {', '.join(doubled)} have the same arguments")
+        self.results = [snake(p["name"][1:]) for p in self.functions[0]["parameters"] if p["role"] == "result"]
+
+    @staticmethod
+    def sources(function):
+        return [p for p in function["parameters"] if p["role"] == "source"]
+
+    def operands(self, function):
+        return [p for p in function["parameters"] if p["role"] in ("source", "source_destination")]
+
+    @staticmethod
+    def form(function):
+        return int(re.search(r"C(Scale)?$", function["operation"]) is not None)
+
+    def second(self, function):
+        """The constant that stands for the second image."""
+        if not self.form(function):
             return None
-    return program
+        return next((p for p in function["parameters"] if p["role"] == "constant" and p["name"] in ("value", "pValue")),
+                    None)
+
+    def layout(self, function, p, other):
+        if function["domain"] == "vector":
+            return "kVector"
+        layout = p["layout"]
+        if self.rule.get("one_channel"):
+            if function["flags"]["one_channel"] or layout in ("C3", "C4") and other and other["layout"] == "C1":
+                return {"C3": "kOneOf3", "C4": "kOneOf4"}[layout]
+        elif function["flags"]["one_channel"]:
+            return {"C3": "kOneOf3", "C4": "kOneOf4"}[layout]
+        if self.rule.get("alpha") == "used":
+            plain = any(f["layout"] == "C4" and self.form(f) == self.form(function) for f in self.functions)
+            layout = {"AC1": "C1", "AC4": "AC4" if plain else "C4"}.get(layout, layout)
+        return LAYOUTS[layout]
+
+    def key(self, function):
+        operands = self.operands(function)
+        destination = next((p for p in function["parameters"] if p["role"] in ("destination", "source_destination")),
+                           None)
+        source = operands[0] if operands else None
+        return (f"t{source['element']}" if source else "none", f"t{destination['element']}" if destination else "none",
+                self.layout(function, source, destination) if source else "kNoLayout",
+                self.layout(function, destination, source) if destination else "kNoLayout", self.form(function),
+                int(function["flags"]["in_place"]), int(function["flags"]["masked"]))
+
+    def program(self, function):
+        """How a call fills the parameters, one letter each (see table.h)."""
+        sources = [p["name"] for p in self.sources(function)]
+        if function["flags"]["in_place"]:
+            letters = dict.fromkeys(sources, "a" if self.rule.get("in_place") == "second" else "b")
+        else:
+            letters = dict(zip(sources, "ba" if self.rule.get("reversed") and len(sources) == 2 else "ab"))
+        names = [p[0] for p in self.parameters]
+        program, results = "", "xyz"
+        for p in function["parameters"]:
+            role, name = p["role"], parameter_name(p["name"])
+            if role == "step":
+                program += "J" if len(p["of"]) == 2 else letters[p["of"][0]].upper()
+                continue
+            if p is self.second(function):
+                program += "0"
+                continue
+            if role in OWN_ROLES:
+                program += str(names.index(name) + self.takes_constant)
+                continue
+            if role == "result":
+                program, results = program + results[0], results[1:]
+                continue
+            if role in ("destination", "source_destination", "mask"):
+                letters[p["name"]] = "m" if role == "mask" else "o"
+            program += letters.get(p["name"]) or {"size": "S", "length": "n", "scale_factor": "s"}[role]
+        return program
+
+    def values(self, function):
+        """Of the constant that stands for an image and of the parameters: type, count, whether by address."""
+        places = [None] * self.takes_constant + [p[0] for p in self.parameters]
+        own = {}
+        for p in function["parameters"]:
+            if p["role"] in OWN_ROLES:
+                place = 0 if p is self.second(function) else places.index(parameter_name(p["name"]))
+                element = {"int": "32s", None: "32s"}.get(p["element"], p["element"])
+                several = p["kind"] == "pointer" and p["role"] == "constant"
+                processed = self.model.registry["layouts"][function["destination_layout"]]["processed"] if several else 1
+                own[place] = (f"t{element}", (p["extents"] or [processed])[0], p["kind"] == "pointer")
+        return [own.get(i, ("none", 0, False)) for i in range(len(places))]
+
+    def result_values(self, function):
+        return [({"int": "t32s"}.get(p["element"], "t" + p["element"]), (p["extents"] or [1])[0], True)
+                for p in function["parameters"] if p["role"] == "result"]
+
+    # For people: the signature, with annotations or without.
+
+    @property
+    def scaled(self):
+        return any(f["flags"]["scaled"] for f in self.functions)
+
+    @property
+    def masked(self):
+        return any(f["flags"]["masked"] for f in self.functions)
+
+    @property
+    def planes(self):
+        return any(p["kind"] == "planes" for f in self.functions for p in f["parameters"])
+
+    def signature(self, typed):
+        def with_type(name, annotation, default=None):
+            if not typed:
+                return name if default is None else f"{name}={default}"
+            return f"{name}: {annotation}" + (f" = {default}" if default else "")
+
+        if not self.native:
+            return ", ".join(p if isinstance(p, str) else with_type(*p) for p in plain_parameters(self))
+        image = "_Images" if self.planes else "_Image"
+        parts = []
+        if self.count:
+            parts.append(with_type("a", image))
+            if self.count == 2:
+                kinds = {len(self.operands(f)) == 2 for f in self.functions}
+                both = f"{image} | _Constant" if len(kinds) == 2 else image if kinds == {True} else "_Constant"
+                parts.append(with_type("b", both if self.takes_constant else image))
+            parts.append("/")
+        plain = [p for p in self.parameters if not p[4]]
+        for name, kind, words, fallback, _ in plain:
+            optional = self.optional(name)
+            annotation = {"constant": "_Constant", "enumeration": f"_{words}", "order": "Sequence[int]",
+                          "seed": "int | Seed", "dtype": "DTypeLike"}[kind]
+            parts.append(with_type(name, annotation + " | None", "None") if optional else with_type(name, annotation))
+        parts.append("*")
+        if not self.results:
+            parts.append(with_type("out", f"{image} | None", "None"))
+        if not self.count:
+            parts.append(with_type("shape", "Sequence[int] | None", "None"))
+        if not self.results and not self.rule.get("type"):
+            kinds = {key[:2] for key, _ in self.members}
+            if len(kinds) > len({source for source, _ in kinds}):
+                parts.append(with_type("dtype", "DTypeLike", "None"))
+        if self.masked:
+            parts.append(with_type("mask", "_Image | None", "None"))
+        if self.scaled:
+            parts.append(with_type("shift", "int", "0"))
+        for name, _, words, fallback, keyword in self.parameters:
+            if keyword:
+                parts.append(with_type(name, f"_{words}", json.dumps(fallback)))
+        if any(f["layout"] and "AC4" in f["layout"] for f in self.functions):
+            parts.append(with_type("alpha", 'Literal["keep"] | None', "None"))
+        return ", ".join(parts if parts[-1] != "*" else parts[:-1])
+
+    def optional(self, name):
+        return name == "dtype" or not all(any(parameter_name(p["name"]) == name for p in f["parameters"])
+                                          for f in self.functions)
+
+    def returns(self):
+        if self.results:
+            one = "Any"
+            return one if len(self.results) == 1 else f"_{self.name.title().replace('_', '')}Results"
+        return "Any" if self.planes else "_Array"
+
+
+# Parameters of the operations that Python runs: name, annotation, default. Roles that are not here are filled in by it.
+SHOWN = {"mask_size": "_MaskSize", "kernel": "ArrayLike", "element": "ArrayLike", "number": "float", "index": "int",
+         "coefficients": "ArrayLike", "quad": "ArrayLike", "map": "_Array", "border": "int", "constant": "_Constant",
+         "levels": "ArrayLike", "values": "ArrayLike", "table": "ArrayLike", "state": "_Constant",
+         "level_count": "int", "region": "_Rectangle", "size": "_Size"}
+RENAMED = {"element": "footprint", "fixed_mask": "mask_size"}
+# By hand, where the parameters of C would be a burden.
+BY_HAND = {"resize": [("size", "_Size | None", "None"), "*", ("x_factor", "float | None", "None"),
+                      ("y_factor", "float | None", "None")]}
+
+
+def own_parameters(operation):
+    """Those of the operation itself, in C's order."""
+    kind, own, all_of = operation.rule["kind"], {}, operation.functions
+    if operation.name in BY_HAND:
+        return BY_HAND[operation.name]
+    for function in all_of:
+        roles = {p["role"] for p in function["parameters"]}
+        for p in function["parameters"]:
+            role, name = p["role"], parameter_name(p["name"])
+            entry = None
+            if role == "anchor":
+                entry = (name, "_Point | None" if p["type"] == "HuxiPoint" else "int | None", "None")
+            elif role == "fixed_mask":
+                entry = ("mask_size", "str", '"3x1"' if "Horiz" in operation.functions[0]["operation"] and
+                         "Median" in function["operation"] else '"1x3"' if "MedianVert" in function["operation"]
+                         else '"3x3"')
+            elif role == "divisor":
+                entry = ("divisor", "int | None", "None")
+            elif role == "state" and kind == "window":
+                entry = ("noise", "_Constant", "0")
+            elif role == "state" and kind == "map":
+                entry = (name, "float") if function["operation"].startswith("Add") else None
+            elif role == "enumeration" and kind == "map":
+                entry = (name, "_HuxiInterpolation")
+            elif role == "mask_size" and "element" in roles or role == "region" and kind != "map":
+                entry = None
+            elif role == "size" and kind != "map" or role in ("quad", "coefficients") and not p["const"]:
+                entry = None
+            elif role in ("levels", "level_count") and kind == "levels":
+                even = "Even" in function["operation"]
+                entry = ("n_levels", "int | Sequence[int]") if even and role == "level_count" else \
+                    ("levels", "ArrayLike") if not even and role == "levels" else None
+            elif role == "index" and kind == "palette":
+                entry = (name, "int | None", "None")
+            elif role in SHOWN:
+                late = {"x_shift": "0", "y_shift": "0"}.get(name) if kind == "geometry" else None
+                entry = (RENAMED.get(role, name), SHOWN[role], *([late] if late else []))
+            if entry:
+                own.setdefault(entry[0], entry)
+    return sorted(own.values(), key=lambda entry: len(entry) == 3)
+
+
+def keyword_parameters(operation):
+    kind, functions = operation.rule["kind"], operation.functions
+    roles = {p["role"] for f in functions for p in f["parameters"]}
+    keywords = []
+    if kind == "window":
+        keywords += [("border", "_Border | None", '"replicate"'), ("border_value", "_Constant", "0")]
+    if kind == "geometry":
+        keywords += [("inter", "_HuxiInterpolation", '"linear"')]
+        if any(p["name"] == "dstRoi" for f in functions for p in f["parameters"]):
+            if operation.name != "resize_sqr_pixel":
+                keywords += [("smooth_edge", "bool", "False")]
+            keywords += [("dst_roi", "_Rectangle | None", "None")]
+        keywords += [("roi", "_Rectangle | None", "None"), ("shape", "Sequence[int] | None", "None")]
+    if kind == "border":
+        keywords += [("shape", "Sequence[int] | None", "None")]
+    if "scale_factor" in roles:
+        keywords += [("shift", "int", "0")]
+    kinds = {(f["types"][0], f["types"][-1]) for f in functions if f["types"]}
+    if len(kinds) > len({source for source, _ in kinds}):
+        keywords += [("dtype", "DTypeLike", "None")]
+    if "destination" in roles:
+        keywords += [("out", "_Images | None" if operation.planes else "_Image | None", "None")]
+    if any(f["layout"] == "AC4" for f in functions):
+        keywords += [("alpha", 'Literal["keep"] | None', "None")]
+    return keywords
+
+
+def plain_parameters(operation):
+    """What the operation takes: sources, own parameters, keywords."""
+    sources = max(len(operation.sources(f)) for f in operation.functions)
+    image = "_Images" if operation.planes else "_Image"
+    parts = [(name, image) for name in ("a", "b")[:sources]] + (["/"] if sources else [])
+    own, keywords = own_parameters(operation), keyword_parameters(operation)
+    parts += own
+    if keywords:
+        parts += ([] if "*" in own else ["*"]) + keywords
+    return parts
 
 
 def text(string):
     return json.dumps(string, ensure_ascii=True)
 
 
+def write_table(model, path):
+    reached, members, parameters, operations, words, lists = [], [], [], [], {}, []
+    registry = model.registry
+    reached = [f for f in registry["functions"] if f["name"] not in model.unreached]
+    index = {f["name"]: i for i, f in enumerate(reached)}
+    shapes = sorted({f["shape"] for f in reached})
+
+    def values(entries):
+        return "{" + ", ".join(f"{{Type::{t}, {n}, {str(a).lower()}}}" for t, n, a in entries) + "}"
+
+    for operation in model.operations.values():
+        flag = lambda value: str(bool(value)).lower()  # noqa: E731
+        doc = text(f"{operation.name}({operation.signature(False)})\n\n{operation.comment}")
+        if not operation.native:
+            operations.append(f"{{{text(operation.name)}, {doc}, false, {len(lists)}, {len(operation.functions)}, 0, "
+                              f"false, false, false, false, false, false, false, false, false, 0, 0, 0, nullptr}}")
+            lists += [str(index[f["name"]]) for f in operation.functions]
+            continue
+        first = len(members)
+        rows = []
+        for (source, destination, a, o, form, in_place, masked), function in operation.members:
+            key = f"keyOf(Type::{source}, Type::{destination}, {a}, {o}, {form}, {in_place}, {masked})"
+            order = (TYPES.index(source), TYPES.index(destination), PLACES.index(a), PLACES.index(o), form, in_place,
+                     masked)
+            rows.append((order, f"{{{key}, {index[function['name']]}, {text(operation.program(function))}, "
+                                f"{values(operation.values(function))}, {values(operation.result_values(function))}}}"))
+        members += [row for _, row in sorted(rows)]
+        place = len(parameters)
+        for name, kind, enumeration, fallback, keyword in operation.parameters:
+            number = -1
+            if enumeration:
+                number = list(words).index(enumeration) if enumeration in words else len(words)
+                words[enumeration] = model.enumerations[enumeration]
+            parameters.append(f"{{{text(name)}, Kind::{kind}, {number}, "
+                              f"{text(fallback) if fallback else 'nullptr'}, {flag(keyword)}}}")
+        traits = [operation.takes_constant, operation.rule.get("commutative"),
+                  operation.rule.get("in_place") == "second", operation.rule["kind"] == "moves",
+                  operation.rule.get("transposed"), operation.scaled, operation.masked, operation.planes,
+                  operation.rule.get("type")]
+        operations.append(f"{{{text(operation.name)}, {doc}, true, {first}, {len(rows)}, {operation.count}, "
+                          f"{', '.join(map(flag, traits))}, {place}, {len(operation.parameters)}, "
+                          f"{operation.form_mask}, {text(' '.join(operation.results)) if operation.results else 'nullptr'}}}")
+    statuses = [f"{{{s['value']}, {text(s['name'])}, {text(s['comment'])}}}" for s in registry["statuses"]]
+    functions = [f"{{{text(f['name'])}, reinterpret_cast<Any>(&{f['name']}), {shapes.index(f['shape'])}, "
+                 f"{text(f['shape'][1:])}}}" for f in reached]
+    out = ["// Made by python/generate.py.", '#include "table.h"', "namespace hux::python {", "using tool::Any;"]
+
+    def array(declaration, rows):
+        out.extend([f"{declaration}[] = {{", *(row + "," for row in rows), "};"])
+
+    array("const Function kFunctions", functions)
+    out.append(f"const int kFunctionCount = {len(functions)};")
+    array("const Member kMembers", members)
+    array("const int kFunctionLists", lists or ["0"])
+    array("const Parameter kParameters", parameters)
+    for i, own in enumerate(words.values()):
+        array(f"static const Word kWords{i}", [f"{{{text(w)}, {v}}}" for w, v in own.items()] + ["{nullptr, 0}"])
+    array("const Word* const kWords", [f"kWords{i}" for i in range(len(words))])
+    array("const Operation kOperations", operations)
+    out.append(f"const int kOperationCount = {len(operations)};")
+    array("const Status kStatuses", statuses)
+    out += [f"const int kStatusCount = {len(statuses)};", f"const char* const kVersion = {text(registry['library'])};",
+            "}  // namespace hux::python", "namespace hux::tool {", *calls.trampolines(shapes),
+            "}  // namespace hux::tool", ""]
+    path.write_text("\n".join(out))
+    return index
+
+
+TYPES = "none t8u t8s t16u t16s t32u t32s t32f t64f t16sc t32sc t32fc t64fc".split()
+PLACES = "kNoLayout kC1 kC2 kC3 kC4 kAC4 kP3 kP4 kOneOf3 kOneOf4 kVector".split()
+
+
 def main():
     registry = json.loads(Path(sys.argv[1]).read_text())
-    entries = tomllib.loads((HERE / "rules.toml").read_text())["family"]
-    rules = {name: rule for rule in entries for name in rule["names"]}
-    reached = [(f, member(f, rules[f["family"]])) for f in registry["functions"] if f["family"] in rules]
-    reached = [(f, program) for f, program in reached if program]
+    model = Model(registry)
     if sys.argv[2] == "--reached":
-        all_of, own = Counter(f["family"] for f in registry["functions"]), Counter(f["family"] for f, _ in reached)
+        all_of = Counter(f["family"] for f in registry["functions"])
+        missing = Counter(f["family"] for f in registry["functions"] if f["name"] in model.unreached)
         for family, count in all_of.items():
-            print(f"{family:24}{own[family]:6} of {count}")
-        print(f"{'all':24}{len(reached):6} of {len(registry['functions'])}")
+            print(f"{family:24}{count - missing[family]:6} of {count}")
+        print(f"{'all':24}{len(registry['functions']) - len(model.unreached):6} of {len(registry['functions'])}")
+        for reason in dict.fromkeys(model.unreached.values()):
+            print(f"Not reached, since {reason}: {sum(r == reason for r in model.unreached.values())}")
         return
-    shapes = sorted({f["shape"] for f, _ in reached})
-    operations = {}
-    for function, program in reached:
-        operations.setdefault(python_name(function["operation"]), []).append((function, program))
-    members, lines = [], []
-    for name, own in operations.items():
-        # Sources first; the forms with a constant have one less.
-        sources = max(2 if {"b", "c", "C"} & set(program) else 1 for _, program in own)
-        commutative = any(rules[f["family"]].get("commutative") for f, _ in own)
-        groups = dict.fromkeys(f["group"] for f, _ in own)
-        comment = "\n\n".join(registry["groups"][g]["comment"] for g in groups)
-        call = f"{name}({'a, b' if sources == 2 else 'a'}, /, *, out=None"
-        scaled = any("s" in program for _, program in own)
-        call += f"{', shift=0' if scaled else ''}, alpha=None)"
-        if any(rules[f["family"]].get("reversed") for f, _ in own):
-            comment = f"Here a is what C calls pSrc2, and b is pSrc1.\n\n{comment}"
-        doc = text(f"{call}\n\n{comment}")
-        traits = ", ".join(str(trait).lower() for trait in (commutative, scaled))
-        lines.append(f"{{{text(name)}, {doc}, {len(members)}, {len(own)}, {sources}, {traits}}}")
-        for function, program in own:
-            constant = next((p["element"] for p in function["parameters"] if p["role"] == "constant"), None)
-            members.append(f"{{{text(function['name'])}, reinterpret_cast<Any>(&{function['name']}), "
-                           f"{shapes.index(function['shape'])}, {text(program)}, Type::t{function['types'][0]}, "
-                           f"Type::{'t' + constant if constant else 'none'}, {LAYOUTS[function['layout']]}, "
-                           f"{str(function['flags']['in_place']).lower()}}}")
-    statuses = [f"{{{s['value']}, {text(s['name'])}, {text(s['comment'])}}}" for s in registry["statuses"]]
-    out = ["// Made by python/generate.py.", '#include "table.h"', "namespace hux::python {", "using tool::Any;",
-           "const Member kMembers[] = {", *(m + "," for m in members), "};", "const Operation kOperations[] = {",
-           *(line + "," for line in lines), "};", f"const int kOperationCount = {len(lines)};",
-           "const Status kStatuses[] = {", *(s + "," for s in statuses), "};",
-           f"const int kStatusCount = {len(statuses)};", f"const char* const kVersion = {text(registry['library'])};",
-           "}  // namespace hux::python", "namespace hux::tool {", *calls.trampolines(shapes),
-           "}  // namespace hux::tool", ""]
-    Path(sys.argv[2]).write_text("\n".join(out))
+    folder = Path(sys.argv[2])
+    write_table(model, folder / "table.cpp")
 
 
 if __name__ == "__main__":

@@ -5,6 +5,8 @@ hux.add(a, b, out=c). help(hux.add) shows its reference, hux.add.members the C f
 hux.add.which(a, b) the one that would run. hux.c has every function of the library as C declares it.
 """
 import builtins as _builtins
+import functools as _functools
+import re as _re
 import warnings as _warnings
 
 import numpy as _np
@@ -50,9 +52,21 @@ def _report(status, function, operation):
 
 
 _dtypes = (_np.uint8, _np.int8, _np.uint16, _np.int16, _np.uint32, _np.int32, _np.float32, _np.float64, complex_int16,
-           complex_int32, _np.complex64, _np.complex128)  # in the order of Type in table.h
-_hux.setup(_np.empty, _np.ascontiguousarray, _np.copyto, (None, *map(_np.dtype, _dtypes)), _report)
+           complex_int32, _np.complex64, _np.complex128, _np.bool_, _np.float16)  # in the order of Type in table.h
+_packed = _functools.partial(_np.array, order="C")
+_hux.setup(_np.empty, _np.zeros, _packed, _np.copyto, _np.dtype, (None, *map(_np.dtype, _dtypes)), _report)
+
+
+def _parameter_name(name):
+    """What a parameter of a function is called here: value is of pValue, alpha_value of alpha."""
+    plain = _re.sub(r"^pp?(?=[A-Z]|x[A-Z]|y[A-Z])", "", name)
+    plain = _re.sub(r"(?<=[a-z0-9])(?=[A-Z])|(?<=[A-Z])(?=[A-Z][a-z])", "_", plain).lower()
+    return {"round_mode": "round", "alpha": "alpha_value", "interpolation": "inter"}.get(plain, plain)
+
+
 for _own in _hux.operations:
+    if not _own.native:
+        continue
     globals()[_own.__name__] = _own
 
 # What `from hux import *` takes hides no builtin.
