@@ -317,7 +317,7 @@ class Wiener {
         for (int r = 0; r < count; ++r) {
           const Element<T>* from = src_.row(y + r) + e;
           using V = Lanes<T, kLanes>;
-          const V pixels = elements == kLanes ? loadLanes<V>(from) : loadLanes<V>(from, elements, 0);
+          const V pixels = elements < kLanes ? loadLanes<V>(from, elements, 0) : loadLanes<V>(from);
           const Floats mean = sum[r] * recip_, variance = greater(squares[r] - sum[r] * sum[r] * recip_, n);
           const Floats result = mean + (convert<Hux32f>(pixels) - mean) * ((variance - n) / variance);
           storePixels<StoreOf<L>>(dst_.row(y + r) + e, 0, stored(result), elements);
