@@ -95,9 +95,7 @@ class Fuzzer : public Caller {
       const int broken = bytes_.below(function.own);
       const Argument& argument = kArguments[function.firstArgument + broken];
       const int ways = breaks(function, argument);
-      // Steps and sizes are varied where images are placed, so that these have room.
-      const bool places = argument.role == Role::step || argument.role == Role::size || argument.role == Role::region;
-      if (ways && !places) plan.broken[k] = broken, plan.how[k] = bytes_.below(ways);
+      if (ways && !makesRoom(argument.role)) plan.broken[k] = broken, plan.how[k] = bytes_.below(ways);
     }
     if (plan.broken[0] == plan.broken[1]) plan.broken[1] = -1;
     right_ = plan.broken[0] < 0 && plan.broken[1] < 0;
@@ -106,6 +104,26 @@ class Fuzzer : public Caller {
   }
 
  private:
+  // What tells how large an operand is has been varied before the operand is placed. A wrong value later on may be
+  // right beside other values that are varied, and then there would be no room for it.
+  static bool makesRoom(Role role) {
+    switch (role) {
+      case Role::step:
+      case Role::size:
+      case Role::region:
+      case Role::length:
+      case Role::dimension:
+      case Role::order:
+      case Role::border:
+      case Role::mask_size:
+      case Role::kernel_size:
+      case Role::level_count:
+        return true;
+      default:
+        return false;
+    }
+  }
+
   double number() {
     const double infinity = std::numeric_limits<double>::infinity(), nan = std::numeric_limits<double>::quiet_NaN();
     const double special[] = {0,    -0.0,  1,     -1,     0.5, nan,           infinity,     -infinity, 1e300, -1e300,
