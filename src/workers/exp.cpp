@@ -7,6 +7,7 @@
 
 #include "huxcore.h"
 #include "lanes/elementwise.h"
+#include "lanes/lanes_pairs.h"
 #include "workers/elementary.h"
 #include "workers/nearest.h"
 #include "workers/portable.h"
@@ -15,8 +16,8 @@
 namespace hux {
 namespace {
 
-// Both approximations are e^x = 2^n e^r: x = n steps + r with |r| at most half a step, by a sum with 1.5 * 2^52 that
-// holds n in its low bits. They are good to a relative 2^-38, where the result is a normal double.
+// The approximations in double precision are e^x = 2^n e^r: x = n steps + r with |r| at most half a step, by a sum
+// with 1.5 * 2^52 that holds n in its low bits. They are good to a relative 2^-38, where the result is a normal double.
 constexpr int kErrorBits = 38;
 template <class D>
 struct Reduced {
@@ -108,6 +109,69 @@ struct ExpFloat {
   }
 };
 
+// By sums of two floats, x = n ln2 / 8 + r with |r| below 0.0435: 2^(n/8) (1 + r + r^2/2 + ...). It is good to 2^-35,
+// where all results are normal; what that leaves open, and what is not normal, falls to double precision.
+struct ExpByPairs {
+  static constexpr int lanes = laneCount<Hux32f>;
+  using V = Lanes<Hux32f, lanes>;
+  using U = Lanes<Hux32u, lanes>;
+  using I = Lanes<Hux32s, lanes>;
+  // Up to 87 either way all results are normal, and up to the top none of them is infinite.
+  static constexpr Hux32f kEnd = 87, kTop = 88.3f;
+
+  // 2^(j/8) as a float, and what that leaves, as a part of it.
+  struct alignas(32) Powers {
+    Hux32f of[8], rests[8];
+  };
+  static constexpr Powers kPowers = [] {
+    Powers powers{};
+    for (int j = 0; j < 8; ++j) {
+      Hux64f term = 1, sum = 1;
+      for (int k = 1; k < 30; ++k) sum += term *= j * std::numbers::ln2 / (8 * k);
+      powers.of[j] = Hux32f(sum);
+      powers.rests[j] = Hux32f((sum - Hux64f(powers.of[j])) / sum);
+    }
+    return powers;
+  }();
+  static constexpr Hux64f kStep = std::numbers::ln2 / 8, kSquare = kStep * kStep / 4;
+  static constexpr Hux32f kStepHigh = Hux32f(kStep);
+  static V constant(Hux64f value) { return kept(splat<V>(Hux32f(value))); }
+  LaneTable<Hux32f, 8> powers{kPowers.of}, rests{kPowers.rests};
+  // (r + r^2/4 + r^3/20) / 3, with r^4/360 replaced by the nearest of lower degree.
+  V perStep = constant(1 / kStep), integer = constant(0x1.8p23), high = constant(-kStepHigh),
+    low = constant(kStepHigh - kStep), half = constant(0.5), third = constant(1.0 / 3),
+    second = constant(1.0 / 12 + 0.75 * kSquare / 360), first = constant(1.0 / 60), error = constant(0x1p-34);
+
+  V operator()(V v) const {
+    V x = v;
+    const bool special = any((bitsAs<I>(v) & 0x7FFFFFFF) > std::bit_cast<Hux32s>(kEnd));
+    if (special) {
+      if (any(((v > -104) & (v < -kEnd)) | ((v > kTop) & (v < 89)))) return careful(v);
+      x = greater(lesser(v, splat<V>(kTop)), splat<V>(-kEnd));
+    }
+    const V shifted = mulAdd(x, perStep, integer), n = shifted - integer;
+    const U j = bitsAs<U>(shifted);
+    // r is exact. What else stands in the exponent is so small that it adds to the sum, and has no square.
+    const V r = mulAdd(n, high, x), rest = mulAdd(n, low, rests(j)), power = powers(j);
+    // r + r^2/2, and what follows.
+    const V h = r * half, e = mulAdd(h, r, r);
+    const V p = mulAdd(mulAdd(first, r, second), r, third);
+    const V tail = mulAdd(h * r, p * r, mulAdd(h, r, r - e));
+    const V sum = mulAdd(power, e, power);
+    const V more = mulAdd(rest, sum, mulAdd(power, tail, mulAdd(power, e, power - sum)));
+    const V least = sum + (more - error), most = sum + (more + error);
+    if (any(least != most)) [[unlikely]]
+      return careful(v);
+    V result = bitsAs<V>(bitsAs<U>(least) + (j >> 3u << 23u));
+    if (special) {
+      constexpr Hux32f infinity = std::numeric_limits<Hux32f>::infinity();
+      result = v > kTop ? splat<V>(infinity) : v < -kEnd ? V{} : v == v ? result : splat<V>(huxConstantOfNAN_32f);
+    }
+    return result;
+  }
+  [[gnu::noinline]] static V careful(V v) { return ExpFloat{}(v); }
+};
+
 // 16s: an index into the entries.
 struct ExpShort {
   static constexpr int lanes = laneCount<Hux16s>;
@@ -154,7 +218,7 @@ template struct Exp<Hux8u>;
 template struct Exp<Hux16s>;
 
 HuxStatus Exp<Hux32f>::operator()(const Element<Hux32f>* src, Element<Hux32f>* dst, Index n) const {
-  mapRow<C1>(src, dst, n, ExpFloat{});
+  mapRow<C1>(src, dst, n, std::conditional_t<kFuses, ExpByPairs, ExpFloat>{});
   return huxStsOk;
 }
 

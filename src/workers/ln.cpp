@@ -69,22 +69,81 @@ struct LnFloat {
   }
 };
 
+// The same from sums of two floats. What these leave open, and results of numbers that are not normal, fall to double
+// precision.
+struct LnByPairs {
+  static constexpr int lanes = LogarithmByPairs::lanes;
+  using V = Lanes<Hux32f, lanes>;
+  using U = Lanes<Hux32u, lanes>;
+  using I = Lanes<Hux32s, lanes>;
+  // Moved up to the end of the range of integers, all but the positive normal numbers lie above those.
+  static constexpr Hux32u kUp = 0x80000000 - 0x00800000;
+  U up = kept(splat<U>(kUp));
+  I last = kept(splat<I>(Hux32s(0x7F7FFFFF + kUp)));
+  LogarithmByPairs logarithm;
+  Hux32f nan = huxConstantOfNAN_32f;
+  HuxStatus status = huxStsOk;
+
+  V operator()(V v) {
+    constexpr Hux32f infinity = std::numeric_limits<Hux32f>::infinity(), normal = std::numeric_limits<Hux32f>::min();
+    const bool special = any(I(bitsAs<U>(v) + up) > last);
+    V x = v;
+    bool subnormal = false;
+    if (special) {
+      if (status == huxStsOk) status = firstWarning(v);
+      x = ((v > 0) & (v < infinity)) ? v : splat<V>(1);
+      subnormal = any(x < normal);
+    }
+    const auto sum = logarithm(x);
+    V result = sum.high + (sum.low - sum.error);
+    const V most = sum.high + (sum.low + sum.error);
+    if (subnormal || any(result != most)) [[unlikely]]
+      result = careful(x);
+    if (special) {
+      const V limit = v == 0 ? splat<V>(-infinity) : v > 0 ? v : splat<V>(nan);
+      result = ((v > 0) & (v < infinity)) ? result : limit;
+    }
+    return result;
+  }
+  [[gnu::noinline]] static V careful(V v) {
+    using Half = Lanes<Hux32f, LnFloat::lanes>;
+    LnFloat wide;
+    return joined(wide(Half(half<0>(v))), wide(Half(half<1>(v))));
+  }
+};
+
+// The logarithm of positive integers times a factor, to the nearest integer.
+template <class V>
+auto scaledLogarithm(const LogarithmByPairs& logarithm, V v, Hux32f factor) {
+  const auto sum = logarithm(convert<Hux32f>(v));
+  const auto high = sum.high * factor;
+  const auto nearest = nearestInteger(high);
+  const auto rest = (high - convert<Hux32f>(nearest)) + sum.low * factor;
+  return nearest - (rest >= 0.5f) + (rest < -0.5f);
+}
+template <class V>
+auto scaledLogarithm(const Logarithm& logarithm, V v, Hux64f factor) {
+  const auto each = [&](auto x) { return convert<Hux32s>(logarithm(convert<Hux64f>(x)) * factor + 0.5); };
+  return joined(each(half<0>(v)), each(half<1>(v)));
+}
+
+// 16s. No result lies within the error of either logarithm of a rounding boundary.
 struct LnShort {
-  static constexpr int lanes = 2 * Logarithm::lanes;
+  using Function = std::conditional_t<kFuses, LogarithmByPairs, Logarithm>;
+  using Float = LaneType<Function::V>;
+  static constexpr int lanes = laneCount<Hux32f>;
   using V = Lanes<Hux16s, lanes>;
-  Hux64f factor;
-  Logarithm logarithm;
+  Float factor;
+  Function logarithm;
   HuxStatus status = huxStsOk;
 
   // Beyond -16 every element above 1 saturates, beyond 5 every result is 0.
-  explicit LnShort(int scaleFactor) : factor(powerOfTwo<Hux64f>(std::clamp(scaleFactor, -16, 5))) {}
+  explicit LnShort(int scaleFactor) : factor(powerOfTwo<Float>(std::clamp(scaleFactor, -16, 5))) {}
   V operator()(V v) {
     const auto good = v > 0;
     if (status == huxStsOk && any(~good)) status = firstWarning(v);
     const auto positive = convert<Hux32s>(greater(v, splat<V>(1)));
-    // No result lies within the logarithm's error of a rounding boundary.
-    const auto rounded = [&](auto x) { return convert<Hux32s>(logarithm(convert<Hux64f>(x)) * factor + 0.5); };
-    const V result = saturate<Hux16s>(joined(rounded(half<0>(positive)), rounded(half<1>(positive))));
+    const V result = saturate<Hux16s>(scaledLogarithm(logarithm, positive, factor));
     return good ? result : splat<V>(-32768);
   }
 };
@@ -101,7 +160,8 @@ HuxStatus Ln<T>::operator()(const Element<T>* src, Element<T>* dst, Index n) con
   } else if constexpr (std::is_same_v<T, Hux16s>) {
     return applyRule<C1>(dst, n, LnShort(scaleFactor), FromRow<T, LnShort::lanes>{src, 1}).status;
   } else {
-    return applyRule<C1>(dst, n, LnFloat{}, FromRow<T, LnFloat::lanes>{src, 1}).status;
+    using Rule = std::conditional_t<kFuses, LnByPairs, LnFloat>;
+    return applyRule<C1>(dst, n, Rule{}, FromRow<T, Rule::lanes>{src, 1}).status;
   }
 }
 template struct Ln<Hux8u>;

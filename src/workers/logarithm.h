@@ -5,7 +5,7 @@
 #include <bit>
 #include <numbers>
 
-#include "lanes/lanes_math.h"
+#include "lanes/lanes_pairs.h"
 
 namespace hux {
 
@@ -25,6 +25,7 @@ constexpr Hux64f logarithm(Hux64f x) {
 struct LogarithmBase {
   static constexpr int lanes = laneCount<Hux64f>, kErrorBits = 37;
   using D = Lanes<Hux64f, lanes>;
+  using V = D;
   using U = Lanes<std::uint64_t, lanes>;
   static constexpr std::uint64_t kFirst = 0x3FE6600000000000;
 
@@ -78,6 +79,59 @@ struct LogarithmBySeries : LogarithmBase {
     const Split s(x);
     const D t = (s.z - 1.0) / (s.z + 1.0);
     return mulAdd(polynomial(kTerms, D(t * t)), t, s.e * kE);
+  }
+};
+
+// The nearest number of 16 binary places.
+constexpr Hux64f fewDigits(Hux64f v) { return Hux64f(Hux64s(v * 0x1p16 + (v < 0 ? -0.5 : 0.5))) * 0x1p-16; }
+
+// By sums of two floats, for positive normal floats, where kFuses holds: high + low, to within an error that is small
+// next to 1 as well. There z lies from 0.708 to 1.417, in eight parts, and log z = log (1 / c) + log (1 + r) with a c
+// for each, of so few digits that r = c z - 1, at most 1/16, is exact. So is the sum of the first parts of e ln2 and
+// log (1 / c).
+struct LogarithmByPairs {
+  static constexpr int lanes = laneCount<Hux32f>;
+  using V = Lanes<Hux32f, lanes>;
+  using U = Lanes<Hux32u, lanes>;
+  using I = Lanes<Hux32s, lanes>;
+  struct Sum {
+    V high, low, error;
+  };
+
+  static constexpr Hux32u kPart = 1 << 20, kFirst = 0x3F800000 - kPart * 2 / 3 - 4 * kPart;
+  struct alignas(32) Tables {
+    Hux32f reciprocals[8], highs[8], lows[8];
+  };
+  static constexpr Tables kTables = [] {
+    Tables tables{{1.375f, 1.25f, 1.125f, 1.0625f, 1, 0.90625f, 0.8125f, 0.75f}, {}, {}};
+    for (int j = 0; j < 8; ++j) {
+      const Hux64f log = -hux::logarithm(tables.reciprocals[j]), high = fewDigits(log);
+      tables.highs[j] = Hux32f(high), tables.lows[j] = Hux32f(log - high);
+    }
+    return tables;
+  }();
+  static V constant(Hux64f value) { return kept(splat<V>(Hux32f(value))); }
+  static constexpr Hux64f kLn2 = std::numbers::ln2, kLn2High = fewDigits(kLn2), kSquare = 1.0 / 256;
+  LaneTable<Hux32f, 8> reciprocals{kTables.reciprocals}, highs{kTables.highs}, lows{kTables.lows};
+  V minusOne = constant(-1), minusHalf = constant(-0.5), ln2High = constant(kLn2High),
+    ln2Low = constant(kLn2 - kLn2High);
+  // -2 (1/3 - r/4 + r^2/5 - r^3/6 + r^4/7), with r^5/8 replaced by the nearest of lower degree.
+  V third = constant(-2.0 / 3), fourth = constant(2.0 / 4 - 5 * kSquare * kSquare / 64), fifth = constant(-2.0 / 5),
+    sixth = constant(2.0 / 6 + 5 * kSquare / 16), seventh = constant(-2.0 / 7);
+  V errorOfSquare = constant(-0x1p-25), errorOfSum = constant(0x1p-36);
+
+  Sum operator()(V x) const {
+    const U bits = bitsAs<U>(x), offset = bits - kFirst, entry = offset >> 20u;
+    const V z = bitsAs<V>(bits - (offset & 0xFF800000)), e = convert<Hux32f>(I(offset) >> 23);
+    const V r = mulAdd(z, reciprocals(entry), minusOne);
+    // r - r^2/2, and what follows.
+    const V h = r * minusHalf, square = h * r, w = mulAdd(h, r, r);
+    const V p = mulAdd(mulAdd(mulAdd(mulAdd(seventh, r, sixth), r, fifth), r, fourth), r, third);
+    const V tail = mulAdd(square, p * r, mulAdd(h, r, r - w));
+    const V base = mulAdd(e, ln2High, highs(entry)), high = base + w;
+    const V low = (base - high + w) + (tail + mulAdd(e, ln2Low, lows(entry)));
+    const V magnitude = bitsAs<V>(bitsAs<I>(high) & 0x7FFFFFFF);
+    return {high, low, mulAdd(square, errorOfSquare, magnitude * errorOfSum)};
   }
 };
 

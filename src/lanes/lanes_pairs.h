@@ -1,0 +1,69 @@
+// What approximations of more precision than a float has are made of, on lanes of single precision: values as sums of
+// two floats, tables in registers, rough reciprocals. The approximations of this tree have known errors and never show
+// (see workers/nearest.h), so the units of the machine that these lean on may differ in their last bits.
+#pragma once
+
+#include "lanes/lanes_math.h"
+
+namespace hux {
+
+// Whether mulAdd rounds once on whole vectors. Then mulAdd(a, b, -(a * b)) is what the product has lost, exactly.
+#if defined(__FMA__) || defined(__AVX512F__) || defined(__aarch64__)
+inline constexpr bool kFuses = true;
+#else
+inline constexpr bool kFuses = false;
+#endif
+
+// The same lanes, of which the compiler does not know the value: constants of a loop that has more of them than there
+// are registers. Known ones it spreads out from single elements at every use, others are operands in memory.
+template <class V>
+V kept(V v) {
+#if defined(__AVX__)
+  __asm__("" : "+x"(v));
+#endif
+  return v;
+}
+
+// 1 / v and 1 / sqrt(v) to within a relative 2^-11.
+template <class V>
+V roughReciprocal(V v) {
+  return splat<V>(1) / v;
+}
+template <class V>
+V roughInverseRoot(V v) {
+  return splat<V>(1) / squareRoot(v);
+}
+#if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512DQ__)
+inline Lanes<Hux32f, 16> roughReciprocal(Lanes<Hux32f, 16> v) { return _mm512_maskz_rcp14_ps(0xFFFF, v); }
+inline Lanes<Hux32f, 16> roughInverseRoot(Lanes<Hux32f, 16> v) { return _mm512_maskz_rsqrt14_ps(0xFFFF, v); }
+#elif defined(__AVX2__)
+inline Lanes<Hux32f, 8> roughReciprocal(Lanes<Hux32f, 8> v) { return _mm256_rcp_ps(v); }
+inline Lanes<Hux32f, 8> roughInverseRoot(Lanes<Hux32f, 8> v) { return _mm256_rsqrt_ps(v); }
+#elif defined(__SSE2__)
+inline Lanes<Hux32f, 4> roughReciprocal(Lanes<Hux32f, 4> v) { return _mm_rcp_ps(v); }
+inline Lanes<Hux32f, 4> roughInverseRoot(Lanes<Hux32f, 4> v) { return _mm_rsqrt_ps(v); }
+#endif
+
+// A table of eight floats, held in a register where the machine looks them up there.
+#if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512DQ__)
+template <>
+struct LaneTable<Hux32f, 8> {
+  Lanes<Hux32f, 16> all;
+  explicit LaneTable(const Hux32f* entries) {
+    const auto eight = loadLanes<Lanes<Hux32f, 8>>(entries);
+    all = joined(eight, eight);
+  }
+  Lanes<Hux32f, 16> operator()(Lanes<Hux32u, 16> index) const {
+    return _mm512_maskz_permutexvar_ps(0xFFFF, __m512i(index), all);
+  }
+};
+#elif defined(__AVX2__)
+template <>
+struct LaneTable<Hux32f, 8> {
+  Lanes<Hux32f, 8> all;
+  explicit LaneTable(const Hux32f* entries) : all(loadLanes<Lanes<Hux32f, 8>>(entries)) {}
+  Lanes<Hux32f, 8> operator()(Lanes<Hux32u, 8> index) const { return _mm256_permutevar8x32_ps(all, __m256i(index)); }
+};
+#endif
+
+}  // namespace hux
