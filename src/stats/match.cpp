@@ -53,17 +53,13 @@ struct Pixels {
   Index channels, processed, bytes, resultBytes;
   void (*bring)(const void* pixels, Index n, Hux32f* to);
   void (*put)(Hux32f* from, Index n, void* pixels);
+  bool areBytes;
   Hux32f floor;
 };
 template <class L, class S, class D>
 inline constexpr Pixels kPixels = {
-    L::channels,
-    L::processed,
-    sizeof(S),
-    sizeof(D),
-    bring<S, L::channels>,
-    put<D, L::channels>,
-    std::is_same_v<S, Hux32f> ? 0.0005f : 1.0f,
+    L::channels,           L::processed,        sizeof(S),      sizeof(D),
+    bring<S, L::channels>, put<D, L::channels>, sizeof(S) == 1, std::is_same_v<S, Hux32f> ? 0.0005f : 1.0f,
 };
 
 template <class P>
@@ -221,7 +217,7 @@ class Matcher {
   static std::size_t floats(Index count) { return roundedUp(std::size_t(count) * sizeof(Hux32f), kLine); }
   std::size_t blockBytes() const { return floats(blocks_.step() * grid_.rows); }
   std::size_t energyBytes() const { return floats(energyStep() * grid_.height); }
-  std::size_t sumBytes() const { return floats(2 * windowRoom(grid_.width)); }
+  std::size_t sumBytes() const { return floats(2 * windowRoom(grid_.width, tpl_.size.width)); }
   std::size_t sliceBytes() const { return blockBytes() + energyBytes() + sumBytes() + floats(blocks_.roomFloats()); }
   std::size_t spectraBytes() const { return floats(pixels_.processed * blocks_.spectrumFloats()); }
   Slice sliceAt(std::byte* memory) const {
@@ -285,7 +281,8 @@ class Matcher {
                            int(std::min(src_.size.width - left, blocks_.width()) - outX),
                            int(std::min(src_.size.height - top, blocks_.height()) - outY)};
     const RowRange given{outY, seen.height};
-    const Windows windows = {slice.block, blocks_.step(), tpl_.size.width, tpl_.size.height, width, height};
+    const Windows windows = {slice.block, blocks_.step(), tpl_.size.width, tpl_.size.height,
+                             width,       height,         pixels_.areBytes};
     for (Index c = 0; c < pixels_.processed; ++c) {
       bringBlock(src_, c, seen, outX, outY, slice.block);
       if (measure_ == Measure::level)

@@ -1,14 +1,16 @@
 // The sums are made in double precision and narrowed. In bands of rows the first sum is made afresh. Along the band's
 // first row each step adds the column that enters and takes off the one that leaves, square by square as (new - old) *
 // (new + old); that change, too, goes from row to row by the line that enters below and the one that leaves above. So
-// every sum takes four pixels, however large the window, and its rounding does not build up beyond a band. Sums of
-// bytes are exact.
+// every sum takes four pixels, however large the window, and its rounding does not build up beyond a band.
+//
+// Sums of bytes are exact, so they may be formed in another way: columns as high as a window are kept up from row to
+// row, as floats, and running totals of integers make windows of them.
 #include "stats/windows.h"
 
 #include <algorithm>
 #include <array>
 
-#include "lanes/lanes.h"
+#include "lanes/scan.h"
 
 namespace hux {
 namespace {
@@ -81,7 +83,7 @@ Sums<N> afresh(const Windows& w, const Hux32f* top) {
   return sums;
 }
 
-// store(y, sums) takes rows of sums, N of them `across` apart, row after row.
+// store(y, sums) takes the N sums of a row, row after row.
 template <int N, class Store>
 void windowSums(const Windows& w, Hux64f* room, Store store) {
   const Changes<N> changes(room, w.across);
@@ -117,24 +119,111 @@ void windowSums(const Windows& w, Hux64f* room, Store store) {
             sums[i][r] += change[r * apart + x];
           }
       }
-      for (Index r = 0; r < std::min(kAbreast, down - y); ++r) store(first + y + r, rows + r * N * w.across);
+      for (Index r = 0; r < std::min(kAbreast, down - y); ++r) {
+        const Hux32f* of[N];
+        for (int i = 0; i < N; ++i) of[i] = rows + (r * N + i) * w.across;
+        store(first + y + r, of);
+      }
     }
   }
 }
 
+// Of bytes, where floats hold the sums of columns and 32 bits those of windows.
+bool areSmall(const Windows& w) { return w.bytes && w.height <= 258 && w.width * w.height <= 33025; }
+
+template <int N>
+class ByteColumns {
+ public:
+  static Index room(Index across, Index width) { return N * (step(across, width) + vectors(across)); }
+  ByteColumns(const Windows& w, Hux32f* room)
+      : w_(w), step_(step(w.across, w.width)), columns_(room), sums_(room + N * step_) {
+    std::fill_n(columns_, N * step_, 0.0f);
+    for (Index j = 0; j < w.height; ++j) move([p = w.pixels + j * w.step](Index x) { return Pair{load(p + x), F{}}; });
+  }
+
+  // To the windows one row below.
+  void down(Index row) {
+    const Hux32f *leaving = w_.pixels + row * w_.step, *entering = leaving + w_.height * w_.step;
+    move([=](Index x) { return Pair{load(entering + x), load(leaving + x)}; });
+  }
+
+  // The sums of the windows of this row.
+  const Hux32f* sums(int i) const {
+    const Hux32f* columns = columns_ + i * step_;
+    Hux32f* to = sums_ + i * vectors(w_.across);
+    Hux32s first = 0;
+    for (Index x = 0; x < w_.width; ++x) first += Hux32s(columns[x]);
+    I before = splat<I>(first);
+    for (Index x = 0; x < w_.across; x += lanes) {
+      const I change = convert<Hux32s>(load(columns + x + w_.width) - load(columns + x)),
+              upTo = runningTotals<1>(change);
+      storeLanes(to + x, convert<Hux32f>(before + upTo - change));
+      before += lastPixel<1>(upTo);
+    }
+    return to;
+  }
+
+ private:
+  using F = Lanes<Hux32f, laneCount<Hux32f>>;
+  using I = Lanes<Hux32s, laneCount<Hux32s>>;
+  static constexpr Index lanes = lanesIn<F>;
+  struct Pair {
+    F entering, leaving;
+  };
+
+  static F load(const Hux32f* p) { return loadLanes<F>(p); }
+  static Index vectors(Index n) { return (n + lanes - 1) / lanes * lanes; }
+  static Index step(Index across, Index width) { return vectors(across + width) + lanes; }
+
+  template <class At>
+  void move(At at) {
+    for (Index x = 0; x < w_.across + w_.width - 1; x += lanes) {
+      const auto [entering, leaving] = at(x);
+      F sums[N];
+      for (int i = 0; i < N; ++i) sums[i] = load(columns_ + i * step_ + x);
+      add(sums, entering, leaving);
+      for (int i = 0; i < N; ++i) storeLanes(columns_ + i * step_ + x, sums[i]);
+    }
+  }
+
+  const Windows& w_;
+  Index step_;
+  Hux32f *columns_, *sums_;
+};
+
+template <int N, class Store>
+void byteSums(const Windows& w, Hux64f* room, Store store) {
+  ByteColumns<N> columns(w, reinterpret_cast<Hux32f*>(room));
+  for (Index y = 0; y < w.down; ++y) {
+    if (y > 0) columns.down(y - 1);
+    const Hux32f* sums[N];
+    for (int i = 0; i < N; ++i) sums[i] = columns.sums(i);
+    store(y, sums);
+  }
+}
+
+template <int N, class Store>
+void sumsOf(const Windows& w, Hux64f* room, Store store) {
+  return areSmall(w) ? byteSums<N>(w, room, store) : windowSums<N>(w, room, store);
+}
+
 }  // namespace
 
-Index windowRoom(Index across) { return Changes<2>::room(across) + (kAbreast * 2 * across + 1) / 2; }
+Index windowRoom(Index across, Index width) {
+  const Index bands = Changes<2>::room(across) + (kAbreast * 2 * across + 1) / 2;
+  return std::max(bands, (ByteColumns<2>::room(across, width) + 1) / 2);
+}
 
 void windowEnergies(const Windows& w, Hux32f* energies, Index step, Hux64f* room) {
-  windowSums<1>(
-      w, room, [=, across = w.across](Index y, const Hux32f* sums) { std::copy_n(sums, across, energies + y * step); });
+  sumsOf<1>(w, room, [=, across = w.across](Index y, const Hux32f* const(&sums)[1]) {
+    std::copy_n(sums[0], across, energies + y * step);
+  });
 }
 
 void windowVariances(const Windows& w, Hux32f inverse, Hux32f* variances, Index step, Hux64f* room) {
-  windowSums<2>(w, room, [=, across = w.across](Index y, const Hux32f* sums) {
+  sumsOf<2>(w, room, [=, across = w.across](Index y, const Hux32f* const(&sums)[2]) {
     Hux32f* to = variances + y * step;
-    for (Index x = 0; x < across; ++x) to[x] = sums[x] - sums[across + x] * sums[across + x] * inverse;
+    for (Index x = 0; x < across; ++x) to[x] = sums[0][x] - sums[1][x] * sums[1][x] * inverse;
   });
 }
 

@@ -6,14 +6,16 @@
 namespace hux {
 
 // A window of width by height pixels at each of across by down places, the first at `pixels`. Rows lie `step` floats
-// apart, and have some more floats that may be read behind the last pixel, as blocks of transforms do.
+// apart, and have some more floats that may be read behind the last pixel, as blocks of transforms do. `bytes` tells
+// that they are whole numbers of 8 bits.
 struct Windows {
   const Hux32f* pixels;
   Index step, width, height, across, down;
+  bool bytes;
 };
 
 // Work memory, in doubles.
-Index windowRoom(Index across);
+Index windowRoom(Index across, Index width);
 
 // The sums of squares, `step` floats from row to row; and the same less the square of the window's sum times `inverse`.
 void windowEnergies(const Windows& windows, Hux32f* energies, Index step, Hux64f* room);

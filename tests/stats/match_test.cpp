@@ -300,6 +300,25 @@ TEST_F(Match, SumsStartAfreshInEveryBand) {
     }
 }
 
+// Of bright bytes, on both sides of the sizes up to which sums of columns fit floats and those of windows integers.
+// With a template of zeros the numerator is the sum of squares alone, and the denominator its root.
+TEST_F(Match, SumsOfBytesAreExact) {
+  for (const HuxiSize tplSize : {HuxiSize{1, 258}, {1, 259}, {128, 258}, {129, 257}, {400, 2}}) {
+    Image src(rng_, tplSize.width + 9, tplSize.height + 25, 1), tpl(rng_, tplSize.width, tplSize.height, 1);
+    Image dst(rng_, 10, 26, 4);
+    src.fill<Hux8u>([&] { return Hux8u(255 - (between(rng_, 0, 30) == 0)); });
+    tpl.fill<Hux8u>([] { return Hux8u(0); });
+    huxiSqrDistanceValid_Norm_8u32f_C1R(src.data<Hux8u>(), src.step(), src.size(), tpl.data<Hux8u>(), tpl.step(),
+                                        tplSize, dst.data<Hux32f>(), dst.step());
+    forPixels(dst.size(), [&](int x, int y) {
+      Hux64s squares = 0;
+      forPixels(tplSize,
+                [&](int i, int j) { squares += Hux64s(src.get<Hux8u>(x + i, y + j)) * src.get<Hux8u>(x + i, y + j); });
+      ASSERT_EQ(dst.get<Hux32f>(x, y), Hux32f(squares) / std::sqrt(Hux32f(squares))) << tplSize.width << ", " << y;
+    });
+  }
+}
+
 TEST_F(Match, ChecksInOrder) {
   const Image image(rng_, 64, 8, 16);
   for (const Member& m : kMembers) {
