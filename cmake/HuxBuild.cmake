@@ -60,8 +60,11 @@ function(hux_add_libraries name objects)
     # They have a version, as the soname does: where two libraries of different majors meet in a process, each call goes
     # to the one that it was linked with. (On Windows a library exports what is marked and no more, and has no versions.)
     if(NOT WIN32)
-      target_link_options(${name}${library} PRIVATE LINKER:--version-script=${PROJECT_BINARY_DIR}/exports.map
-                                                    LINKER:--no-undefined)
+      target_link_options(${name}${library} PRIVATE LINKER:--version-script=${PROJECT_BINARY_DIR}/exports.map)
+      # Clang leaves it to the program to bring along a sanitizer's own functions.
+      if(NOT HUX_SANITIZE)
+        target_link_options(${name}${library} PRIVATE LINKER:--no-undefined)
+      endif()
       set_target_properties(${name}${library} PROPERTIES LINK_DEPENDS ${PROJECT_BINARY_DIR}/exports.map)
     endif()
   endforeach()
