@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Makes the Python module's tables from the registry, tools/rules.toml and tools/fronts.toml.
 
-  generate.py REGISTRY FOLDER      table.cpp, _table.py and the stubs __init__.pyi, in FOLDER
+  generate.py REGISTRY FOLDER      table.cpp, _table.py, _operations.py, __init__.pyi, in FOLDER
   generate.py REGISTRY --reached   which functions the module reaches, by family, and which it does not, with the reason
 """
 import json
@@ -20,7 +20,6 @@ import rules  # noqa: E402
 
 LAYOUTS = {"C1": "kC1", "C2": "kC2", "C3": "kC3", "C4": "kC4", "AC4": "kAC4", "P3": "kP3", "P4": "kP4", "AP4": "kP4"}
 NATIVE = ("points", "moves", "measure")
-HIDDEN = ("make", "init", "get_size", "buffer_size", "free")  # what contexts need and plans do by themselves
 # Parameters of the functions that a front fills by itself, by role.
 OWN_ROLES = ("constant", "enumeration", "number", "index", "channel_order", "state", "hint")
 
@@ -76,11 +75,15 @@ class Model:
         rule = self.rules[function["family"]]
         kind = rule["kind"]
         context = function["context"]
-        if kind == "system" or context and context["role"] in HIDDEN and context["role"] not in ("make", "free"):
-            self.unreached[function["name"]] = "memory and threads are the module's affair"
+        if function["operation"] in ("Malloc", "Free"):
+            self.unreached[function["name"]] = "arrays are numpy's"
+        elif context and context["role"] in ("init", "get_size"):
+            self.unreached[function["name"]] = "plans have memory of their own"
+        elif kind == "system":
+            pass  # set_num_threads, get_num_threads, library_version
         elif kind == "context":
             pass  # see plans
-        elif "buffer" in parameter_name(function["operation"]) or "BufSize" in function["operation"]:
+        elif "BufSize" in function["operation"] or "BufferSize" in function["operation"]:
             pass  # asked by the operation that needs the buffer
         elif kind == "window" and function["flags"]["in_place"]:
             self.unreached[function["name"]] = "a window's source is framed first, so that out= may be the source"
@@ -282,11 +285,15 @@ class Operation:
         return name == "dtype" or not all(any(parameter_name(p["name"]) == name for p in f["parameters"])
                                           for f in self.functions)
 
-    def returns(self):
-        if self.results:
-            one = "Any"
-            return one if len(self.results) == 1 else f"_{self.name.title().replace('_', '')}Results"
-        return "Any" if self.planes else "_Array"
+    @property
+    def images(self):
+        """How many sources are images."""
+        return max(len(self.sources(f)) for f in self.functions)
+
+    def returns(self, name):
+        if self.native and self.results:
+            return "Any" if len(self.results) == 1 else f"{name}Results"
+        return "Any" if self.planes or self.rule["kind"] in ("map", "levels") else "_Array"
 
 
 # Parameters of the operations that Python runs: name, annotation, default. Roles that are not here are filled in by it.
@@ -359,8 +366,7 @@ def keyword_parameters(operation):
         keywords += [("shape", "Sequence[int] | None", "None")]
     if "scale_factor" in roles:
         keywords += [("shift", "int", "0")]
-    kinds = {(f["types"][0], f["types"][-1]) for f in functions if f["types"]}
-    if len(kinds) > len({source for source, _ in kinds}):
+    if kind in ("window", "match", "blocks") and any(len(f["types"]) == 2 for f in functions):
         keywords += [("dtype", "DTypeLike", "None")]
     if "destination" in roles:
         keywords += [("out", "_Images | None" if operation.planes else "_Image | None", "None")]
@@ -371,7 +377,7 @@ def keyword_parameters(operation):
 
 def plain_parameters(operation):
     """What the operation takes: sources, own parameters, keywords."""
-    sources = max(len(operation.sources(f)) for f in operation.functions)
+    sources = operation.images
     image = "_Images" if operation.planes else "_Image"
     parts = [(name, image) for name in ("a", "b")[:sources]] + (["/"] if sources else [])
     own, keywords = own_parameters(operation), keyword_parameters(operation)
@@ -429,7 +435,7 @@ def write_table(model, path):
                           f"{operation.form_mask}, {text(' '.join(operation.results)) if operation.results else 'nullptr'}}}")
     statuses = [f"{{{s['value']}, {text(s['name'])}, {text(s['comment'])}}}" for s in registry["statuses"]]
     functions = [f"{{{text(f['name'])}, reinterpret_cast<Any>(&{f['name']}), {shapes.index(f['shape'])}, "
-                 f"{text(f['shape'][1:])}}}" for f in reached]
+                 f"{text(f['shape'])}}}" for f in reached]
     out = ["// Made by python/generate.py.", '#include "table.h"', "namespace hux::python {", "using tool::Any;"]
 
     def array(declaration, rows):
@@ -453,6 +459,81 @@ def write_table(model, path):
     return index
 
 
+def write_python(model, index, path):
+    """What the package needs: the functions, the members of the operations that Python runs, and these operations."""
+    resolved = rules.resolve(model.registry)
+    reaches, entries, wrappers = {}, [], []
+
+    def reach(function):
+        argument = next((a for a in resolved[function["name"]].get("arguments", []) if a["name"] == "pSrc"), {})
+        if "reach" not in argument:
+            return None
+        formula = re.sub(r"\b(?!max\b|min\b)([a-zA-Z]+)(?:\.(\w+))?", lambda m: f'v["{m[1]}"]' + {
+            None: "", "width": "[0]", "height": "[1]", "x": "[0]", "y": "[1]"}[m[2]], ", ".join(argument["reach"]))
+        return reaches.setdefault(formula, len(reaches))
+
+    def masks(function):
+        argument = next((a for a in resolved[function["name"]].get("arguments", []) if a["role"] == "fixed_mask"), None)
+        return tuple(row[0] for row in argument["values"]["rows"]) if argument else None
+
+    for operation in model.operations.values():
+        if operation.native:
+            continue
+        kind = {"map": "map_"}.get(operation.rule["kind"], operation.rule["kind"])
+        rows = []
+        for f in operation.functions:
+            parameters = " ".join(p["name"] for p in f["parameters"])
+            rows.append((index[f["name"]], f["name"], " ".join(f["types"]), f["source_layout"] or "C1", parameters,
+                         f["shape"][1:], f["flags"]["in_place"], reach(f) if kind == "window" else None,
+                         masks(f) if kind == "window" else None))
+        entries.append(f"    {operation.name!r}: {rows!r},")
+        own = [entry[0] for entry in own_parameters(operation) if entry != "*"]
+        keywords = [entry[0] for entry in keyword_parameters(operation)]
+        images = ("a", "b")[:operation.images]
+        signature = operation.signature(False)
+        both = "" if "*" in signature else "*, "
+        wrappers.append(
+            f"def {operation.name}({signature}, {both}_asked=False):\n"
+            f"    return _front.{kind}({operation.name!r}, _asked, ({''.join(i + ', ' for i in images)}), "
+            f"{{{', '.join(f'{n!r}: {n}' for n in own)}}}, {{{', '.join(f'{n!r}: {n}' for n in keywords)}}})\n")
+    inter = {w: v for w, v in model.enumerations["HuxiInterpolation"].items() if v > 0}
+    results = {o.name: o.results for o in model.operations.values() if o.native and len(o.results) > 1}
+    out = ['"""Made by python/generate.py: what there is."""', "FUNCTIONS = {",
+           *(f"    {name!r}: {number}," for name, number in index.items()), "}", "REACH = [",
+           *(f"    lambda v: ({formula})," for formula in reaches), "]", f"INTERPOLATIONS = {inter!r}",
+           f"RESULTS = {results!r}", "MEMBERS = {", *entries, "}", ""]
+    (path / "_table.py").write_text("\n".join(out))
+    out = ['"""Made by python/generate.py: the operations that Python runs."""', "from . import _front", "", "",
+           "\n\n".join(wrappers)]
+    (path / "_operations.py").write_text("\n".join(out))
+
+
+def write_stubs(model, path):
+    """Each operation is of a class of its own, so that it can be called, and asked for its members."""
+    classes, names, errors = [], [], []
+    for operation in model.operations.values():
+        own = "_" + "".join(part.title() for part in operation.name.split("_"))
+        if operation.native and len(operation.results) > 1:
+            fields = "\n".join(f"    {r}: Any" for r in operation.results)
+            classes.append(f"class {own}Results(NamedTuple):\n{fields}\n")
+        signature, returns = operation.signature(True), operation.returns(own)
+        classes.append(f"class {own}(Operation):\n    def __call__(self, {signature}) -> {returns}:\n"
+                       f'        r"""{operation.comment.strip()}\n        """\n'
+                       f"    def which(self, {signature}) -> str: ...\n")
+        names.append(f"{operation.name}: {own}")
+    for status in model.registry["statuses"]:
+        plain = status["name"].removeprefix("huxSts")
+        if status["kind"] == "error":
+            base = {"NoMem": "MemoryError", "DivByZero": "ZeroDivisionError"}.get(plain, "ValueError")
+            errors.append(f"class {plain}Error(Error, {base}): ...")
+        elif status["kind"] == "warning":
+            errors.append(f"class {plain.removesuffix('Warn')}Warning(Warning): ...")
+    words = [f"_{name} = Literal[{', '.join(text(w) for w, v in own.items() if v >= 0)}]"
+             for name, own in model.enumerations.items()]
+    (path / "__init__.pyi").write_text("\n".join(
+        [(HERE / "hux" / "stubs.pyi").read_text(), *words, "", *errors, "", *classes, *names, ""]))
+
+
 TYPES = "none t8u t8s t16u t16s t32u t32s t32f t64f t16sc t32sc t32fc t64fc".split()
 PLACES = "kNoLayout kC1 kC2 kC3 kC4 kAC4 kP3 kP4 kOneOf3 kOneOf4 kVector".split()
 
@@ -470,7 +551,9 @@ def main():
             print(f"Not reached, since {reason}: {sum(r == reason for r in model.unreached.values())}")
         return
     folder = Path(sys.argv[2])
-    write_table(model, folder / "table.cpp")
+    index = write_table(model, folder / "table.cpp")
+    write_python(model, index, folder)
+    write_stubs(model, folder)
 
 
 if __name__ == "__main__":

@@ -2,6 +2,7 @@
 #define PY_SSIZE_T_CLEAN
 #define Py_LIMITED_API 0x030B0000
 #include <Python.h>
+#include <dlfcn.h>
 #include <structmember.h>
 
 #include <algorithm>
@@ -1066,7 +1067,7 @@ class Run {
       PyTuple_SetItem(all, i, one);
     }
     if (!all || !self.results) return all;
-    PyObject* named = PyObject_Call(self.results, all, nullptr);
+    PyObject* named = PyObject_CallObject(self.results, all);
     Py_DECREF(all);
     return named;
   }
@@ -1285,12 +1286,13 @@ PyObject* callRaw(PyObject*, PyObject* const* given, Py_ssize_t count) {
   if (index < 0 || index >= kFunctionCount) return PyErr_SetString(PyExc_ValueError, "no such function"), nullptr;
   const Function& function = kFunctions[index];
   const Py_ssize_t own = PyTuple_Size(given[3]);
-  if (own != Py_ssize_t(std::strlen(function.letters)) || own > 20)
-    return PyErr_Format(PyExc_TypeError, "%s takes %zd arguments", function.name, std::strlen(function.letters));
+  const char* const letters = function.shapeLetters + 1;
+  if (own != Py_ssize_t(std::strlen(letters)) || own > 20)
+    return PyErr_Format(PyExc_TypeError, "%s takes %zd arguments", function.name, std::strlen(letters));
   Value values[20], status = {};
   Raw raw;
   for (Py_ssize_t i = 0; i < own; ++i)
-    if (!raw.value(function.letters[i], PyTuple_GetItem(given[3], i), &values[i])) return nullptr;
+    if (!raw.value(letters[i], PyTuple_GetItem(given[3], i), &values[i])) return nullptr;
   gCalled[index] = true;
   if (elements > kKeepLock) {
     PyThreadState* state = PyEval_SaveThread();
@@ -1299,6 +1301,7 @@ PyObject* callRaw(PyObject*, PyObject* const* given, Py_ssize_t count) {
   } else {
     status = tool::call(function.shape, function.address, values);
   }
+  if (*function.shapeLetters == 'u') return PyLong_FromUnsignedLong(status.u);
   if (status.i) return PyObject_CallFunction(gReport, "isO", status.i, function.name, given[1]);
   Py_RETURN_NONE;
 }
@@ -1428,6 +1431,10 @@ PyMODINIT_FUNC PyInit__hux() {
   if (PyModule_AddObjectRef(module, "operations", operations) < 0 ||
       PyModule_AddObjectRef(module, "statuses", statuses) < 0 || PyModule_AddObjectRef(module, "Operation", type) < 0 ||
       PyModule_AddStringConstant(module, "version", kVersion) < 0)
+    return nullptr;
+  Dl_info library = {};
+  dladdr(reinterpret_cast<void*>(&huxiGetLibVersion), &library);
+  if (PyModule_AddStringConstant(module, "library_path", library.dli_fname ? library.dli_fname : "") < 0)
     return nullptr;
   return module;
 }

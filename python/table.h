@@ -31,8 +31,8 @@ enum Layout : unsigned char { kNoLayout, kC1, kC2, kC3, kC4, kAC4, kP3, kP4, kOn
 struct Function {
   const char* name;
   tool::Any address;
-  int shape;            // in kShapes
-  const char* letters;  // of the parameters, see tools/registry
+  int shape;                 // of tool::call
+  const char* shapeLetters;  // of the result and the parameters, see tools/registry
 };
 
 struct Values {  // of a parameter or a result: none where the function has it not

@@ -2,22 +2,28 @@
 
 An operation takes arrays of the shape (H, W) or (H, W, C) and picks the C function by their elements and channels:
 hux.add(a, b, out=c). help(hux.add) shows its reference, hux.add.members the C functions that there are, and
-hux.add.which(a, b) the one that would run. hux.c has every function of the library as C declares it.
+hux.add.which(a, b) the one that would run. Plans (hux.FFT, hux.DCT, hux.WT, hux.DeconvFFT) hold tables for one shape.
+hux.c has every function of the library as C declares it.
 """
 import builtins as _builtins
+import collections as _collections
 import functools as _functools
-import re as _re
+import os as _os
+import sys as _sys
 import warnings as _warnings
 
 import numpy as _np
 
-from . import _hux
+from . import _front, _hux, _operations
+from ._front import complex_int16, complex_int32
 from ._hux import Operation  # noqa: F401
+from ._plans import DCT, DFT, FFT, WT, DeconvFFT, DeconvLR, Moments, moments  # noqa: F401
+from ._short import (Seed, convolve, get_num_threads, histogram, match, norm, pack_bits,  # noqa: F401
+                     set_num_threads, threads, unpack_bits)
+from ._table import RESULTS as _RESULTS
 
-__version__ = _hux.version
-
-complex_int16 = _np.dtype([("re", _np.int16), ("im", _np.int16)])
-complex_int32 = _np.dtype([("re", _np.int32), ("im", _np.int32)])
+__version__, library_path = _hux.version, _hux.library_path
+_HERE = _os.path.dirname(__file__) + _os.sep
 
 
 class Error(Exception):
@@ -48,26 +54,34 @@ def _report(status, function, operation):
     report.function, report.operation = function, operation
     if status < 0:
         raise report
-    _warnings.warn(report, stacklevel=2)
+    level, frame = 2, _sys._getframe(1)
+    while frame and frame.f_code.co_filename.startswith(_HERE):
+        level, frame = level + 1, frame.f_back
+    _warnings.warn(report, stacklevel=level)
 
 
 _dtypes = (_np.uint8, _np.int8, _np.uint16, _np.int16, _np.uint32, _np.int32, _np.float32, _np.float64, complex_int16,
            complex_int32, _np.complex64, _np.complex128, _np.bool_, _np.float16)  # in the order of Type in table.h
 _packed = _functools.partial(_np.array, order="C")
 _hux.setup(_np.empty, _np.zeros, _packed, _np.copyto, _np.dtype, (None, *map(_np.dtype, _dtypes)), _report)
-
-
-def _parameter_name(name):
-    """What a parameter of a function is called here: value is of pValue, alpha_value of alpha."""
-    plain = _re.sub(r"^pp?(?=[A-Z]|x[A-Z]|y[A-Z])", "", name)
-    plain = _re.sub(r"(?<=[a-z0-9])(?=[A-Z])|(?<=[A-Z])(?=[A-Z][a-z])", "_", plain).lower()
-    return {"round_mode": "round", "alpha": "alpha_value", "interpolation": "inter"}.get(plain, plain)
-
+_front.errors.update((_e.__name__.removesuffix("Error"), _e) for _v, _e in _statuses.items() if _v < 0)
 
 for _own in _hux.operations:
     if not _own.native:
-        continue
+        _call = getattr(_operations, _own.__name__)
+        _hux.implement(_own, _call, _functools.partial(_call, _asked=True))
+    elif _own.__name__ in _RESULTS:
+        _hux.name_results(_own, _collections.namedtuple(f"{_own.__name__}_results", _RESULTS[_own.__name__]))
     globals()[_own.__name__] = _own
+
+
+def __getattr__(name):
+    """What the library says of itself, when it is asked."""
+    if name == "library_version":
+        from . import c
+        return c.huxiGetLibVersion().contents.versionText.decode()
+    raise AttributeError(f"module 'hux' has no attribute {name!r}")
+
 
 # What `from hux import *` takes hides no builtin.
 __all__ = [_n for _n in globals() if not _n.startswith("_") and not hasattr(_builtins, _n)]

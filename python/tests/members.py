@@ -1,4 +1,6 @@
 """Each function of the library as a call of hux.c, and as the call of the operation that should come to the same."""
+import re
+
 import numpy as np
 
 import hux
@@ -9,6 +11,12 @@ DTYPES = {"8u": np.uint8, "8s": np.int8, "16u": np.uint16, "16s": np.int16, "32u
           "32fc": np.complex64, "64fc": np.complex128, "int": np.int32}
 OPERATIONS = {name: value for name, value in vars(hux).items() if isinstance(value, hux.Operation)}
 CHANNELS = {"C1": 1, "AC1": 1, "C2": 2, "C3": 3, "C4": 4, "AC4": 4, "P3": 3, "P4": 4, "AP4": 4}
+
+
+def parameter_name(name):
+    plain = re.sub(r"^pp?(?=[A-Z]|x[A-Z]|y[A-Z])", "", name)
+    plain = re.sub(r"(?<=[a-z0-9])(?=[A-Z])|(?<=[A-Z])(?=[A-Z][a-z])", "_", plain).lower()
+    return {"round_mode": "round", "alpha": "alpha_value", "interpolation": "inter"}.get(plain, plain)
 
 
 def pixels(shape, dtype, seed):
@@ -55,7 +63,7 @@ def member_call(name, shape=(6, 6)):
     arguments, sources, options, images, results, out = [], [], {}, {}, [], None
     reverse = entry["family"] in ("Sub", "Div") and not operation.endswith("C")
     for seed, p in enumerate(entry["parameters"]):
-        role, own = p["role"], hux._parameter_name(p["name"])
+        role, own = p["role"], parameter_name(p["name"])
         if role in ("source", "destination", "source_destination"):
             turned = operation == "Transpose" and role == "destination"
             image = images[p["name"]] = Image(entry, p, shape[::-1] if turned else shape, seed)

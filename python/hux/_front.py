@@ -1,0 +1,848 @@
+"""The operations that Python runs: windows, geometry, borders, tables, blocks, matching. Each frames, measures and lays
+out arrays, and calls one function of the library by _hux.call. What exists stands in _table, made from the registry."""
+from typing import Any
+
+import numpy as np
+
+from . import _hux
+from ._table import FUNCTIONS, INTERPOLATIONS, MEMBERS, REACH
+
+complex_int16 = np.dtype([("re", np.int16), ("im", np.int16)])
+complex_int32 = np.dtype([("re", np.int32), ("im", np.int32)])
+_KINDS: tuple[tuple[str, Any], ...] = (
+    ("8u", np.uint8), ("8s", np.int8), ("16u", np.uint16), ("16s", np.int16), ("32u", np.uint32), ("32s", np.int32),
+    ("64s", np.int64), ("32f", np.float32), ("64f", np.float64), ("16sc", complex_int16), ("32sc", complex_int32),
+    ("32fc", np.complex64), ("64fc", np.complex128))
+DTYPES: dict[str, np.dtype] = {code: np.dtype(kind) for code, kind in _KINDS}
+CODES = {dtype: code for code, dtype in DTYPES.items()}
+PROCESSED = {"C1": 1, "C2": 2, "C3": 3, "C4": 4, "AC4": 3, "P3": 3, "P4": 4}
+BORDERS = {"constant": 0, "replicate": 1, "edge": 1, "nearest": 1, "symmetric": 2, "reflect101": 3, "wrap": 4}
+errors: dict[str, type] = {}  # by their names without Error
+
+
+def refuse(name, text, error=ValueError):
+    raise error(f"{name}: {text}")
+
+
+def fail(name, error, text):
+    """In the way of the library, of what it would refuse if it were asked."""
+    report = errors[error](f"{name}: {text}")
+    report.operation = name
+    raise report
+
+
+class Member:
+    """A function: its place among all, types, layout, parameters with their letters, reach and masks of a window."""
+    __slots__ = ("index", "name", "types", "layout", "parameters", "letters", "in_place", "reach", "masks")
+
+    def __init__(self, index, name, types, layout, parameters, letters, in_place, reach, masks):
+        self.index, self.name, self.layout, self.letters, self.masks = index, name, layout, letters, masks
+        self.types, self.parameters = types.split(), parameters.split()
+        self.in_place, self.reach = in_place, REACH[reach] if reach is not None else None
+
+    def call(self, operation, elements, values):
+        _hux.call(self.index, operation, elements, tuple([values[name] for name in self.parameters]))
+
+
+class _Members(dict):
+    def __missing__(self, name):
+        own = self[name] = [Member(*entry) for entry in MEMBERS[name]]
+        return own
+
+
+members = _Members()
+
+
+def array(name, a, written=False):
+    if not isinstance(a, np.ndarray):
+        try:
+            a = np.asarray(memoryview(a))
+        except TypeError:
+            refuse(name, f"an array is expected, not {a!r}", TypeError)
+    if written and not a.flags.writeable:
+        refuse(name, f"{a!r} is read-only")
+    return a
+
+
+class Image:
+    """A source: rows upwards, pixels one after another, or planes of one step."""
+
+    def __init__(self, name, a, *, planes=False, channels=(1, 3, 4), moved=False):
+        self.planes = None
+        if planes and isinstance(a, (tuple, list)):
+            if len(a) not in (3, 4):
+                refuse(name, f"an image has 3 or 4 planes, not {len(a)}", TypeError)
+            own = [array(name, plane) for plane in a]
+            if any(p.ndim != 2 or p.shape != own[0].shape or p.dtype != own[0].dtype for p in own):
+                refuse(name, "planes are arrays of one shape (H, W) and one dtype")
+            if any(not _plain(p) or p.strides[0] != own[0].strides[0] for p in own):
+                own = [np.array(p, order="C") for p in own]
+            self.planes, a = tuple(own), own[0]
+        self.given = a = array(name, a)
+        self.axes = a.ndim
+        if a.ndim == 1:
+            a = a[None]
+        if not 2 <= a.ndim <= 3:
+            refuse(name, f"an image has the shape (H, W) or (H, W, C), a vector (N,); not {a.ndim} axes", TypeError)
+        self.dtype = a.dtype
+        if moved:  # any dtype of the width
+            code = {1: "8u", 2: "16s", 4: "32s"}.get(a.dtype.itemsize) if a.dtype.isnative else None
+            if code and a.dtype != DTYPES[code]:
+                a = np.array(a, order="C").view(DTYPES[code]) if not a.dtype.hasobject else a
+        self.code = CODES.get(a.dtype)
+        if self.code is None:
+            refuse(name, f"no function takes elements of {a.dtype}", TypeError)
+        self.channels = len(self.planes) if self.planes else a.shape[2] if a.ndim == 3 else 1
+        if self.channels not in channels:
+            refuse(name, f"the last axis has {', '.join(map(str, channels))} channels, not {self.channels}", TypeError)
+        if max(a.shape[:2]) >= 2**31 or a.shape[1] * self.channels * a.itemsize >= 2**31:
+            refuse(name, "sides and rows of an array end at 2^31 - 1")
+        if not a.size:
+            fail(name, "BadSize", "an empty array")
+        self.a = a if _plain(a) else np.array(a, order="C")
+        self.height, self.width = a.shape[:2]
+        self.layout = f"P{self.channels}" if self.planes else f"C{self.channels}"
+
+    @property
+    def pointer(self):
+        return self.planes or self.a
+
+    @property
+    def step(self):
+        return step_of(self.a)
+
+    def apart(self, out):
+        """A copy stands for the image where it shares bytes with out."""
+        outs = out if isinstance(out, tuple) else (out,)
+        if self.planes:
+            if any(np.may_share_memory(p, o) for p in self.planes for o in outs):
+                self.planes = tuple(np.array(p, order="C") for p in self.planes)
+                self.a = self.planes[0]
+        elif any(np.may_share_memory(self.a, o) for o in outs):
+            self.a = np.array(self.a, order="C")
+
+
+def step_of(a):
+    """Of a plain array. One row may have any stride."""
+    return a.strides[0] if a.shape[0] > 1 else max(a[0].nbytes, 1)
+
+
+def _plain(a):
+    """Whether pixels lie one after another, and rows upwards and apart."""
+    size = a.itemsize
+    if a.ndim == 3:
+        if a.strides[2] != size and a.shape[2] > 1:
+            return False
+        size *= a.shape[2]
+    return (a.shape[1] <= 1 or a.strides[1] == size) and (
+        a.shape[0] <= 1 or size * a.shape[1] <= a.strides[0] < 2**31 and a.strides[0] % a.itemsize == 0)
+
+
+def choose(name, image, alpha, dtype, own=lambda member: True):
+    """The member for an image: by type and layout, and by the type of the result where there are several."""
+    if alpha not in (None, "keep"):
+        refuse(name, f'alpha is "keep" or None, not {alpha!r}')
+    if alpha and image.channels != 4:
+        refuse(name, 'alpha="keep" is for four channels', TypeError)
+    layout = "AC4" if alpha and not image.planes else image.layout
+    found = [m for m in members[name] if m.types[0] == image.code and m.layout == layout and own(m)]
+    if dtype is not None:
+        code = CODES.get(np.dtype(dtype))
+        found = [m for m in found if m.types[-1] == code]
+    elif len(found) > 1:
+        found = [m for m in found if m.types[-1] == image.code] or found
+    if not found:
+        there = dict.fromkeys(
+            f"{CODE_NAMES.get(m.types[0], m.types[0])}"
+            f"{' to ' + CODE_NAMES.get(m.types[-1], m.types[-1]) if m.types[-1] != m.types[0] else ''} with "
+            f"{m.layout[1:] if m.layout[0] == 'C' else m.layout}".replace("AC4", '4 channels and alpha="keep"').replace(
+                "P3", "3 planes").replace("P4", "4 planes") for m in members[name])
+        refuse(name, f"no function for {image.dtype} with {image.channels} channel{'s' * (image.channels > 1)}"
+               f"{f' to {np.dtype(dtype)}' if dtype is not None else ''}"
+               f"{' and alpha=' + repr(alpha) if alpha else ''}; there are: {'; '.join(there)}", TypeError)
+    return found
+
+
+CODE_NAMES = {code: str(dtype) if dtype.names is None else f"complex_int{dtype.itemsize * 4}"
+              for code, dtype in DTYPES.items()} | {"24u": "uint8 with 3"}
+
+
+class Out:
+    """The destination: out itself where its rows and pixels lie plainly, else an array that is copied there in the end."""
+
+    def __init__(self, name, out, image, shape, dtype, channels, *, keep=None, zero=False, planes=0):
+        height, width = shape
+        axes = (height, width, channels) if channels > 1 or image.axes == 3 and image.channels == channels == 1 else shape
+        if image.axes == 1 and height == 1 and (out is None or getattr(out, "ndim", 2) == 1):
+            axes = (width,)
+        self.targets = ()
+        if out is None:
+            zero = zero or keep is not None
+            if planes:
+                self.result = self.pointer = tuple(np.zeros(shape, dtype) for _ in range(planes))
+                self.a = self.pointer[0]
+                return
+            self.result = np.zeros(axes, dtype) if zero else np.empty(axes, dtype)
+            self.pointer = self.a = self.result[None] if len(axes) == 1 else self.result
+            if keep is not None and keep.dtype == self.a.dtype and keep.shape == self.a.shape:
+                self.a[..., 3] = keep[..., 3]
+            return
+        self.result = out
+        if planes:
+            own = [array(name, o, True) for o in out] if isinstance(out, (tuple, list)) else None
+            if own is None or len(own) != planes:
+                refuse(name, f"out has {planes} planes, as the source", TypeError)
+            if any(a is not b and np.may_share_memory(a, b) for i, a in enumerate(own) for b in own[:i]) or \
+                    len({id(a) for a in own}) < planes:
+                refuse(name, "planes of out share memory")
+            for a in own:
+                self.check(name, a, shape, dtype)
+            if any(not _plain(a) or a.strides[0] != own[0].strides[0] for a in own):
+                self.targets = tuple(own)
+                own = [np.array(a, order="C") for a in own]
+            self.pointer, self.a = tuple(own), own[0]
+            return
+        a = array(name, out, True)
+        self.check(name, a, axes, dtype)
+        self.original = a
+        if len(axes) == 1:
+            a = a[None]
+        if not _plain(a):
+            size, count = a.itemsize, a.shape[2] if a.ndim == 3 else 1
+            across = abs(a.strides[1]) if a.shape[1] > 1 else size * count
+            packed = count == 1 or a.strides[2] == size
+            row = across * (a.shape[1] - 1) + size * count
+            if not packed or across not in ((3 * size, 4 * size, size) if count == 1 else (4 * size, count * size)) or \
+                    a.shape[1] > 1 and a.strides[1] < 0 or a.shape[0] > 1 and abs(a.strides[0]) < row:
+                refuse(name, "out must have its pixels one after another, and rows that do not overlap")
+            self.targets, a = (a,), np.array(a, order="C")
+        self.pointer = self.a = a
+
+    @staticmethod
+    def check(name, a, axes, dtype):
+        if a.dtype != dtype:
+            refuse(name, f"out must have the dtype {dtype}", TypeError)
+        if a.shape != tuple(axes):
+            refuse(name, f"out must have the shape {tuple(axes)}, not {a.shape}")
+
+    @property
+    def step(self):
+        return step_of(self.a)
+
+    def done(self):
+        for target, own in zip(self.targets, self.pointer if isinstance(self.pointer, tuple) else (self.pointer,)):
+            np.copyto(target, own)
+        return self.result
+
+
+def pair(name, what, value):
+    try:
+        x, y = (int(v.__index__()) for v in value)
+    except (TypeError, ValueError, AttributeError):
+        refuse(name, f"{what} is a pair of integers (x, y), not {value!r}", TypeError)
+    if not (-2**31 <= x < 2**31 and -2**31 <= y < 2**31):
+        refuse(name, f"{what} is beyond 32 bits")
+    return x, y
+
+
+def rectangle(name, what, value):
+    try:
+        x, y, w, h = (int(v.__index__()) for v in value)
+    except (TypeError, ValueError, AttributeError):
+        refuse(name, f"{what} is (x, y, width, height), not {value!r}", TypeError)
+    if not all(-2**31 <= v < 2**31 for v in (x, y, w, h)):
+        refuse(name, f"{what} is beyond 32 bits")
+    return x, y, w, h
+
+
+def rows_columns(name, shape):
+    try:
+        sides = tuple(int(v.__index__()) for v in shape)
+    except (TypeError, AttributeError):
+        sides = ()
+    if len(sides) not in (2, 3) or any(not 0 < v < 2**31 for v in sides):
+        refuse(name, f"shape is (H, W), not {shape!r}")
+    return sides[:2]
+
+
+def mask_of(name, value):
+    """(w, h), w for both, or "3x5": width and height."""
+    if isinstance(value, str):
+        parts = value.split("x")
+        if len(parts) == 2 and all(p.isdecimal() for p in parts):
+            return int(parts[0]), int(parts[1])
+        refuse(name, f'mask_size is a pair (width, height) or "3x3", not {value!r}')
+    if hasattr(value, "__index__"):
+        return int(value.__index__()), int(value.__index__())
+    return pair(name, "mask_size", value)
+
+
+def constants(name, value, dtype, count):
+    """One number for all channels or one for each, as elements."""
+    kinds = np.asarray(value)
+    if kinds.dtype.kind not in "iufcb" or kinds.ndim > 1 or kinds.ndim == 1 and len(kinds) != count:
+        refuse(name, f"a constant has one number, or here {count}; not {value!r}", TypeError)
+    if dtype.kind in "iu":
+        if kinds.dtype.kind not in "iub":
+            refuse(name, f"the constant {value!r} is no {dtype}", TypeError)
+        limits = np.iinfo(dtype)
+        if kinds.min() < limits.min or kinds.max() > limits.max:
+            refuse(name, f"the constant {value!r} is no {dtype}")
+    return np.ascontiguousarray(np.broadcast_to(kinds.astype(dtype), (count,)))
+
+
+def integers(name, what, value, low=-2**31, high=2**31 - 1):
+    a = np.asarray(value)
+    if a.dtype.kind not in "iub":
+        refuse(name, f"{what} must be integers", TypeError)
+    if a.size and (a.min() < low or a.max() > high):
+        refuse(name, f"{what} must lie in {low}..{high}")
+    return np.array(a, np.int32, order="C")
+
+
+def floats(name, what, value, shape, dtype=np.float64):
+    try:
+        given = np.asarray(value)
+        a = np.ascontiguousarray(given, dtype) if given.dtype.kind in "iufb" else None
+    except (TypeError, ValueError):
+        a = None
+    if a is None or a.shape != shape:
+        refuse(name, f"{what} has the shape {shape}")
+    return a
+
+
+def mode_of(name, border):
+    if border in ("reflect", "mirror"):
+        refuse(name, f'border="{border}" may mean symmetric (cba|abcd|dcb) or reflect101 (dcb|abcd|cba): say which')
+    if not isinstance(border, str) or border not in BORDERS:
+        refuse(name, f"border is one of {', '.join(map(repr, BORDERS))}, or None, not {border!r}")
+    return BORDERS[border]
+
+
+def framed(name, a, reach, border, value=0):
+    """The array with a border around it, and the part of it that the array was."""
+    left, top, right, bottom = reach
+    mode = mode_of(name, border)
+    shape = (a.shape[0] + top + bottom, a.shape[1] + left + right, *a.shape[2:])
+    whole = np.empty(shape, a.dtype)
+    channels = a.shape[2] if a.ndim == 3 else 1
+    if mode == 0 and a.dtype.names is None:
+        pixel = constants(name, value, a.dtype, channels).tobytes()
+    else:
+        pixel = bytes(a.itemsize * channels)
+    _hux.frame(a, whole, left, top, mode, pixel)
+    return whole, whole[top:, left:]
+
+
+# ---- Windows ---------------------------------------------------------------------------------------------------------
+
+
+def window(name, asked, sources, own, options):
+    image = Image(name, sources[0])
+    v, kernel = {}, None
+
+    if "kernel" in own:
+        kernel = np.asarray(own["kernel"])
+        flat = name != "filter"
+        if kernel.ndim != (1 if flat else 2) or not kernel.size or kernel.dtype.kind not in "iuf":
+            refuse(name, f"kernel is an array of {'one axis' if flat else 'two axes'} of numbers", TypeError)
+        whole = kernel.dtype.kind != "f" and image.code != "32f"
+        if not whole and own["divisor"] is not None:
+            refuse(name, "a divisor goes with integer kernels and images", TypeError)
+        found = choose(name, image, options.get("alpha"), None, lambda m: ("divisor" in m.parameters) == whole)
+        kernel = integers(name, "taps", kernel) if whole else np.ascontiguousarray(kernel, np.float32)
+        v["pKernel"], v["kernelSize"] = kernel, kernel.size if flat else kernel.shape[::-1]
+        v["divisor"] = 1 if own["divisor"] is None else own["divisor"]
+    else:
+        found = choose(name, image, options.get("alpha"), options.get("dtype"))
+    member = found[0]
+    if asked:
+        return member.name
+    types = dict(zip(member.parameters, member.letters))
+    fixed = member.masks is not None
+    if fixed:
+        size = mask_of(name, own["mask_size"])
+        if size[0] * 10 + size[1] not in member.masks or max(size) > 9:
+            words = ", ".join(f'"{m // 10}x{m % 10}"' for m in member.masks)
+            refuse(name, f"mask_size is one of {words}, not {own['mask_size']!r}", errors["BadMaskSize"])
+        v["mask"] = size[0] * 10 + size[1]
+        reach = size[0] // 2, size[1] // 2, size[0] // 2, size[1] // 2
+    else:
+        if "mask_size" in own and "maskSize" in types:
+            size = mask_of(name, own["mask_size"]) if types["maskSize"] == "S" else (int(own["mask_size"]),) * 2
+            v["maskSize"] = size if types["maskSize"] == "S" else size[0]
+        elif "mask_size" in own:  # of a member that has one mask only
+            if mask_of(name, own["mask_size"]) != (3, 3):
+                refuse(name, f"{member.name} has the mask_size \"3x3\" only", errors["BadMaskSize"])
+            size = (3, 3)
+        if "footprint" in own:
+            footprint = np.asarray(own["footprint"])
+            if footprint.ndim != 2 or footprint.dtype.kind not in "biu" or not footprint.size:
+                refuse(name, "footprint is an array of two axes, 0 where a pixel does not count", TypeError)
+            v["pMask"] = np.ascontiguousarray(footprint != 0, np.uint8)
+            size = v["maskSize"] = footprint.shape[::-1]
+        if kernel is not None:
+            size = v["kernelSize"] if kernel.ndim == 2 else (kernel.size,) * 2
+        for anchor in ("anchor", "xAnchor", "yAnchor"):
+            if anchor not in types:
+                continue
+            if min(size) < 1:
+                fail(name, "BadMaskSize", f"mask_size {size}")
+            given = own[{"anchor": "anchor", "xAnchor": "x_anchor", "yAnchor": "y_anchor"}[anchor]]
+            if types[anchor] == "P":
+                x, y = (size[0] // 2, size[1] // 2) if given is None else pair(name, "anchor", given)
+                v[anchor] = x, y
+            else:
+                x = y = v[anchor] = size[0] // 2 if given is None else int(given)
+            if not (0 <= x < size[0] and 0 <= y < size[1]):
+                fail(name, "BadAnchor", f"the anchor {v[anchor]} lies outside of the window")
+        reach = member.reach(v)
+    left, top, right, bottom = reach
+    if max(reach) > 2**30 or (image.width + left + right) * 16 > 2**31 or image.height + top + bottom > 2**31 - 1:
+        fail(name, "BadMaskSize", "the window is too large")
+    if options["border"] is None:
+        shape = image.height - top - bottom, image.width - left - right
+        if min(shape) < 1:
+            fail(name, "BadSize", "the image is smaller than the window")
+        keep = image.a[top:top + shape[0], left:left + shape[1]]
+    else:
+        shape, keep = (image.height, image.width), image.a
+    out = Out(name, options.get("out"), image, shape, DTYPES[member.types[-1]], image.channels,
+              keep=keep if member.layout == "AC4" else None)
+    if options["border"] is None:
+        if options.get("out") is not None:
+            image.apart(out.a)
+        whole, source = image.a, image.a[top:, left:]
+    else:
+        whole, source = framed(name, image.a, reach, options["border"], options["border_value"])
+    v.update(pSrc=source, srcStep=step_of(whole), pDst=out.pointer, dstStep=out.step)
+    v["roiSize"] = v["dstRoiSize"] = shape[::-1]
+    if "noise" in types:
+        v["noise"] = constants(name, own["noise"], np.dtype(np.float32), PROCESSED[member.layout]).copy()
+        size = np.zeros(1, np.int32)
+        _hux.call(FUNCTIONS["huxiFilterWienerGetBufferSize"], name, 0,
+                  (v["roiSize"], v["maskSize"], PROCESSED[member.layout], size))
+        v["pBuffer"] = np.empty(int(size[0]), np.uint8)
+    member.call(name, source.size, v)
+    return out.done()
+
+
+# ---- Geometry --------------------------------------------------------------------------------------------------------
+
+MATRICES = {"affine": (2, 3), "bilinear": (2, 4), "perspective": (3, 3)}
+
+
+def interpolation(name, word, smooth=False):
+    if not isinstance(word, str) or word not in INTERPOLATIONS:
+        refuse(name, f"inter is one of {', '.join(map(repr, INTERPOLATIONS))}, not {word!r}",
+               ValueError if isinstance(word, str) else TypeError)
+    value = INTERPOLATIONS[word]
+    return value - 2**31 if smooth else value
+
+
+def scaled(length, factor):
+    """Columns or rows that a length becomes."""
+    exact = length * factor
+    return int(min(exact + 1e-7, 2.0**31 - 1)) if exact >= 1 else 1 if exact >= 0.5 else 0
+
+
+def geometry(name, asked, sources, own, options):
+    yuv = name == "resize_yuv422"
+    image = Image(name, sources[0], planes=not yuv, channels=(2,) if yuv else (1, 3, 4))
+    member = choose(name, image, options.get("alpha"), None)[0]
+    if asked:
+        return member.name
+    roi = options.get("roi")
+    roi = (0, 0, image.width, image.height) if roi is None else rectangle(name, "roi", roi)
+    v = {"srcSize": (image.width, image.height), "srcRoi": roi,
+         "interpolation": interpolation(name, options["inter"], options.get("smooth_edge"))}
+    shape, given = options.get("shape"), options.get("out")
+    first = given[0] if isinstance(given, (tuple, list)) and given else given
+    if shape is not None:
+        shape = rows_columns(name, shape)
+    elif given is not None:
+        shape = np.shape(first)[:2] if np.ndim(first) > 1 else (1, *np.shape(first))
+    width = max(min(roi[2], image.width - roi[0]), 1)
+    height = max(min(roi[3], image.height - roi[1]), 1)
+    maps = []
+    for key, value in own.items():
+        if key in ("x_map", "y_map"):
+            own_map = array(name, value)
+            if own_map.ndim != 2 or own_map.dtype != np.float32 or not own_map.size:
+                refuse(name, "maps are arrays (H, W) of float32", TypeError)
+            maps.append(own_map if _plain(own_map) else np.array(own_map, order="C"))
+    if maps:
+        if maps[0].shape != maps[1].shape or shape is not None and tuple(shape) != maps[0].shape:
+            refuse(name, "maps and out must have one shape (H, W)")
+        shape = maps[0].shape
+        v.update(pxMap=maps[0], pyMap=maps[1], xMapStep=step_of(maps[0]), yMapStep=step_of(maps[1]))
+    if "size" in own:
+        if own["size"] is not None:
+            size = pair(name, "size", own["size"])
+            if min(size) < 1:
+                fail(name, "BadSize", f"size {size}")
+            if shape is not None and tuple(shape) != size[::-1]:
+                refuse(name, "size= and shape= or out= differ")
+            shape = size[::-1]
+        own = {"x_factor": own["x_factor"], "y_factor": own["y_factor"]}
+        if shape is None and None in own.values():
+            refuse(name, "needs a size, both factors, shape= or out=", TypeError)
+        if own["x_factor"] is None:
+            own["x_factor"] = shape[1] / width
+        if own["y_factor"] is None:
+            own["y_factor"] = shape[0] / height
+    for key, value in own.items():
+        c_name = "".join(part.title() if i else part for i, part in enumerate(key.split("_")))
+        if key == "coeffs":
+            v["coeffs"] = floats(name, key, value, MATRICES[name.split("_")[1]])
+        elif key in ("src_quad", "dst_quad"):
+            v[c_name] = floats(name, key, value, (4, 2))
+        elif key not in ("x_map", "y_map"):
+            v[c_name] = float(value)
+    if shape is None:
+        shape = image.height, image.width
+        if "xFactor" in v or "xFr" in v:
+            factors = [v["xFactor"], v["yFactor"]] if "xFactor" in v else [v["xFr"] and 1 / v["xFr"], v["yFr"] and 1 / v["yFr"]]
+            good = [f if f > 0 and f < 2**31 else 0 for f in factors]
+            shape = max(scaled(height, good[1]), 1), max(scaled(width, good[0]), 1)
+    if min(shape) < 1:
+        fail(name, "BadSize", f"shape {tuple(shape)}")
+    if shape[0] * shape[1] * image.channels >= 2**40:
+        refuse(name, "the result is too large")
+    out = Out(name, given, image, tuple(shape), image.dtype, image.channels, zero=True,
+              planes=len(image.planes or ()), keep=image.a if member.layout == "AC4" else None)
+    if given is not None:
+        image.apart(out.pointer)
+    roi = options.get("dst_roi")
+    roi = (0, 0, shape[1], shape[0]) if roi is None else rectangle(name, "dst_roi", roi)
+    if min(roi[:2]) < 0 or roi[0] + roi[2] > shape[1] or roi[1] + roi[3] > shape[0]:
+        refuse(name, f"dst_roi {roi} lies outside of the result")
+    v.update(pSrc=image.pointer, srcStep=image.step, pDst=out.pointer, dstStep=out.step, dstRoi=roi,
+             dstRoiSize=shape[::-1])
+    if "pBuffer" in member.parameters:
+        size = np.zeros(1, np.int32)
+        elements = 1 if image.planes else image.channels
+        _hux.call(FUNCTIONS["huxiResizeSqrPixelGetBufSize"], name, 0,
+                  (roi[2:], elements, v["interpolation"], size))
+        v["pBuffer"] = np.empty(max(int(size[0]), 1), np.uint8)
+    member.call(name, max(out.a.size, image.a.size), v)
+    return out.done()
+
+
+def map_(name, asked, sources, own, options):
+    """Quadrangles, matrices and shifts."""
+    member = members[name][0]
+    if asked:
+        return member.name
+    v, results = {}, []
+    for key, value in own.items():
+        c_name = "".join(part.title() if i else part for i, part in enumerate(key.split("_")))
+        if key == "src_roi":
+            v["srcRoi"] = rectangle(name, key, value)
+        elif key == "src_size":
+            v["srcSize"] = pair(name, key, value)
+        elif key == "coeffs":
+            v["coeffs"] = floats(name, key, value, MATRICES[name.split("_")[1]])
+        elif key == "quad":
+            v["quad"] = floats(name, key, value, (4, 2))
+        elif key == "inter":
+            v["interpolation"] = interpolation(name, value)
+        elif "p" + c_name in member.parameters:
+            v["p" + c_name] = np.array([value], np.float64)
+        else:
+            v[c_name] = float(value)
+    for parameter in member.parameters:
+        if parameter not in v:
+            shape = {"quad": (4, 2), "bound": (2, 2)}.get(parameter)
+            v[parameter] = np.zeros(shape or (MATRICES[name.split("_")[1]] if parameter == "coeffs" else 1))
+            results.append(v[parameter])
+    if name == "add_rotate_shift":
+        results = [v["pxShift"], v["pyShift"]]
+    member.call(name, 0, v)
+    return results[0] if len(results) == 1 else tuple(float(r[0]) for r in results)
+
+
+# ---- Borders, tables, blocks -----------------------------------------------------------------------------------------
+
+
+def border(name, asked, sources, own, options):
+    image = Image(name, sources[0], moved=True)
+    top, left = (pair(name, "the border", (own["top_border_height"], own["left_border_width"])))
+    shape, given = options.get("shape"), options.get("out")
+    out = None
+    if shape is not None:
+        shape = rows_columns(name, shape)
+    elif given is not None:
+        shape = array(name, given).shape[:2]
+    else:
+        shape = image.height + 2 * top, image.width + 2 * left
+    # In place, the source is the part of out that the border is around.
+    whole = given if isinstance(given, np.ndarray) and given.ndim == image.given.ndim > 1 else None
+    inside = whole is not None and min(top, left) >= 0 and top + image.height <= whole.shape[0] and \
+        left + image.width <= whole.shape[1] and image.a is image.given and whole.strides == image.given.strides and \
+        _address(whole[top:, left:]) == _address(image.a) and _plain(whole) and whole.flags.writeable
+    found = choose(name, image, options.get("alpha"), None)
+    member = next((m for m in found if m.in_place == inside), next(m for m in found if not m.in_place))
+    if asked:
+        return member.name
+    if min(top, left) < 0 or top + image.height > shape[0] or left + image.width > shape[1]:
+        fail(name, "BadSize", "the destination does not hold the image and its border")
+    v = {"srcRoiSize": (image.width, image.height), "dstRoiSize": shape[::-1], "topBorderHeight": top,
+         "leftBorderWidth": left}
+    if "value" in own:
+        values = constants(name, own["value"], image.dtype, PROCESSED[member.layout]).view(DTYPES[image.code])
+        v["value"], v["pValue"] = values[0], values
+    if member.in_place:
+        v.update(pSrc=image.a, srcDstStep=step_of(whole))
+        member.call(name, whole.size, v)
+        return given
+    out = Out(name, given, image, tuple(shape), image.dtype, image.channels, zero=member.layout == "AC4")
+    image.apart(out.a)
+    v.update(pSrc=image.a, srcStep=image.step, pDst=out.a, dstStep=out.step)
+    member.call(name, out.a.size, v)
+    return out.done()
+
+
+def _address(a):
+    return a.__array_interface__["data"][0]
+
+
+def _lists(name, what, value, channels, make):
+    """One sequence for all channels, or one for each."""
+    several = isinstance(value, (list, tuple)) and len(value) == channels and np.ndim(value[0]) == 1
+    if isinstance(value, np.ndarray) and value.ndim == 2 and len(value) == channels:
+        several = True
+    lists = [make(one) for one in value] if several else [make(value)] * channels
+    if any(one.ndim != 1 or len(one) >= 2**31 for one in lists):
+        refuse(name, f"{what}: one sequence of numbers, or one for each of {channels} channels")
+    return lists
+
+
+def levels(name, asked, sources, own, options):
+    image = Image(name, sources[0])
+    found = choose(name, image, options.get("alpha"), None)
+    given = options.get("out")
+    same = isinstance(given, np.ndarray) and _same(given, image.given) and _shares(image.a, given)
+    member = next((m for m in found if m.in_place == same), found[0])
+    if asked:
+        return member.name
+    count = PROCESSED[member.layout]
+    if image.code == "32f":
+        def numbers(what):
+            return lambda value: floats(name, what, value, np.shape(value), np.float32)
+    else:
+        def numbers(what):
+            return lambda value: integers(name, what, value)
+    v = {"pSrc": image.a, "srcStep": image.step, "roiSize": (image.width, image.height)}
+    one = count == 1
+
+    def put(c_name, lists):
+        v[c_name] = lists[0] if one else tuple(lists)
+
+    if name == "histogram_even":
+        n = integers(name, "n_levels", own["n_levels"])
+        if n.ndim > 1 or n.ndim == 1 and len(n) != count:
+            refuse(name, f"n_levels has one number, or here {count}")
+        n = np.ascontiguousarray(np.broadcast_to(n, (count,)))
+        if n.min() < 2 or n.max() > 2**28:
+            fail(name, "BadHistLevels", f"n_levels {own['n_levels']!r}")
+        tables = [np.zeros(k, np.int32) for k in n]
+        for key, c_name in (("lower_level", "lowerLevel"), ("upper_level", "upperLevel")):
+            bound = constants(name, own[key], np.dtype(np.int32), count)
+            v[c_name] = bound[0] if one else bound
+    else:
+        tables = _lists(name, "levels", own["levels"], count, numbers("levels"))
+        n = np.array([len(t) for t in tables], np.int32)
+        if n.min() < 2:
+            fail(name, "BadLutLevels" if "values" in own else "BadHistLevels", "two levels at least")
+    put("pLevels", tables)
+    v["nLevels"] = int(n[0]) if one else n
+    if "values" in own:
+        values = _lists(name, "values", own["values"], count, numbers("values"))
+        for table, value in zip(tables, values):
+            if len(table) != len(value):
+                refuse(name, "there is one value to a level")
+            limits = np.iinfo(image.dtype) if image.dtype.kind in "iu" else None
+            if limits and (table[0] < limits.min or table[-1] > limits.max + 1):
+                refuse(name, f"levels lie in {limits.min}..{limits.max + 1}")
+        put("pValues", values)
+        if member.in_place:
+            v.update(pSrcDst=image.a, srcDstStep=image.step)
+            member.call(name, image.a.size, v)
+            return given
+        out = Out(name, given, image, (image.height, image.width), image.dtype, image.channels,
+                  keep=image.a if member.layout == "AC4" else None)
+        image.apart(out.a)
+        v.update(pSrc=image.a, srcStep=image.step, pDst=out.a, dstStep=out.step)
+        member.call(name, image.a.size, v)
+        return out.done()
+    counts = [np.zeros(k - 1, np.int32) for k in n]
+    put("pHist", counts)
+    member.call(name, image.a.size, v)
+    results = counts[0] if one else np.array(counts) if len(set(n.tolist())) == 1 else counts
+    if name != "histogram_even":
+        return results
+    return results, tables[0] if one else np.array(tables) if len(set(n.tolist())) == 1 else tables
+
+
+def _same(a, b):
+    return a is b or (a.shape == b.shape and a.strides == b.strides and a.dtype == b.dtype and _address(a) == _address(b))
+
+
+def _shares(a, given):
+    """Whether a function writes to given when it writes to a."""
+    return _address(a) == _address(given) and given.flags.writeable
+
+
+def palette(name, asked, sources, own, options):
+    image = Image(name, sources[0], channels=(1,))
+    table = np.asarray(own["table"])
+    wide = table.ndim == 2 and table.shape[1] == 3 and table.dtype == np.uint8
+    code = "24u" if wide else CODES.get(table.dtype) if table.ndim == 1 else None
+    member = next((m for m in members[name] if m.types == [image.code, code]), None)
+    if member is None:
+        refuse(name, "a table of bytes (of uint16 images), of uint32, or of (N, 3) bytes is expected, and an image of "
+               "uint8 or uint16", TypeError)
+    if asked:
+        return member.name
+    bits = own["n_bit_size"]
+    if bits is None:
+        bits = len(table).bit_length() - 1
+    bits = int(bits)
+    if bits < 1 or bits > image.dtype.itemsize * 8:
+        fail(name, "BadBitSize", f"n_bit_size {bits}")
+    if len(table) < 1 << bits:
+        refuse(name, f"a table of {1 << bits} entries is expected")
+    out = Out(name, options.get("out"), image, (image.height, image.width), table.dtype, 3 if wide else 1)
+    image.apart(out.a)
+    member.call(name, image.a.size, {
+        "pSrc": image.a, "srcStep": image.step, "pDst": out.a, "dstStep": out.step,
+        "roiSize": (image.width, image.height), "pTable": np.ascontiguousarray(table), "nBitSize": bits})
+    return out.done()
+
+
+def blocks(name, asked, sources, own, options):
+    """Blocks of 64 samples, (8, 8) or (64,); rows at a distance are parts of images."""
+    a = array(name, sources[0])
+    if a.shape not in ((8, 8), (64,)):
+        refuse(name, f"a block is (8, 8) or (64,), not {a.shape}")
+    given, dtype = options.get("out"), options.get("dtype")
+    out = array(name, given, True) if given is not None else None
+    if out is not None and out.shape not in ((8, 8), (64,)):
+        refuse(name, f"a block is (8, 8) or (64,), not {out.shape}")
+    code = CODES.get(a.dtype)
+    wanted = CODES.get(out.dtype if out is not None else np.dtype(dtype) if dtype is not None else a.dtype)
+    apart = a.ndim == 2 and not a.flags.c_contiguous and _plain(a)
+    apart_out = out is not None and out.ndim == 2 and not out.flags.c_contiguous and _plain(out)
+    here = [m for m in members[name] if m.types[0] == code]
+    if out is None and dtype is None:
+        here = [m for m in here if m.types[-1] == code] or here
+    else:
+        here = [m for m in here if m.types[-1] == wanted]
+    same = out is not None and _same(a, out) and a.flags.c_contiguous
+
+    def rank(m):  # the form for how the arrays lie; others take copies
+        return (m.in_place != same, ("srcStep" in m.parameters) != apart, ("dstStep" in m.parameters) != apart_out)
+
+    if not here:
+        there = dict.fromkeys(" to ".join(CODE_NAMES[t] for t in dict.fromkeys(m.types)) for m in members[name])
+        refuse(name, f"no function for {a.dtype}; there are: {'; '.join(there)}", TypeError)
+    member = min(here, key=rank)
+    if asked:
+        return member.name
+    v = {"".join(p.title() if i else p for i, p in enumerate(key.split("_"))): int(integers(name, key, value))
+         for key, value in own.items()}
+    if member.in_place and not same:
+        refuse(name, f"{member.name} works in place only")
+    for key in ("clipMin", "clipMax"):
+        if key in v and not 0 <= v[key] <= 255:
+            refuse(name, f"the constant {v[key]} is no uint8")
+    if "addVal" in v and not -2**15 <= v["addVal"] < 2**15:
+        refuse(name, f"the constant {v['addVal']} is no int16")
+    if same and member.in_place:
+        v["pSrcDst"] = a
+        member.call(name, 64, v)
+        return given
+    if not ("srcStep" in member.parameters and _plain(a.reshape(8, 8) if a.ndim == 1 else a)):
+        a = np.array(a, order="C")
+    a = a.reshape(8, 8) if a.ndim == 1 else a
+    result_type = DTYPES[member.types[-1]]
+    direct = out is not None and (out.flags.c_contiguous or "dstStep" in member.parameters and apart_out) and \
+        not np.may_share_memory(a, out)
+    if out is not None and out.dtype != result_type:
+        refuse(name, f"out must have the dtype {result_type}", TypeError)
+    result = out if direct else np.empty((8, 8), result_type)
+    v.update(pSrc=a, srcStep=step_of(a), pDst=result, dstStep=result.strides[0] if result.ndim == 2 else 8 * result.itemsize)
+    member.call(name, 64, v)
+    if out is None:
+        return result if sources[0].ndim == 2 else result.reshape(64)
+    if not direct:
+        out[...] = result.reshape(out.shape)
+    return given
+
+
+# ---- Convolution and matching ----------------------------------------------------------------------------------------
+
+
+def _two(name, sources):
+    a, b = (Image(name, s) for s in sources)
+    if a.dtype != b.dtype:
+        refuse(name, f"the sources have {a.dtype} and {b.dtype}; there is no promotion", TypeError)
+    if a.channels != b.channels:
+        refuse(name, "the sources differ in channels")
+    return a, b
+
+
+def convolution(name, asked, sources, own, options):
+    a, b = _two(name, sources)
+    member = choose(name, a, options.get("alpha"), None)[0]
+    if asked:
+        return member.name
+    if name == "conv_full":
+        shape = a.height + b.height - 1, a.width + b.width - 1
+    else:
+        big, small = (b, a) if a.width < b.width or a.height < b.height else (a, b)
+        shape = big.height - small.height + 1, big.width - small.width + 1
+        if min(shape) < 1:
+            fail(name, "BadSize", "neither image lies within the other")
+    v = {}
+    if "divisor" in member.parameters:
+        v["divisor"] = 1 if own["divisor"] is None else own["divisor"]
+    elif own["divisor"] is not None:
+        refuse(name, "a divisor goes with integer images", TypeError)
+    out = Out(name, options.get("out"), a, shape, a.dtype, a.channels, keep=a.a if member.layout == "AC4" else None)
+    a.apart(out.a)
+    b.apart(out.a)
+    member.call(name, out.a.size * 16, v | {
+        "pSrc1": a.a, "src1Step": a.step, "src1Size": (a.width, a.height), "pSrc2": b.a, "src2Step": b.step,
+        "src2Size": (b.width, b.height), "pDst": out.a, "dstStep": out.step})
+    return out.done()
+
+
+def match(name, asked, sources, own, options):
+    a, b = _two(name, sources)
+    given = options.get("out")
+    dtype = options.get("dtype")
+    if dtype is None and given is not None:
+        dtype = array(name, given).dtype
+    member = choose(name, a, options.get("alpha"), dtype)[0]
+    if asked:
+        return member.name
+    extent = name.split("_")[2]
+    more = {"full": 1, "same": 0, "valid": -1}[extent]
+    shape = a.height + more * (b.height - 1), a.width + more * (b.width - 1)
+    if b.width > a.width or b.height > a.height:
+        fail(name, "BadSize", "the template is larger than the image")
+    v = {}
+    if "scaleFactor" in member.parameters:
+        v["scaleFactor"] = int(integers(name, "shift", options["shift"]))
+    elif options["shift"]:
+        refuse(name, f"no shift for {DTYPES[member.types[-1]]}", TypeError)
+    dtype = DTYPES[member.types[-1]]
+    out = Out(name, given, a, shape, dtype, a.channels, keep=a.a if member.layout == "AC4" else None)
+    a.apart(out.a)
+    b.apart(out.a)
+    member.call(name, out.a.size * 16, v | {
+        "pSrc": a.a, "srcStep": a.step, "srcRoiSize": (a.width, a.height), "pTpl": b.a, "tplStep": b.step,
+        "tplRoiSize": (b.width, b.height), "pDst": out.a, "dstStep": out.step})
+    return out.done()
