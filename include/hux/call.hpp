@@ -1,5 +1,5 @@
-// How functions of the C++ front call the C library: arguments of any pointer type, sizes that must agree, windows over a
-// frame of the source, work memory. Not for use by itself.
+// How functions of the C++ front call the C library: arguments of any pointer type, sizes that must agree, windows over
+// a frame of the source, work memory. Not for use by itself.
 #ifndef HUX_CALL_HPP
 #define HUX_CALL_HPP
 
@@ -78,20 +78,12 @@ template <class T>
 struct numbers {
   const T* at;
   template <class U>
-    requires std::is_arithmetic_v<T>
-  operator const U*() const {
-    return reinterpret_cast<const U*>(at);
-  }
+  requires std::is_arithmetic_v<T>
+  operator const U*() const { return reinterpret_cast<const U*>(at); }
   template <class U>
-    requires(!std::is_arithmetic_v<T>)
-  operator const U*() const {
-    return reinterpret_cast<const U*>(at);
-  }
+  requires(!std::is_arithmetic_v<T>) operator const U*() const { return reinterpret_cast<const U*>(at); }
   template <class U>
-    requires(!std::is_pointer_v<U>)
-  operator U() const {
-    return std::bit_cast<U>(*at);
-  }
+  requires(!std::is_pointer_v<U>) operator U() const { return std::bit_cast<U>(*at); }
 };
 
 template <class T, int C>
@@ -119,10 +111,7 @@ address at(const std::array<T, N>& values) {
   return {values.data()};
 }
 template <class T>
-  requires std::is_arithmetic_v<T>
-address at(const T& value) {
-  return {&value};
-}
+requires std::is_arithmetic_v<T> address at(const T& value) { return {&value}; }
 template <class T, int C>
 numbers<T> at(const constant<T, C>& values) {
   return {values.data()};
@@ -217,7 +206,8 @@ void copy_rows(const view<const T, C>& source, const view<T, C>& destination) {
 }
 template <class T>
 void copy_rows(const line<const T>& source, const line<T>& destination) {
-  if (source.size() > 0) std::memmove(destination.data(), source.data(), sizeof(T) * static_cast<std::size_t>(source.size()));
+  if (source.size() > 0)
+    std::memmove(destination.data(), source.data(), sizeof(T) * static_cast<std::size_t>(source.size()));
 }
 
 // Memory for the time of a call; null where there is none.
@@ -244,7 +234,8 @@ inline int inside(std::int64_t index, int n, border rule) {
   auto modulo = [&](std::int64_t period) { return (index % period + period) % period; };
   std::int64_t at = 0;
   switch (rule) {
-    case border::constant: return -1;
+    case border::constant:
+      return -1;
     case border::symmetric:
       at = modulo(2LL * n);
       return static_cast<int>(at < n ? at : 2LL * n - 1 - at);
@@ -252,8 +243,10 @@ inline int inside(std::int64_t index, int n, border rule) {
       if (n == 1) return 0;
       at = modulo(2LL * n - 2);
       return static_cast<int>(at < n ? at : 2LL * n - 2 - at);
-    case border::wrap: return static_cast<int>(modulo(n));
-    default: return index < 0 ? 0 : n - 1;
+    case border::wrap:
+      return static_cast<int>(modulo(n));
+    default:
+      return index < 0 ? 0 : n - 1;
   }
 }
 
@@ -319,9 +312,8 @@ inline int anchored(int anchor, int window) { return anchor == INT_MIN ? window 
 
 // A region of an image, or all of it where it was left out.
 inline rect whole(rect region, extent size) {
-  return region.width == 0 && region.height == 0 && region.x == 0 && region.y == 0
-             ? rect{0, 0, size.width, size.height}
-             : region;
+  return region.width == 0 && region.height == 0 && region.x == 0 && region.y == 0 ? rect{0, 0, size.width, size.height}
+                                                                                   : region;
 }
 
 // A factor that was left out takes the source region to the destination.

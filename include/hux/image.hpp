@@ -10,8 +10,8 @@
 
 namespace hux {
 
-// Rows are aligned as the C library does it. Pixels start as 0. Copies are deep; a moved-from image is empty. An image is
-// a view where one is asked for, as a destination too.
+// Rows are aligned as the C library does it. Pixels start as 0. Copies are deep; a moved-from image is empty. An image
+// is a view where one is asked for, as a destination too.
 template <element T, int C>
 class image : public view<T, C> {
  public:
@@ -19,7 +19,7 @@ class image : public view<T, C> {
   image(int width, int height) : image(extent{width, height}) {}
   // Throws std::bad_alloc, and std::length_error where a side is below 0.
   explicit image(extent size) : view<T, C>(allocate(size)) {
-    for (int y = 0; y < this->height(); ++y) std::memset(this->row(y), 0, row_bytes(this->width()));
+    for (int y = 0; y < this->height(); ++y) std::memset(static_cast<void*>(this->row(y)), 0, row_bytes(this->width()));
   }
   explicit image(view<const T, C> other) : view<T, C>(allocate(other.size())) { take(other); }
   image(const image& other) : image(view<const T, C>(other)) {}
@@ -57,7 +57,8 @@ class image : public view<T, C> {
   }
 
   void take(view<const T, C> other) {
-    for (int y = 0; y < this->height(); ++y) std::memcpy(this->row(y), other.row(y), row_bytes(this->width()));
+    for (int y = 0; y < this->height(); ++y)
+      std::memcpy(static_cast<void*>(this->row(y)), other.row(y), row_bytes(this->width()));
   }
 };
 

@@ -1,4 +1,5 @@
 // Made by tools/cpp_front from the headers of the C library.
+// clang-format off
 // Functions on lines: vectors of elements without gaps.
 //
 // Comments name the functions of C, whose header tells units, statuses and the order of checks. In addition all

@@ -51,8 +51,8 @@ namespace nothrow {
 
 // huxiHistogramRange: counts the pixels between levels, by channel; of n levels there are n - 1 bins.
 template <readable V, class S = value_type_of<V>, int CS = layout_of<V>>
-  requires exists<members::histogram_range<S, CS>>
-result<counts<CS>> histogram(const V& src, const lists<level_type<S>, CS>& levels) {
+requires exists<members::histogram_range<S, CS>> result<counts<CS>> histogram(const V& src,
+                                                                              const lists<level_type<S>, CS>& levels) {
   const view<const S, CS> source = src;
   const detail::list_pointers<const level_type<S>> levels_of(levels);
   result<counts<CS>> out;
@@ -61,17 +61,16 @@ result<counts<CS>> histogram(const V& src, const lists<level_type<S>, CS>& level
   // The callee refuses fewer than two levels, and a null pointer before that.
   for (int c = 0; c < counters.count; ++c)
     if (levels_of.lengths[c] < 2) return {status::bad_hist_levels};
-  out.status = detail::call<members::histogram_range<S, CS>>(detail::at(source), source.step(), source.size(), counters.at(),
-                                                             levels_of.at(), levels_of.size());
+  out.status = detail::call<members::histogram_range<S, CS>>(detail::at(source), source.step(), source.size(),
+                                                             counters.at(), levels_of.at(), levels_of.size());
   return out;
 }
 
-// huxiHistogramEven: counts the pixels in bins of one width from lower to upper, which is outside of the last, and tells
-// the levels between them.
+// huxiHistogramEven: counts the pixels in bins of one width from lower to upper, which is outside of the last, and
+// tells the levels between them.
 template <readable V, class S = value_type_of<V>, int CS = layout_of<V>>
-  requires exists<members::histogram_even<S, CS>>
-result<even_histogram<CS>> histogram_even(const V& src, values<int, CS> bins, values<std::int32_t, CS> lower,
-                                          values<std::int32_t, CS> upper) {
+requires exists<members::histogram_even<S, CS>> result<even_histogram<CS>> histogram_even(
+    const V& src, values<int, CS> bins, values<std::int32_t, CS> lower, values<std::int32_t, CS> upper) {
   const view<const S, CS> source = src;
   result<even_histogram<CS>> out;
   int lengths[4] = {};
@@ -81,21 +80,23 @@ result<even_histogram<CS>> histogram_even(const V& src, values<int, CS> bins, va
   }
   if (!detail::resize<CS>(out.value.counts, lengths, 1) || !detail::resize<CS>(out.value.levels, lengths, 0))
     return {status::no_mem};
-  detail::list_pointers<std::int32_t> counters(detail::spans(out.value.counts)), levels(detail::spans(out.value.levels));
-  out.status = detail::call<members::histogram_even<S, CS>>(detail::at(source), source.step(), source.size(), counters.at(),
-                                                            levels.at(), levels.size(), detail::at(lower), detail::at(upper));
+  detail::list_pointers<std::int32_t> counters(detail::spans(out.value.counts)),
+      levels(detail::spans(out.value.levels));
+  out.status =
+      detail::call<members::histogram_even<S, CS>>(detail::at(source), source.step(), source.size(), counters.at(),
+                                                   levels.at(), levels.size(), detail::at(lower), detail::at(upper));
   return out;
 }
 
 }  // namespace nothrow
 
 template <readable V, class S = value_type_of<V>, int CS = layout_of<V>>
-  requires exists<members::histogram_range<S, CS>>
+requires exists<members::histogram_range<S, CS>>
 [[nodiscard]] counts<CS> histogram(const V& src, const lists<level_type<S>, CS>& levels) {
   return detail::checked(nothrow::histogram(src, levels), "histogram");
 }
 template <readable V, class S = value_type_of<V>, int CS = layout_of<V>>
-  requires exists<members::histogram_even<S, CS>>
+requires exists<members::histogram_even<S, CS>>
 [[nodiscard]] even_histogram<CS> histogram_even(const V& src, values<int, CS> bins, values<std::int32_t, CS> lower,
                                                 values<std::int32_t, CS> upper) {
   return detail::checked(nothrow::histogram_even(src, bins, lower, upper), "histogram_even");
@@ -114,17 +115,13 @@ class moments {
     record_.reset(record);
   }
   // In memory of the caller's, of bytes() at least and aligned to 16.
-  explicit moments(std::span<std::byte> memory)
-    requires exists<members::moment_init<K>>
-  {
+  explicit moments(std::span<std::byte> memory) requires exists<members::moment_init<K>> {
     if (static_cast<std::int64_t>(memory.size()) < bytes()) throw error(status::bad_size, "moments");
     auto* record = reinterpret_cast<Record*>(memory.data());
     detail::checked(detail::call<members::moment_init<K>>(record, huxHintNone), "moments");
     record_ = {record, ender{false}};
   }
-  static int bytes()
-    requires exists<members::moment_get_state_size<K>>
-  {
+  static int bytes() requires exists<members::moment_get_state_size<K>> {
     int size = 0;
     detail::checked(detail::call<members::moment_get_state_size<K>>(huxHintNone, &size), "moments::bytes");
     return size;
@@ -135,23 +132,27 @@ class moments {
   }
 
   template <readable V, class S = value_type_of<V>, int CS = layout_of<V>>
-    requires(exists<members::moments64f<S, CS>> && (std::is_same_v<K, double> || exists<members::moments64s<S, CS>>))
-  void measure(const V& src) {
+  requires(exists<members::moments64f<S, CS>> &&
+           (std::is_same_v<K, double> || exists<members::moments64s<S, CS>>)) void measure(const V& src) {
     const view<const S, CS> source = src;
     if constexpr (std::is_same_v<K, double>)
-      detail::checked(detail::call<members::moments64f<S, CS>>(detail::at(source), source.step(), source.size(), record_.get()),
-                      "moments::measure");
+      detail::checked(
+          detail::call<members::moments64f<S, CS>>(detail::at(source), source.step(), source.size(), record_.get()),
+          "moments::measure");
     else
-      detail::checked(detail::call<members::moments64s<S, CS>>(detail::at(source), source.step(), source.size(), record_.get()),
-                      "moments::measure");
+      detail::checked(
+          detail::call<members::moments64s<S, CS>>(detail::at(source), source.step(), source.size(), record_.get()),
+          "moments::measure");
   }
 
   // Integers are multiplied by 2^-shift; of doubles, shift is not looked at.
   [[nodiscard]] K spatial(int x_order, int y_order, int channel = 0, point offset = {}, int shift = 0) const {
     return get<members::get_spatial_moment<K>>("spatial", shift, x_order, y_order, channel, offset);
   }
-  [[nodiscard]] K normalized_spatial(int x_order, int y_order, int channel = 0, point offset = {}, int shift = 0) const {
-    return get<members::get_normalized_spatial_moment<K>>("normalized_spatial", shift, x_order, y_order, channel, offset);
+  [[nodiscard]] K normalized_spatial(int x_order, int y_order, int channel = 0, point offset = {},
+                                     int shift = 0) const {
+    return get<members::get_normalized_spatial_moment<K>>("normalized_spatial", shift, x_order, y_order, channel,
+                                                          offset);
   }
   [[nodiscard]] K central(int x_order, int y_order, int channel = 0, int shift = 0) const {
     return get<members::get_central_moment<K>>("central", shift, x_order, y_order, channel);
@@ -161,7 +162,8 @@ class moments {
   }
   [[nodiscard]] std::array<K, 7> hu(int channel = 0, int shift = 0) const {
     std::array<K, 7> out = {};
-    detail::checked(detail::call_with<members::get_hu_moments<K>>(shift, record_.get(), channel, out.data()), "moments::hu");
+    detail::checked(detail::call_with<members::get_hu_moments<K>>(shift, record_.get(), channel, out.data()),
+                    "moments::hu");
     return out;
   }
 
@@ -193,7 +195,8 @@ struct bits {
 namespace nothrow {
 
 // huxiConvert_1u8u: packed bits as bytes of 0 and 255. src is as many bytes wide as hold a row's bits.
-[[nodiscard]] inline status unpack_bits(source<std::uint8_t, 1> src, view<std::uint8_t, 1> dst, const bits& options = {}) {
+[[nodiscard]] inline status unpack_bits(source<std::uint8_t, 1> src, view<std::uint8_t, 1> dst,
+                                        const bits& options = {}) {
   if (src.height() != dst.height() || detail::wide(src.width()) * 8 < detail::wide(dst.width()) + (options.offset & 7))
     return status::bad_size;
   return detail::call<huxiConvert_1u8u_C1R>(src.data(), src.step(), options.offset, dst.data(), dst.step(), dst.size());

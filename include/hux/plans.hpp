@@ -1,6 +1,6 @@
 // Transforms and restorations that work by a plan: contexts of the C library, which move and are not copied. A plan
-// serves any number of calls, and of threads at once where its functions are const: each call has work memory of its own,
-// the caller's where options name it.
+// serves any number of calls, and of threads at once where its functions are const: each call has work memory of its
+// own, the caller's where options name it.
 //
 //   hux::fft<float> plan({512, 256});
 //   plan.forward(image, spectrum);
@@ -126,7 +126,9 @@ struct dft_tables<std::complex<float>> {
 
 // The binary logarithm of a power of two, or what the callee refuses.
 inline int order_of(int length) {
-  return length > 0 && std::has_single_bit(static_cast<unsigned>(length)) ? std::countr_zero(static_cast<unsigned>(length)) : -1;
+  return length > 0 && std::has_single_bit(static_cast<unsigned>(length))
+             ? std::countr_zero(static_cast<unsigned>(length))
+             : -1;
 }
 
 // A Fourier transform of images of one size.
@@ -147,22 +149,24 @@ class fourier {
 
   // A real image to its packed spectrum, or a complex one to its spectrum; and back.
   template <readable V, class D, int C, class S = value_type_of<V>>
-    requires exists<Tables::template forward<D, C, S>>
+  requires exists<Tables::template forward<D, C, S>>
   [[nodiscard]] status try_forward(const V& src, view<D, C> dst, const Options<S, D>& options = {}) const {
-    return run<Tables::template forward<D, C, S>, Tables::template forward_in_place<D, C, S>>(view<const S, C>(src), dst, options);
+    return run<Tables::template forward<D, C, S>, Tables::template forward_in_place<D, C, S>>(view<const S, C>(src),
+                                                                                              dst, options);
   }
   template <readable V, class D, int C, class S = value_type_of<V>>
-    requires exists<Tables::template inverse<D, C, S>>
+  requires exists<Tables::template inverse<D, C, S>>
   [[nodiscard]] status try_inverse(const V& src, view<D, C> dst, const Options<S, D>& options = {}) const {
-    return run<Tables::template inverse<D, C, S>, Tables::template inverse_in_place<D, C, S>>(view<const S, C>(src), dst, options);
+    return run<Tables::template inverse<D, C, S>, Tables::template inverse_in_place<D, C, S>>(view<const S, C>(src),
+                                                                                              dst, options);
   }
   template <readable V, class D, int C, class S = value_type_of<V>>
-    requires exists<Tables::template forward<D, C, S>>
+  requires exists<Tables::template forward<D, C, S>>
   void forward(const V& src, view<D, C> dst, const Options<S, D>& options = {}) const {
     checked(try_forward(src, dst, options), "fourier::forward");
   }
   template <readable V, class D, int C, class S = value_type_of<V>>
-    requires exists<Tables::template inverse<D, C, S>>
+  requires exists<Tables::template inverse<D, C, S>>
   void inverse(const V& src, view<D, C> dst, const Options<S, D>& options = {}) const {
     checked(try_inverse(src, dst, options), "fourier::inverse");
   }
@@ -171,7 +175,8 @@ class fourier {
   template <auto Function, auto InPlace, class S, class D, int C>
   status run(view<const S, C> src, view<D, C> dst, const auto& options) const {
     if (!equal(src.size(), size_) || !equal(dst.size(), size_)) return status::bad_size;
-    if (options.buffer.data() && static_cast<std::int64_t>(options.buffer.size()) < buffer_size()) return status::bad_size;
+    if (options.buffer.data() && static_cast<std::int64_t>(options.buffer.size()) < buffer_size())
+      return status::bad_size;
     const address buffer{options.buffer.data()};
     if constexpr (exists<InPlace>)
       if (same(src, dst)) return call<InPlace>(at(dst), dst.step(), record_.get(), buffer);
@@ -209,22 +214,22 @@ class dct {
   }
 
   template <int C>
-    requires exists<members::dct_fwd<float, C>>
+  requires exists<members::dct_fwd<float, C>>
   [[nodiscard]] status try_forward(source<float, C> src, view<float, C> dst, const working& options = {}) const {
     return run<members::dct_fwd<float, C>>(src, dst, forward_.get(), options);
   }
   template <int C>
-    requires exists<members::dct_inv<float, C>>
+  requires exists<members::dct_inv<float, C>>
   [[nodiscard]] status try_inverse(source<float, C> src, view<float, C> dst, const working& options = {}) const {
     return run<members::dct_inv<float, C>>(src, dst, inverse_.get(), options);
   }
   template <int C>
-    requires exists<members::dct_fwd<float, C>>
+  requires exists<members::dct_fwd<float, C>>
   void forward(source<float, C> src, view<float, C> dst, const working& options = {}) const {
     detail::checked(try_forward(src, dst, options), "dct::forward");
   }
   template <int C>
-    requires exists<members::dct_inv<float, C>>
+  requires exists<members::dct_inv<float, C>>
   void inverse(source<float, C> src, view<float, C> dst, const working& options = {}) const {
     detail::checked(try_inverse(src, dst, options), "dct::inverse");
   }
@@ -233,7 +238,8 @@ class dct {
   template <auto Function, int C>
   status run(view<const float, C> src, view<float, C> dst, const HuxiDCTRecord* record, const working& options) const {
     if (!detail::equal(src.size(), size_) || !detail::equal(dst.size(), size_)) return status::bad_size;
-    if (options.buffer.data() && static_cast<std::int64_t>(options.buffer.size()) < buffer_size()) return status::bad_size;
+    if (options.buffer.data() && static_cast<std::int64_t>(options.buffer.size()) < buffer_size())
+      return status::bad_size;
     return detail::call<Function>(detail::at(src), src.step(), detail::at(dst), dst.step(), record,
                                   detail::address{options.buffer.data()});
   }
@@ -260,7 +266,7 @@ struct wavelet_options {
 
 // The wavelet transform of images of C channels, 1 or 3, of any size.
 template <int C>
-  requires exists<members::wt_fwd<float, C>>
+requires exists<members::wt_fwd<float, C>>
 class wavelet_forward {
  public:
   wavelet_forward(const wavelet_taps& low, const wavelet_taps& high)
@@ -272,7 +278,8 @@ class wavelet_forward {
   [[nodiscard]] int buffer_size() const { return detail::bytes_for<members::wt_fwd_get_buf_size<C>>(record_.get()); }
 
   // The source has twice as many columns and rows as each sub-band.
-  [[nodiscard]] status try_forward(source<float, C> src, const subbands<float, C>& dst, const wavelet_options& options = {}) const {
+  [[nodiscard]] status try_forward(source<float, C> src, const subbands<float, C>& dst,
+                                   const wavelet_options& options = {}) const {
     if (!detail::agree(dst.approx, dst.detail_x, dst.detail_y, dst.detail_xy) ||
         !detail::of_size(src.size(), 2 * detail::wide(dst.approx.width()), 2 * detail::wide(dst.approx.height())))
       return status::bad_size;
@@ -285,9 +292,9 @@ class wavelet_forward {
     const detail::address buffer{options.buffer.data() ? options.buffer.data() : own.data()};
     if (!buffer.at) return status::no_mem;
     return detail::call<members::wt_fwd<float, C>>(
-        detail::at(src), src.step(), detail::at(dst.approx), dst.approx.step(), detail::at(dst.detail_x), dst.detail_x.step(),
-        detail::at(dst.detail_y), dst.detail_y.step(), detail::at(dst.detail_xy), dst.detail_xy.step(), dst.approx.size(),
-        record_.get(), buffer);
+        detail::at(src), src.step(), detail::at(dst.approx), dst.approx.step(), detail::at(dst.detail_x),
+        dst.detail_x.step(), detail::at(dst.detail_y), dst.detail_y.step(), detail::at(dst.detail_xy),
+        dst.detail_xy.step(), dst.approx.size(), record_.get(), buffer);
   }
   void forward(source<float, C> src, const subbands<float, C>& dst, const wavelet_options& options = {}) const {
     detail::checked(try_forward(src, dst, options), "wavelet_forward::forward");
@@ -302,7 +309,7 @@ class wavelet_forward {
 
 // Its inverse.
 template <int C>
-  requires exists<members::wt_inv<float, C>>
+requires exists<members::wt_inv<float, C>>
 class wavelet_inverse {
  public:
   wavelet_inverse(const wavelet_taps& low, const wavelet_taps& high)
@@ -313,7 +320,8 @@ class wavelet_inverse {
             static_cast<int>(high.taps.size()), high.anchor)) {}
   [[nodiscard]] int buffer_size() const { return detail::bytes_for<members::wt_inv_get_buf_size<C>>(record_.get()); }
 
-  [[nodiscard]] status try_inverse(subbands<const float, C> src, view<float, C> dst, const wavelet_options& options = {}) const {
+  [[nodiscard]] status try_inverse(subbands<const float, C> src, view<float, C> dst,
+                                   const wavelet_options& options = {}) const {
     if (!detail::agree(src.approx, src.detail_x, src.detail_y, src.detail_xy) ||
         !detail::of_size(dst.size(), 2 * detail::wide(src.approx.width()), 2 * detail::wide(src.approx.height())))
       return status::bad_size;
@@ -321,16 +329,18 @@ class wavelet_inverse {
     view<const float, C>* bands[4] = {&src.approx, &src.detail_x, &src.detail_y, &src.detail_xy};
     const float zero[4] = {};
     for (int i = 0; i < 4; ++i)
-      if (status s = frames[i].make(*bands[i], {before_, before_, after_, after_}, options.border, zero); s != status::ok) return s;
+      if (status s = frames[i].make(*bands[i], {before_, before_, after_, after_}, options.border, zero);
+          s != status::ok)
+        return s;
     const std::size_t bytes = static_cast<std::size_t>(buffer_size());
     if (options.buffer.data() && options.buffer.size() < bytes) return status::bad_size;
     const detail::memory own(options.buffer.data() ? 0 : bytes);
     const detail::address buffer{options.buffer.data() ? options.buffer.data() : own.data()};
     if (!buffer.at) return status::no_mem;
-    return detail::call<members::wt_inv<float, C>>(
-        detail::at(src.approx), src.approx.step(), detail::at(src.detail_x), src.detail_x.step(), detail::at(src.detail_y),
-        src.detail_y.step(), detail::at(src.detail_xy), src.detail_xy.step(), src.approx.size(), detail::at(dst), dst.step(),
-        record_.get(), buffer);
+    return detail::call<members::wt_inv<float, C>>(detail::at(src.approx), src.approx.step(), detail::at(src.detail_x),
+                                                   src.detail_x.step(), detail::at(src.detail_y), src.detail_y.step(),
+                                                   detail::at(src.detail_xy), src.detail_xy.step(), src.approx.size(),
+                                                   detail::at(dst), dst.step(), record_.get(), buffer);
   }
   void inverse(const subbands<const float, C>& src, view<float, C> dst, const wavelet_options& options = {}) const {
     detail::checked(try_inverse(src, dst, options), "wavelet_inverse::inverse");
@@ -353,7 +363,7 @@ inline std::span<const float> taps_of(std::span<const float> kernel, int kernel_
 
 // By inverse filtering, on a square of 2^fft_order pixels.
 template <int C>
-  requires exists<members::deconv_fft<float, C>>
+requires exists<members::deconv_fft<float, C>>
 class deconv_fft {
  public:
   deconv_fft(std::span<const float> kernel, int kernel_size, int fft_order, float threshold)
@@ -361,10 +371,12 @@ class deconv_fft {
             "deconv_fft", detail::taps_of(kernel, kernel_size, C).data(), kernel_size, fft_order, threshold)) {}
   [[nodiscard]] status try_restore(source<float, C> src, view<float, C> dst) {
     if (!detail::agree(dst, src)) return status::bad_size;
-    return detail::call<members::deconv_fft<float, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(), dst.size(),
-                                                       record_.get());
+    return detail::call<members::deconv_fft<float, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
+                                                       dst.size(), record_.get());
   }
-  void restore(source<float, C> src, view<float, C> dst) { detail::checked(try_restore(src, dst), "deconv_fft::restore"); }
+  void restore(source<float, C> src, view<float, C> dst) {
+    detail::checked(try_restore(src, dst), "deconv_fft::restore");
+  }
 
  private:
   std::unique_ptr<HuxiDeconvFFTState, detail::ender<members::deconv_fft_free<float, C>>> record_;
@@ -372,7 +384,7 @@ class deconv_fft {
 
 // By iterations; max_size is the largest region with its margin: its size + kernel_size - 1.
 template <int C>
-  requires exists<members::deconv_lr<float, C>>
+requires exists<members::deconv_lr<float, C>>
 class deconv_lr {
  public:
   deconv_lr(std::span<const float> kernel, int kernel_size, extent max_size, float threshold)
@@ -380,8 +392,8 @@ class deconv_lr {
             "deconv_lr", detail::taps_of(kernel, kernel_size, C).data(), kernel_size, max_size, threshold)) {}
   [[nodiscard]] status try_restore(source<float, C> src, view<float, C> dst, int iterations) {
     if (!detail::agree(dst, src)) return status::bad_size;
-    return detail::call<members::deconv_lr<float, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(), dst.size(),
-                                                      iterations, record_.get());
+    return detail::call<members::deconv_lr<float, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
+                                                      dst.size(), iterations, record_.get());
   }
   void restore(source<float, C> src, view<float, C> dst, int iterations) {
     detail::checked(try_restore(src, dst, iterations), "deconv_lr::restore");
@@ -432,7 +444,8 @@ class line_plan {
   template <auto Function>
   status run(line<const T> src, line<T> dst, const working& options) const {
     if (src.size() != length_ || dst.size() != length_) return status::bad_size;
-    if (options.buffer.data() && static_cast<std::int64_t>(options.buffer.size()) < buffer_size()) return status::bad_size;
+    if (options.buffer.data() && static_cast<std::int64_t>(options.buffer.size()) < buffer_size())
+      return status::bad_size;
     return call<Function>(at(src), at(dst), record_.get(), address{options.buffer.data()});
   }
 
@@ -455,19 +468,17 @@ struct chosen<std::complex<float>, Complex, Real> {
 };
 
 template <class T>
-using fft_line_plan =
-    line_plan<HuxsFFTRecord, chosen<T, huxsFFTInitAlloc_C_32fc, huxsFFTInitAlloc_R_32f>::value,
-              chosen<T, huxsFFTFree_C_32fc, huxsFFTFree_R_32f>::value,
-              chosen<T, huxsFFTGetBufSize_C_32fc, huxsFFTGetBufSize_R_32f>::value,
-              chosen<T, huxsFFTFwd_CToC_32fc, huxsFFTFwd_RToPack_32f>::value,
-              chosen<T, huxsFFTInv_CToC_32fc, huxsFFTInv_PackToR_32f>::value, T>;
+using fft_line_plan = line_plan<HuxsFFTRecord, chosen<T, huxsFFTInitAlloc_C_32fc, huxsFFTInitAlloc_R_32f>::value,
+                                chosen<T, huxsFFTFree_C_32fc, huxsFFTFree_R_32f>::value,
+                                chosen<T, huxsFFTGetBufSize_C_32fc, huxsFFTGetBufSize_R_32f>::value,
+                                chosen<T, huxsFFTFwd_CToC_32fc, huxsFFTFwd_RToPack_32f>::value,
+                                chosen<T, huxsFFTInv_CToC_32fc, huxsFFTInv_PackToR_32f>::value, T>;
 template <class T>
-using dft_line_plan =
-    line_plan<HuxsDFTRecord, chosen<T, huxsDFTInitAlloc_C_32fc, huxsDFTInitAlloc_R_32f>::value,
-              chosen<T, huxsDFTFree_C_32fc, huxsDFTFree_R_32f>::value,
-              chosen<T, huxsDFTGetBufSize_C_32fc, huxsDFTGetBufSize_R_32f>::value,
-              chosen<T, huxsDFTFwd_CToC_32fc, huxsDFTFwd_RToPack_32f>::value,
-              chosen<T, huxsDFTInv_CToC_32fc, huxsDFTInv_PackToR_32f>::value, T>;
+using dft_line_plan = line_plan<HuxsDFTRecord, chosen<T, huxsDFTInitAlloc_C_32fc, huxsDFTInitAlloc_R_32f>::value,
+                                chosen<T, huxsDFTFree_C_32fc, huxsDFTFree_R_32f>::value,
+                                chosen<T, huxsDFTGetBufSize_C_32fc, huxsDFTGetBufSize_R_32f>::value,
+                                chosen<T, huxsDFTFwd_CToC_32fc, huxsDFTFwd_RToPack_32f>::value,
+                                chosen<T, huxsDFTInv_CToC_32fc, huxsDFTInv_PackToR_32f>::value, T>;
 
 }  // namespace detail
 
@@ -480,13 +491,11 @@ class fft_line : public detail::fft_line_plan<T> {
 
   // With spectra in the order Perm.
   [[nodiscard]] status try_forward_perm(line<const T> src, line<T> dst, const working& options = {}) const
-    requires(!detail::is_complex<T>)
-  {
+      requires(!detail::is_complex<T>) {
     return this->template run<huxsFFTFwd_RToPerm_32f>(src, dst, options);
   }
   [[nodiscard]] status try_inverse_perm(line<const T> src, line<T> dst, const working& options = {}) const
-    requires(!detail::is_complex<T>)
-  {
+      requires(!detail::is_complex<T>) {
     return this->template run<huxsFFTInv_PermToR_32f>(src, dst, options);
   }
 };
@@ -526,7 +535,8 @@ class dct_line {
   template <auto Function>
   status run(line<const float> src, line<float> dst, const HuxsDCTRecord* record, const working& options) const {
     if (src.size() != length_ || dst.size() != length_) return status::bad_size;
-    if (options.buffer.data() && static_cast<std::int64_t>(options.buffer.size()) < buffer_size()) return status::bad_size;
+    if (options.buffer.data() && static_cast<std::int64_t>(options.buffer.size()) < buffer_size())
+      return status::bad_size;
     return detail::call<Function>(detail::at(src), detail::at(dst), record, detail::address{options.buffer.data()});
   }
 

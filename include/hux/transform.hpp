@@ -1,4 +1,5 @@
 // Made by tools/cpp_front from the headers of the C library.
+// clang-format off
 // Frequency transforms of images, packed spectra, wavelets. Plain C99.
 //
 // Comments name the functions of C, whose header tells units, statuses and the order of checks. In addition all

@@ -47,9 +47,9 @@ inline constexpr bool one_of_types = (std::is_same_v<T, Ts> || ...);
 
 // Elements of images. Complex floats are those of the standard library.
 template <class T>
-concept element =
-    detail::one_of_types<std::remove_const_t<T>, std::uint8_t, std::int8_t, std::uint16_t, std::int16_t, std::uint32_t,
-                         std::int32_t, std::int64_t, float, double, Hux16sc, Hux32sc, std::complex<float>, std::complex<double>>;
+concept element = detail::one_of_types < std::remove_const_t<T>,
+        std::uint8_t, std::int8_t, std::uint16_t, std::int16_t, std::uint32_t, std::int32_t, std::int64_t,
+float, double, Hux16sc, Hux32sc, std::complex<float>, std::complex < double >> ;
 
 template <element T, int C>
 class image;
@@ -69,25 +69,19 @@ class view {
 
   // A view may always be read.
   template <class U>
-  view(view<U, C> other)
-    requires(std::is_const_v<T> && std::is_same_v<U, value_type>)
+  view(view<U, C> other) requires(std::is_const_v<T>&& std::is_same_v<U, value_type>)
       : data_(other.data()), step_(other.step()), size_(other.size()) {}
   // Four channels may be read as three and a gap; to write so, say colors().
   template <class U>
-  view(view<U, 4> other)
-    requires(C == ac4 && std::is_const_v<T> && std::is_same_v<std::remove_const_t<U>, value_type>)
+  view(view<U, 4> other) requires(C == ac4 && std::is_const_v<T> && std::is_same_v<std::remove_const_t<U>, value_type>)
       : data_(other.data()), step_(other.step()), size_(other.size()) {}
 
   // An image may be read; it may be written unless it is const or about to go.
   view(image<value_type, C>& whole) : view(whole.data(), whole.step(), whole.size()) {}
-  view(const image<value_type, C>& whole)
-    requires std::is_const_v<T>
-      : view(whole.data(), whole.step(), whole.size()) {}
-  view(const image<value_type, C>&)
-    requires(!std::is_const_v<T>)
-  = delete;
-  view(const image<value_type, 4>& whole)
-    requires(C == ac4 && std::is_const_v<T>)
+  view(const image<value_type, C>& whole) requires std::is_const_v<T> : view(whole.data(), whole.step(), whole.size()) {
+  }
+  view(const image<value_type, C>&) requires(!std::is_const_v<T>) = delete;
+  view(const image<value_type, 4>& whole) requires(C == ac4 && std::is_const_v<T>)
       : view(whole.data(), whole.step(), whole.size()) {}
 
   T* data() const { return data_; }
@@ -110,19 +104,13 @@ class view {
   view roi(rect part) const { return roi(part.x, part.y, part.width, part.height); }
 
   // One channel of several.
-  view<T, one_of<C>> channel(int index) const
-    requires(C == 3 || C == 4)
-  {
+  view<T, one_of<C>> channel(int index) const requires(C == 3 || C == 4) {
     if (index < 0 || index >= C) throw std::out_of_range("hux::view::channel: no such channel");
     return view<T, one_of<C>>(data_ + index, step_, size_);
   }
 
   // Without the fourth channel.
-  view<T, ac4> colors() const
-    requires(C == 4)
-  {
-    return view<T, ac4>(data_, step_, size_);
-  }
+  view<T, ac4> colors() const requires(C == 4) { return view<T, ac4>(data_, step_, size_); }
 
  private:
   using Byte = std::conditional_t<std::is_const_v<T>, const std::byte, std::byte>;
@@ -159,8 +147,7 @@ class planes {
     }
   }
   template <class U>
-  planes(planes<U, N> other)
-    requires(std::is_const_v<T> && std::is_same_v<U, value_type>)
+  planes(planes<U, N> other) requires(std::is_const_v<T>&& std::is_same_v<U, value_type>)
       : step_(other.step()), size_(other.size()) {
     for (int i = 0; i < N; ++i) data_[i] = other.data()[i];
   }
@@ -189,13 +176,12 @@ class line {
   line() = default;
   explicit line(T* data, int length) : data_(data), length_(length) {}
   template <class Range>
-    requires(!std::is_base_of_v<line, std::remove_cvref_t<Range>>)
-  explicit line(Range&& range) : data_(std::data(range)), length_(static_cast<int>(std::size(range))) {
+  requires(!std::is_base_of_v<line, std::remove_cvref_t<Range>>) explicit line(Range&& range)
+      : data_(std::data(range)), length_(static_cast<int>(std::size(range))) {
     if (std::size(range) > std::size_t{INT_MAX}) throw std::length_error("hux::line: a length beyond 32 bits");
   }
   template <class U>
-  line(line<U> other)
-    requires(std::is_const_v<T> && std::is_same_v<U, value_type>)
+  line(line<U> other) requires(std::is_const_v<T>&& std::is_same_v<U, value_type>)
       : data_(other.data()), length_(other.size()) {}
 
   T* data() const { return data_; }
@@ -210,7 +196,8 @@ line(Range&& range) -> line<std::remove_reference_t<decltype(*std::data(range))>
 
 // Numbers, one for each channel that is processed: a number for one channel, an array for several.
 template <class T, int C>
-using per_channel = std::conditional_t<detail::channels_of(C) == 1, T, std::array<T, static_cast<std::size_t>(detail::channels_of(C))>>;
+using per_channel =
+    std::conditional_t<detail::channels_of(C) == 1, T, std::array<T, static_cast<std::size_t>(detail::channels_of(C))>>;
 
 // A value of the pixels' type for each channel that is processed.
 template <class T, int C>
@@ -219,13 +206,10 @@ class constant {
   static constexpr int count = detail::channels_of(C);
 
   constant() = default;
-  constant(T value)
-    requires(count == 1)
-      : values_{value} {}
+  constant(T value) requires(count == 1) : values_{value} {}
   constant(const std::array<T, count>& values) : values_(values) {}
   template <std::convertible_to<T>... Ts>
-    requires(count > 1 && sizeof...(Ts) == count)
-  constant(Ts... values) : values_{static_cast<T>(values)...} {}
+  requires(count > 1 && sizeof...(Ts) == count) constant(Ts... values) : values_{static_cast<T>(values)...} {}
 
   const T* data() const { return values_.data(); }
 
@@ -274,11 +258,13 @@ template <class V>
 concept readable = requires {
   requires element<value_type_of<V>>;
   requires std::remove_cvref_t<V>::layout < 200;
-} && std::is_convertible_v<const V&, view<const value_type_of<V>, layout_of<V>>>;
+}
+&&std::is_convertible_v<const V&, view<const value_type_of<V>, layout_of<V>>>;
 template <class V>
 concept readable_planes = requires {
   requires element<value_type_of<V>>;
-  requires std::remove_cvref_t<V>::layout > 200;
+  requires std::remove_cvref_t<V>::layout >
+  200;
 };
 template <class V>
 concept readable_line = requires(const V& v) {
