@@ -14,14 +14,19 @@ inline constexpr bool kFuses = true;
 inline constexpr bool kFuses = false;
 #endif
 
-// The same lanes, of which the compiler does not know the value: constants of a loop that has more of them than there
-// are registers. Known ones it spreads out from single elements at every use, others are operands in memory.
+// Constants of a loop: the same lanes, of which the compiler does not know the value. Where there are more of them than
+// registers, known ones are spread out from single elements at every use, others are operands in memory.
 template <class V>
 V kept(V v) {
 #if defined(__AVX__)
   __asm__("" : "+x"(v));
 #endif
   return v;
+}
+
+template <class V>
+V constant(Hux64f value) {
+  return kept(splat<V>(LaneType<V>(value)));
 }
 
 // 1 / v and 1 / sqrt(v) to within a relative 2^-11.

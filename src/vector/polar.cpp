@@ -1,12 +1,13 @@
 // Magnitude, Phase and PolarToCart on vectors, in double precision.
 #include <array>
+#include <bit>
 #include <cmath>
 #include <numbers>
 
 #include "core/check.h"
 #include "core/stamp.h"
 #include "huxs.h"
-#include "lanes/lanes_math.h"
+#include "lanes/lanes_pairs.h"
 #include "lanes/round.h"
 #include "workers/complex.h"
 #include "workers/nearest.h"
@@ -22,7 +23,20 @@ using Ints = Lanes<Hux32s, kLanes>;
 using Longs = Lanes<Hux64s, kLanes>;
 
 constexpr Hux64s kSign = std::numeric_limits<Hux64s>::min();
-Doubles absolute(Doubles v) { return bitsAs<Doubles>(bitsAs<Longs>(v) & ~kSign); }
+template <class V>
+using BitsOf = Lanes<std::conditional_t<sizeof(LaneType<V>) == 4, Hux32s, Hux64s>, lanesIn<V>>;
+template <class V>
+V absolute(V v) {
+  return bitsAs<V>(bitsAs<BitsOf<V>>(v) & std::numeric_limits<LaneType<BitsOf<V>>>::max());
+}
+template <class V>
+V signOf(V v) {
+  return bitsAs<V>(bitsAs<BitsOf<V>>(v) & std::numeric_limits<LaneType<BitsOf<V>>>::min());
+}
+template <class V>
+V turned(V v, V sign) {
+  return bitsAs<V>(bitsAs<BitsOf<V>>(v) ^ bitsAs<BitsOf<V>>(sign));
+}
 
 // The parts of complex elements, exact.
 template <class C>
@@ -91,7 +105,7 @@ Doubles angle(Doubles im, Doubles re) {
   Doubles result = mulAdd(polynomial(kSeries, u), t, far ? splat<Doubles>(std::numbers::pi / 4) : Doubles{});
   result = steep ? std::numbers::pi / 2 - result : result;
   result = bitsAs<Longs>(re) < 0 ? std::numbers::pi - result : result;
-  return bitsAs<Doubles>(bitsAs<Longs>(result) ^ (bitsAs<Longs>(im) & kSign));
+  return turned(result, signOf(im));
 }
 
 // atan2(im, re) narrowed. Where the interval that the true angle lies in does not narrow to one float, which is rare,
@@ -99,6 +113,7 @@ Doubles angle(Doubles im, Doubles re) {
 template <class C>
 struct Phase {
   static constexpr int lanes = kLanes;
+  using Operand = ComplexLanes<C>;
   Floats operator()(ComplexLanes<C> v) const {
     const DoubleParts<C> z(v);
     const Doubles a = angle(z.im, z.re);
@@ -110,24 +125,174 @@ struct Phase {
   }
 };
 
+// The same two in single precision, by sums of two floats. What these leave open, and what is out of the range in which
+// their products are exact, falls to double precision; zeros do not.
+namespace pairs {
+
+constexpr int kLanes = laneCount<Hux32f>;
+using V = Lanes<Hux32f, kLanes>;
+using I = Lanes<Hux32s, kLanes>;
+// As many complex elements.
+template <class C>
+using Elements = std::array<V, sizeof(C) / sizeof(Hux32f)>;
+
+// The parts of complex elements, and results in the same arrangement. Vectors of alternating parts are taken apart
+// within 16 bytes, where that is one instruction; results are brought back into their order.
+template <class C>
+struct Parts {
+  V re, im;
+  explicit Parts(Elements<C> v) {
+    if constexpr (sizeof(C) == 4) {
+      re = convert<Hux32f>(wideRe<Hux16s>(bitsAs<I>(v[0])));
+      im = convert<Hux32f>(wideIm<Hux16s>(bitsAs<I>(v[0])));
+    } else {
+      [&]<int... J>(std::integer_sequence<int, J...>) {
+        re = __builtin_shufflevector(v[0], v[1], (J / 4 * 4 + J % 2 * 2 + J % 4 / 2 * kLanes)...);
+        im = __builtin_shufflevector(v[0], v[1], (J / 4 * 4 + J % 2 * 2 + J % 4 / 2 * kLanes + 1)...);
+      }
+      (std::make_integer_sequence<int, kLanes>{});
+    }
+  }
+  static V inOrder(V v) {
+    if constexpr (sizeof(C) == 4) return v;
+    using Halves = Lanes<Hux64f, kLanes / 2>;
+    const auto halves = bitsAs<Halves>(v);
+    return [&]<int... J>(std::integer_sequence<int, J...>) {
+      return bitsAs<V>(Halves(__builtin_shufflevector(halves, halves, (J * 2 % (kLanes / 2) + J / (kLanes / 4))...)));
+    }
+    (std::make_integer_sequence<int, kLanes / 2>{});
+  }
+};
+
+template <class Rule, class C>
+[[gnu::noinline]] V careful(Elements<C> v) {
+  const auto two = bitsAs<std::array<ComplexLanes<C>, 2>>(v);
+  return joined(Rule{}(two[0]), Rule{}(two[1]));
+}
+
+// The larger and the smaller one of |re| and |im|, of which one is NaN where one of those is.
+struct Ordered {
+  V large, small;
+  Ordered(V x, V y) : large(greater(y, x)), small(lesser(x, y)) {}
+};
+
+template <class C>
+struct Magnitude {
+  static constexpr int lanes = kLanes;
+  using Operand = Elements<C>;
+  V half = constant<V>(0.5), precision = constant<V>(0x1p-34);
+  V operator()(Elements<C> v) const {
+    const Parts<C> z(v);
+    const auto [a, b] = Ordered(absolute(z.re), absolute(z.im));
+    // a^2 + b^2 = sum + low, to 2^-47.
+    const V square = a * a, sum = mulAdd(b, b, square);
+    const V low = mulAdd(b, b, square - sum) + mulAdd(a, a, -square);
+    // A root next to that of the sum, and how far it is from the root of all.
+    const V root = squareRoot(sum), perTwice = roughReciprocal(root) * half;
+    const V rest = mulAdd(-root, root, sum) + low, error = root * precision;
+    V least = root + mulAdd(rest, perTwice, -error);
+    const V most = root + mulAdd(rest, perTwice, error);
+    // Compared as integers numbers without a sign have their order, and NaN is the largest.
+    const I order = bitsAs<I>(a);
+    const auto outside = (order < std::bit_cast<Hux32s>(0x1p-40f)) | (order > std::bit_cast<Hux32s>(0x1p60f));
+    if (any(outside | (least != most))) [[unlikely]] {
+      const auto zero = order == 0;
+      if (any(outside & ~zero) || any(~zero & (least != most))) return careful<hux::Magnitude<C>, C>(v);
+      least = zero ? V{} : least;
+    }
+    return Parts<C>::inOrder(least);
+  }
+};
+
+// With t = b / a next to c = j / 8, atan t is atan c + atan q for q = (b - c a) / (a + c b), which is at most 1/15.
+template <class C>
+struct Phase {
+  static constexpr int lanes = kLanes;
+  using Operand = Elements<C>;
+  struct alignas(32) Tables {
+    Hux32f highs[8], lows[8];
+  };
+  // atan(j / 8), by its series.
+  static constexpr Tables kTables = [] {
+    Tables tables{};
+    for (int j = 0; j < 8; ++j) {
+      const Hux64f c = j / 8.0;
+      Hux64f sum = 0, power = c;
+      for (int k = 1; k < 300; k += 2, power *= -c * c) sum += power / k;
+      tables.highs[j] = Hux32f(sum), tables.lows[j] = Hux32f(sum - tables.highs[j]);
+    }
+    return tables;
+  }();
+  static constexpr Hux64f kPi = std::numbers::pi;
+  static constexpr Hux32f kPiHigh = Hux32f(kPi);
+  LaneTable<Hux32f, 8> highs{kTables.highs}, lows{kTables.lows};
+  V integer = constant<V>(0x1.8p23), eight = constant<V>(8), eighth = constant<V>(0.125), belowOne = constant<V>(0.93),
+    third = constant<V>(-1.0 / 3), fifth = constant<V>(1.0 / 5), seventh = constant<V>(-1.0 / 7),
+    ninth = constant<V>(1.0 / 9), pi = constant<V>(kPi), halfPi = constant<V>(kPi / 2),
+    restOfPi = constant<V>((kPi - kPiHigh) / kPiHigh), errorOfSquare = constant<V>(0x1p-26),
+    precision = constant<V>(0x1p-35);
+
+  V operator()(Elements<C> v) const {
+    const Parts<C> z(v);
+    const V x = absolute(z.re), y = absolute(z.im);
+    auto [a, b] = Ordered(x, y);
+    if (any((bitsAs<I>(a) > std::bit_cast<Hux32s>(0x1p60f)) | (bitsAs<I>(b) < std::bit_cast<Hux32s>(0x1p-60f)))) {
+      const auto zero = b == 0;
+      if (any(~((a <= 0x1p60f) & (zero | (b >= 0x1p-60f))))) return careful<hux::Phase<C>, C>(v);
+      a = zero ? splat<V>(1) : a;
+    }
+    const V shifted = mulAdd(lesser(b * roughReciprocal(a), belowOne), eight, integer);
+    const auto j = bitsAs<Lanes<Hux32u, kLanes>>(shifted);
+    const V c = (shifted - integer) * eighth;
+    // The numerator is exact, the denominator the sum of two.
+    const V numerator = mulAdd(-c, a, b), denominator = mulAdd(c, b, a), behind = mulAdd(c, b, a - denominator);
+    const V q = numerator / denominator, square = q * q;
+    const V rest = mulAdd(-q, behind, mulAdd(-q, denominator, numerator)) * roughReciprocal(denominator);
+    const V p = mulAdd(mulAdd(mulAdd(ninth, square, seventh), square, fifth), square, third);
+    const V base = highs(j), angle = base + q;
+    const V behindAngle = (base - angle + q) + (mulAdd(q * square, p, rest) + lows(j));
+    // The angle is counted from the nearest axis, and that one from the right.
+    const auto steep = y > x;
+    const V left = bitsAs<V>(bitsAs<I>(z.re) >> 31);
+    const V axis = steep ? halfPi : bitsAs<V>(bitsAs<I>(left) & bitsAs<I>(pi));
+    const V back = signOf(bitsAs<V>(I(steep) ^ bitsAs<I>(left)));
+    const V part = turned(angle, back), sum = axis + part;
+    const V low = (axis - sum + part) + mulAdd(axis, restOfPi, turned(behindAngle, back));
+    const V error = mulAdd(square, errorOfSquare, sum * precision);
+    const V least = sum + (low - error), most = sum + (low + error);
+    if (any(least != most)) [[unlikely]]
+      return careful<hux::Phase<C>, C>(v);
+    return Parts<C>::inOrder(turned(least, signOf(z.im)));
+  }
+};
+
+}  // namespace pairs
+
+// Parts of 32 bits are no floats.
+template <class C>
+using MagnitudeRule = std::conditional_t<kFuses && std::is_same_v<C, Hux32fc>, pairs::Magnitude<C>, Magnitude<C>>;
+template <class C>
+using PhaseRule = std::conditional_t<kFuses && !std::is_same_v<C, Hux32sc>, pairs::Phase<C>, Phase<C>>;
+
 // A half away from zero, truncated; what is out of range becomes its end, and the product of no angle and an infinite
 // factor 0.
-template <class T>
-auto roundAway(Floats v) {
+template <class T, class V>
+auto roundAway(V v) {
   constexpr Hux32f top = sizeof(T) == 2 ? 32767.0f : 2147483648.0f, below = sizeof(T) == 2 ? top : 2147483520.0f;
-  v = v + (v < 0 ? splat<Floats>(-0.5f) : splat<Floats>(0.5f));
-  v = v == v ? v : Floats{};
-  const Ints i =
-      convert<Hux32s>(greater(lesser(v, splat<Floats>(below)), splat<Floats>(std::numeric_limits<T>::min())));
-  return convert<T>(v >= top ? splat<Ints>(std::numeric_limits<T>::max()) : i);
+  v = v + (v < 0 ? splat<V>(-0.5f) : splat<V>(0.5f));
+  v = v == v ? v : V{};
+  const auto i = convert<Hux32s>(greater(lesser(v, splat<V>(below)), splat<V>(std::numeric_limits<T>::min())));
+  return convert<T>(v >= top ? splat<Lanes<Hux32s, lanesIn<V>>>(std::numeric_limits<T>::max()) : i);
 }
 
 // The phase of integers times a factor, in single precision.
 template <class C>
 struct ScaledPhase {
-  static constexpr int lanes = kLanes;
+  static constexpr int lanes = PhaseRule<C>::lanes;
   Hux32f factor;
-  auto operator()(ComplexLanes<C> v) const { return roundAway<Part<C>>(Phase<C>{}(v)*factor); }
+  PhaseRule<C> phase{};
+  using Operand = typename PhaseRule<C>::Operand;
+  auto operator()(Operand v) const { return roundAway<Part<C>>(phase(v) * factor); }
 };
 
 // At scale factor 0, by a fast approximation: the arc tangent of a quotient is taken to be linear.
@@ -241,7 +406,25 @@ struct AccurateCartesian {
 
 template <class Rule, class C, class D>
 HuxStatus mapVector(const C* pSrc, D* pDst, int len, Rule rule) {
-  mapRow<C1>(words(pSrc), elements(pDst), len, rule);
+  if constexpr (requires { requires std::is_same_v<typename Rule::Operand, pairs::Elements<C>>; }) {
+    using pairs::Elements;
+    const auto* src = words(pSrc);
+    auto* dst = elements(pDst);
+    int i = 0;
+    for (; i + Rule::lanes <= len; i += Rule::lanes) {
+      Elements<C> block;
+      for (std::size_t k = 0; k < block.size(); ++k)
+        block[k] = loadLanes<pairs::V>(advance(src + i, Index(k * sizeof(pairs::V))));
+      storeLanes(dst + i, rule(block));
+    }
+    if (i < len) {
+      Elements<C> last{};
+      std::memcpy(&last, src + i, std::size_t(len - i) * sizeof(C));
+      storeColours<4>(dst + i, rule(last), len - i);
+    }
+  } else {
+    mapRow<C1>(words(pSrc), elements(pDst), len, rule);
+  }
   return huxStsOk;
 }
 
@@ -249,7 +432,7 @@ template <class C, class D>
 HuxStatus magnitudes(const C* pSrc, D* pDst, int len, int scaleFactor = 0) {
   if (HuxStatus s = check(pointers(pSrc, pDst), length(len))) return s;
   if constexpr (std::is_floating_point_v<D>)
-    return mapVector(pSrc, pDst, len, Magnitude<C>{});
+    return mapVector(pSrc, pDst, len, MagnitudeRule<C>{});
   else if (scaleFactor > 0)
     return mapVector(pSrc, pDst, len, ScaledMagnitude<C, true>(scaleFactor));
   else
@@ -260,7 +443,7 @@ template <class C, class D>
 HuxStatus phases(const C* pSrc, D* pDst, int len, int scaleFactor = 0) {
   if (HuxStatus s = check(pointers(pSrc, pDst), length(len))) return s;
   if constexpr (std::is_floating_point_v<D>)
-    return mapVector(pSrc, pDst, len, Phase<C>{});
+    return mapVector(pSrc, pDst, len, PhaseRule<C>{});
   else if (scaleFactor == 0)
     return mapVector(pSrc, pDst, len, FastPhase<C>{});
   else

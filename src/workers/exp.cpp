@@ -135,12 +135,11 @@ struct ExpByPairs {
   }();
   static constexpr Hux64f kStep = std::numbers::ln2 / 8, kSquare = kStep * kStep / 4;
   static constexpr Hux32f kStepHigh = Hux32f(kStep);
-  static V constant(Hux64f value) { return kept(splat<V>(Hux32f(value))); }
   LaneTable<Hux32f, 8> powers{kPowers.of}, rests{kPowers.rests};
   // (r + r^2/4 + r^3/20) / 3, with r^4/360 replaced by the nearest of lower degree.
-  V perStep = constant(1 / kStep), integer = constant(0x1.8p23), high = constant(-kStepHigh),
-    low = constant(kStepHigh - kStep), half = constant(0.5), third = constant(1.0 / 3),
-    second = constant(1.0 / 12 + 0.75 * kSquare / 360), first = constant(1.0 / 60), error = constant(0x1p-34);
+  V perStep = constant<V>(1 / kStep), integer = constant<V>(0x1.8p23), high = constant<V>(-kStepHigh),
+    low = constant<V>(kStepHigh - kStep), half = constant<V>(0.5), third = constant<V>(1.0 / 3),
+    second = constant<V>(1.0 / 12 + 0.75 * kSquare / 360), first = constant<V>(1.0 / 60), error = constant<V>(0x1p-34);
 
   V operator()(V v) const {
     V x = v;

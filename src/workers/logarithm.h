@@ -110,15 +110,14 @@ struct LogarithmByPairs {
     }
     return tables;
   }();
-  static V constant(Hux64f value) { return kept(splat<V>(Hux32f(value))); }
   static constexpr Hux64f kLn2 = std::numbers::ln2, kLn2High = fewDigits(kLn2), kSquare = 1.0 / 256;
   LaneTable<Hux32f, 8> reciprocals{kTables.reciprocals}, highs{kTables.highs}, lows{kTables.lows};
-  V minusOne = constant(-1), minusHalf = constant(-0.5), ln2High = constant(kLn2High),
-    ln2Low = constant(kLn2 - kLn2High);
+  V minusOne = constant<V>(-1), minusHalf = constant<V>(-0.5), ln2High = constant<V>(kLn2High),
+    ln2Low = constant<V>(kLn2 - kLn2High);
   // -2 (1/3 - r/4 + r^2/5 - r^3/6 + r^4/7), with r^5/8 replaced by the nearest of lower degree.
-  V third = constant(-2.0 / 3), fourth = constant(2.0 / 4 - 5 * kSquare * kSquare / 64), fifth = constant(-2.0 / 5),
-    sixth = constant(2.0 / 6 + 5 * kSquare / 16), seventh = constant(-2.0 / 7);
-  V errorOfSquare = constant(-0x1p-25), errorOfSum = constant(0x1p-36);
+  V third = constant<V>(-2.0 / 3), fourth = constant<V>(2.0 / 4 - 5 * kSquare * kSquare / 64),
+    fifth = constant<V>(-2.0 / 5), sixth = constant<V>(2.0 / 6 + 5 * kSquare / 16), seventh = constant<V>(-2.0 / 7);
+  V errorOfSquare = constant<V>(-0x1p-25), errorOfSum = constant<V>(0x1p-36);
 
   Sum operator()(V x) const {
     const U bits = bitsAs<U>(x), offset = bits - kFirst, entry = offset >> 20u;
