@@ -101,7 +101,7 @@ struct AddThenSubtract {
 template <class L, class T, class Move, class Finish>
 class FloatSums {
  public:
-  static constexpr Index atOnce = kRowsInOrder;
+  static constexpr Index atOnce = kRowsInOrder<L::channels>;
 
   FloatSums(HuxiSize roi, HuxiSize mask, Move move, Finish finish)
       : columns_(elementsOf<L>(Index(roi.width) + mask.width - 1)), mask_(mask), move_(move), finish_(finish) {}

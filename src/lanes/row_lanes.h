@@ -25,11 +25,28 @@ V zipParts(V a, V b) {
 
 }  // namespace detail
 
+// As many vectors as they have parts of 16 bytes, that is of four 4-byte lanes: parts for vectors.
+template <class V>
+inline __attribute__((always_inline)) void transposeParts(V (&square)[lanesIn<V> / 4]) {
+  using detail::zipParts;
+  V* const q = square;
+  if constexpr (lanesIn<V> == 8) {
+    const V low = zipParts<false>(q[0], q[1]);
+    q[1] = zipParts<true>(q[0], q[1]), q[0] = low;
+  } else if constexpr (lanesIn<V> == 16) {
+    const V acLow = zipParts<false>(q[0], q[2]), bdLow = zipParts<false>(q[1], q[3]);
+    const V acHigh = zipParts<true>(q[0], q[2]), bdHigh = zipParts<true>(q[1], q[3]);
+    q[0] = zipParts<false>(acLow, bdLow), q[1] = zipParts<true>(acLow, bdLow);
+    q[2] = zipParts<false>(acHigh, bdHigh), q[3] = zipParts<true>(acHigh, bdHigh);
+  } else {
+    static_assert(lanesIn<V> == 4);
+  }
+}
+
 // A square of 4-byte lanes, rows for columns.
 template <class V>
 inline __attribute__((always_inline)) void transpose(V (&square)[lanesIn<V>]) {
-  constexpr int n = lanesIn<V>;
-  using detail::zipParts;
+  constexpr int n = lanesIn<V>, parts = n / 4;
   // Squares of 4 within the 16-byte parts; then the parts.
   for (int g = 0; g < n; g += 4) {
     V* q = square + g;
@@ -38,21 +55,11 @@ inline __attribute__((always_inline)) void transpose(V (&square)[lanesIn<V>]) {
     q[0] = simd::zip<8, false>(a, c), q[1] = simd::zip<8, true>(a, c);
     q[2] = simd::zip<8, false>(b, d), q[3] = simd::zip<8, true>(b, d);
   }
-  if constexpr (n == 8) {
-    for (int k = 0; k < 4; ++k) {
-      const V a = square[k], b = square[k + 4];
-      square[k] = zipParts<false>(a, b), square[k + 4] = zipParts<true>(a, b);
-    }
-  } else if constexpr (n == 16) {
-    for (int k = 0; k < 4; ++k) {
-      const V a = square[k], b = square[k + 4], c = square[k + 8], d = square[k + 12];
-      const V acLow = zipParts<false>(a, c), bdLow = zipParts<false>(b, d);
-      const V acHigh = zipParts<true>(a, c), bdHigh = zipParts<true>(b, d);
-      square[k] = zipParts<false>(acLow, bdLow), square[k + 4] = zipParts<true>(acLow, bdLow);
-      square[k + 8] = zipParts<false>(acHigh, bdHigh), square[k + 12] = zipParts<true>(acHigh, bdHigh);
-    }
-  } else {
-    static_assert(n == 4);
+  for (int k = 0; k < 4; ++k) {
+    V q[parts];
+    for (int i = 0; i < parts; ++i) q[i] = square[k + 4 * i];
+    transposeParts(q);
+    for (int i = 0; i < parts; ++i) square[k + 4 * i] = q[i];
   }
 }
 

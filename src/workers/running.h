@@ -7,6 +7,7 @@
 // told, each row is a lane, and many rows are added up side by side: windowSumsInOrder.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <bit>
 
@@ -120,15 +121,19 @@ void windowSums(const C* columns, Index mask, Index n, Store store) {
   }
 }
 
-// Rows side by side, in two groups, since an addition waits for the one before it. Lines are pieces of those rows: the
+// Rows side by side, in so many vectors that none waits for the addition before it. Lines are pieces of those rows: the
 // rows of an image are gone through piece by piece, since many of them at once do not fit the ways of a cache.
-inline constexpr int kOrderedLanes = laneCount<Hux32f>, kOrderedGroups = 2;
-inline constexpr int kRowsInOrder = kOrderedLanes * kOrderedGroups;
+inline constexpr int kOrderedLanes = laneCount<Hux32f>;
 using OrderedLanes = Lanes<Hux32f, kOrderedLanes>;
 template <int N>
-inline constexpr int kOrderedPiece = (N == 3 ? 6 : 4) * kOrderedLanes;
+inline constexpr int kRowsInOrder = N == 4 ? std::max(kOrderedLanes, 8) : 2 * kOrderedLanes;
 template <int N>
-using OrderedLines = Hux32f[kRowsInOrder][kOrderedPiece<N>];
+inline constexpr int kOrderedPiece = (N == 3   ? 6
+                                      : N == 4 ? 8
+                                               : 4) *
+                                     kOrderedLanes;
+template <int N>
+using OrderedLines = Hux32f[kRowsInOrder<N>][kOrderedPiece<N>];
 
 // Asks for the next piece of a row, from p on: so many rows side by side are more than the machine foresees.
 template <class T>
@@ -143,57 +148,69 @@ constexpr Index orderedColumns(Index mask) {
 }
 template <int N>
 constexpr Index orderedRoom(Index mask) {
-  return orderedColumns<N>(mask) * kRowsInOrder;
+  return orderedColumns<N>(mask) * kRowsInOrder<N>;
 }
 
-// Window sums of kRowsInOrder rows in the told order: the first of each row and channel from left to right, each
+// Window sums of kRowsInOrder<N> rows in the told order: the first of each row and channel from left to right, each
 // further one by rule(sum, entering, leaving). make(j, count, lines) gives the elements [j, j + count) of the rows;
 // take(x, count, lines) takes their window sums, likewise.
+//
+// A vector holds one element of as many rows as it has lanes; of four channels a pixel of a quarter of them, so that
+// but the parts of vectors have to be transposed.
 template <int N, class Rule, class Make, class Take>
 void windowSumsInOrder(Hux32f* room, Index columns, Index mask, Rule rule, Make make, Take take) {
   using V = OrderedLanes;
-  constexpr int lanes = kOrderedLanes, groups = kOrderedGroups, piece = kOrderedPiece<N>;
-  constexpr int block = N == 3 ? 3 * lanes : lanes;
+  constexpr int lanes = kOrderedLanes, piece = kOrderedPiece<N>;
+  // Vectors of `wide` elements and `rows` rows, of which there are `sets`. In a turn, each goes on by `block` elements.
+  constexpr int wide = N == 4 ? 4 : 1, rows = lanes / wide, sets = kRowsInOrder<N> / rows;
+  constexpr int channels = N / wide, block = N == 3 ? 3 * lanes : lanes, steps = block / wide;
   const Index reach = (mask - 1) * N, n = columns - reach, around = orderedColumns<N>(mask) - 1;
-  const auto column = [=](Index j, int g) HUX_INLINE { return room + (j & around) * kRowsInOrder + g * lanes; };
+  const auto column = [=](Index j, int set) HUX_INLINE { return room + (j & around) * kRowsInOrder<N> + set * lanes; };
+  const auto turned = [](V(&square)[rows]) HUX_INLINE {
+    if constexpr (wide == 4)
+      transposeParts(square);
+    else
+      transpose(square);
+  };
   OrderedLines<N> lines;
-  V sum[groups][N] = {};
+  V sum[sets][channels] = {};
   for (Index x = 0, made = 0; x < n; x += piece) {
-    // The columns that this piece enters, each row's lane beside the others'.
+    // The columns that this piece enters, each row's lanes beside the others'.
     for (const Index needed = std::min(columns, x + piece + reach); made < needed; made += piece) {
       make(made, int(std::min<Index>(piece, columns - made)), lines);
       for (int k = 0; k < piece; k += lanes)
-        unrolled<groups>([&](auto g) HUX_INLINE {
-          V square[lanes];
-          unrolled<lanes>([&](auto r) HUX_INLINE { square[r] = loadLanes<V>(lines[g * lanes + r] + k); });
-          transpose(square);
-          unrolled<lanes>([&](auto r) HUX_INLINE { storeLanes(column(made + k + r, g), V(square[r])); });
+        unrolled<sets>([&](auto s) HUX_INLINE {
+          V square[rows];
+          unrolled<rows>([&](auto r) HUX_INLINE { square[r] = loadLanes<V>(lines[s * rows + r] + k); });
+          turned(square);
+          unrolled<rows>([&](auto r) HUX_INLINE { storeLanes(column(made + k + r * wide, s), V(square[r])); });
         });
     }
     if (x == 0)
-      for (Index j = 0; j < mask * N; ++j)
-        for (int g = 0; g < groups; ++g) {
-          const V next = loadLanes<V>(column(j, g));
-          V& s = sum[g][j % N];
-          s = j < N ? next : V(s + next);
+      for (Index j = 0; j < mask * channels; ++j)
+        for (int s = 0; s < sets; ++s) {
+          const V next = loadLanes<V>(column(j * wide, s));
+          V& total = sum[s][j % channels];
+          total = j < channels ? next : V(total + next);
         }
     for (int k = 0; k < piece; k += block) {
-      V out[groups][block];
-      unrolled<block>([&](auto e) HUX_INLINE {
-        // The first sums stand as they are.
-        if (e >= N || x + k > 0)
-          unrolled<groups>([&](auto g) HUX_INLINE {
-            V& s = sum[g][e % N];
-            s = rule(s, loadLanes<V>(column(x + k + e + reach, g)), loadLanes<V>(column(x + k + e - N, g)));
-          });
-        unrolled<groups>([&](auto g) HUX_INLINE { out[g][e] = sum[g][e % N]; });
+      V out[sets][steps];
+      unrolled<steps>([&](auto e) HUX_INLINE {
+        unrolled<sets>([&](auto s) HUX_INLINE {
+          V& total = sum[s][e % channels];
+          // The first sums stand as they are.
+          if (e >= channels || x + k > 0)
+            total = rule(total, loadLanes<V>(column(x + k + e * wide + reach, s)),
+                         loadLanes<V>(column(x + k + e * wide - N, s)));
+          out[s][e] = total;
+        });
       });
-      unrolled<groups * block / lanes>([&](auto i) HUX_INLINE {
-        constexpr int g = i / (block / lanes), first = i % (block / lanes) * lanes;
-        V square[lanes];
-        unrolled<lanes>([&](auto r) HUX_INLINE { square[r] = out[g][first + r]; });
-        transpose(square);
-        unrolled<lanes>([&](auto r) HUX_INLINE { storeLanes(lines[g * lanes + r] + k + first, V(square[r])); });
+      unrolled<sets * steps / rows>([&](auto i) HUX_INLINE {
+        constexpr int s = i / (steps / rows), first = i % (steps / rows) * rows;
+        V square[rows];
+        unrolled<rows>([&](auto r) HUX_INLINE { square[r] = out[s][first + r]; });
+        turned(square);
+        unrolled<rows>([&](auto r) HUX_INLINE { storeLanes(lines[s * rows + r] + k + first * wide, V(square[r])); });
       });
     }
     take(x, int(std::min<Index>(piece, n - x)), lines);
