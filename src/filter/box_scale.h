@@ -1,7 +1,7 @@
 // How a window sum becomes a mean: the last step of the box filter, which decides the bits.
 #pragma once
 
-#include "lanes/lanes.h"
+#include "lanes/lanes_math.h"
 
 namespace hux {
 
@@ -77,12 +77,14 @@ struct ScaledWords {
 
 // The same for four channels, where the small term is 9e-6 and added in double precision: established. Products above
 // 0.5 are multiples of 2^-24, of which 150 lie within that term, so that single precision sees what it carries over.
+// From 256 on they are multiples of 2^-15, and nothing is.
 struct ScaledWordsC4 {
   Hux32f recip;
   template <class V>
   auto operator()(V s) const {
     const auto mean = floatSums(s) * recip;
     const auto whole = convert<Hux32s>(mean);
+    if (!any(mean < 256)) return convert<Hux16s>(whole - kWordBias);
     const auto rest = mean - convert<Hux32f>(whole);
     auto carry = rest >= 1 - 150 * 0x1p-24f;
     if constexpr (std::is_floating_point_v<LaneType<V>>)  // whose running sums may fall below 0
