@@ -16,7 +16,7 @@ template <class L, class Rule>
 HuxStatus runningSums5x5(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roi, Rule rule) {
   using V = Lanes<Hux32f, laneCount<Hux32f>>;
   constexpr int N = L::channels;
-  constexpr Index reach = 4 * N, piece = kOrderedPiece<N>;
+  constexpr Index reach = 4 * N, piece = kOrderedPiece<N>, atOnce = kRowsInOrder<N>;
   const Index n = Index(roi.width) * N - (N - L::processed);
   const Index line = (n + piece - 1) / piece * piece;
   // The sums along the five source rows before, row r at r modulo 5, and of those rows the totals.
@@ -29,10 +29,10 @@ HuxStatus runningSums5x5(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstS
   const auto window = windowRows<L>(pSrc, srcStep, centred(5)).top;
   alignas(64) Hux32f room[orderedRoom<N>(5)];
   const Index sourceRows = Index(roi.height) + 4;  // source row r is the lowest of the window of row r - 4
-  for (Index row = 0; row < sourceRows; row += kRowsInOrder) {
-    const Index count = std::min<Index>(kRowsInOrder, sourceRows - row);
+  for (Index row = 0; row < sourceRows; row += atOnce) {
+    const Index count = std::min<Index>(atOnce, sourceRows - row);
     const auto make = [&](Index j, int elements, OrderedLines<N>& lines) {
-      for (Index k = 0; k < kRowsInOrder; ++k) {
+      for (Index k = 0; k < atOnce; ++k) {
         const Element<Hux32f>* const from = window[row + std::min(k, count - 1)] + j;
         fetchPiece(from + piece, piece);
         if (elements == piece)
@@ -42,6 +42,7 @@ HuxStatus runningSums5x5(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstS
       }
     };
     const auto take = [&](Index x, int elements, OrderedLines<N>& lines) {
+      for (Index r = std::max<Index>(row, 4); r < row + count; ++r) fetchPiece(dst.row(r - 4) + x + elements, piece);
       const auto before = [&](Index r) { return memory.get() + r % 5 * line + x; };
       for (int i = 0; i < elements; i += lanesIn<V>) {
         V total = loadLanes<V>(totals + x + i);
