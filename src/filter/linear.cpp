@@ -93,7 +93,13 @@ HuxStatus widthFirst(Shape kernel, HuxiSize roi) {
 // The rows of a range, on one thread.
 template <class L, class T>
 void viFilter(WindowRows<T> src, Rows<T> dst, RowRange range, Index width, Taps<Hux32f> taps) {
-  tapsSum<L>(PlainProducts<T, Hux32f, Hux32f>(taps, L::channels), taps, src, dst, range, width, Rounded<T>{});
+  const auto run = [&](const auto& products) { tapsSum<L>(products, taps, src, dst, range, width, Rounded<T>{}); };
+  if (taps.size.width == 1)
+    run(NarrowProducts<T, Hux32f, Hux32f, 1>(taps, L::channels));
+  else if (sizeof(T) == sizeof(Hux32f) && taps.size.width == 3)
+    run(NarrowProducts<T, Hux32f, Hux32f, 3>(taps, L::channels));
+  else
+    run(PlainProducts<T, Hux32f, Hux32f>(taps, L::channels));
 }
 template <class L>
 void viFilter(WindowRows<Hux8u> src, Rows<Hux8u> dst, RowRange range, Index width, Taps<Hux32s> taps, Divided divided) {

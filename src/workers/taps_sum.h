@@ -13,8 +13,8 @@
 #include "core/team.h"
 #include "core/window.h"
 #include "lanes/byte_pairs.h"
+#include "lanes/held.h"
 #include "lanes/lanes.h"
-#include "lanes/unrolled.h"
 
 namespace hux {
 
@@ -81,6 +81,7 @@ inline constexpr int kTileRows = kLaneBytes == 64 ? 4 : 2;
 template <class T, class K, class A>
 class PlainProducts {
  public:
+  using AnyWidth = PlainProducts;
   static constexpr int lanes = laneCount<A>;
   template <int R>
   static constexpr int vectors = R == 1 ? 8 : 4;
@@ -136,23 +137,88 @@ class PlainProducts {
     const Element<K>* taps[Count];
     unrolled<Count>([&](auto r) HUX_INLINE { taps[r] = taps_.over(row - From - r, column); });
     for (Index i = 0; i < n; ++i, pixels += neighbour_) {
-      V p[U];
-      unrolled<U>([&](auto u) HUX_INLINE { p[u] = convert<A>(loadLanes<Lanes<T, lanes>>(pixels + u * lanes)); });
-      unrolled<Count>([&](auto r) HUX_INLINE {
-        const V tap = splat<V>(A(K(taps[r][-i])));
-        unrolled<U>([&](auto u) HUX_INLINE { sums[From + r][u] = sums[From + r][u] + p[u] * tap; });
+      V tap[Count];
+      unrolled<Count>([&](auto r) HUX_INLINE { tap[r] = splat<V>(A(K(taps[r][-i]))); });
+      unrolled<U>([&](auto u) HUX_INLINE {
+        const V p = pixelsAt<Count>(pixels + u * lanes);
+        unrolled<Count>([&](auto r) HUX_INLINE { sums[From + r][u] = sums[From + r][u] + p * tap[r]; });
       });
     }
+  }
+
+ protected:
+  // A vector of pixels for so many uses.
+  template <int Uses>
+  static HUX_INLINE Lanes<A, lanes> pixelsAt(const Element<T>* pixels) {
+    const auto p = convert<A>(loadLanes<Lanes<T, lanes>>(pixels));
+    if constexpr (Uses > 1)
+      return held(p);
+    else
+      return p;
   }
 
   Taps<K> taps_;
   Index neighbour_;
 };
 
+// The same for windows of so few columns that the loop around them would cost more than they do.
+template <class T, class K, class A, int Width>
+class NarrowProducts : public PlainProducts<T, K, A> {
+ public:
+  using AnyWidth = PlainProducts<T, K, A>;
+  using AnyWidth::AnyWidth, AnyWidth::lanes;
+
+  template <int R, class Rows>
+  HUX_INLINE void add(Rows& rows, typename AnyWidth::template Sums<R>& sums) const {
+    const Index height = this->taps_.size.height;
+    // Each window begins in one of the first rows, and ends in one of the last.
+    unrolled<R>([&](auto row) HUX_INLINE {
+      const Element<T>* const pixels = rows(row, 0, Width);
+      unrolled<R>([&](auto r) HUX_INLINE {
+        if constexpr (r == row)
+          addRow<r, 1, true>(pixels, row, sums);
+        else if (r < row && row - r < height)
+          addRow<r, 1>(pixels, row, sums);
+      });
+    });
+    Index row = R;
+    for (; row < height; ++row) addRow<0, R>(rows(row, 0, Width), row, sums);
+    for (; row < height + R - 1; ++row) {
+      const Element<T>* const pixels = rows(row, 0, Width);
+      unrolled<R>([&](auto r) HUX_INLINE {
+        if (row - r < height) addRow<r, 1>(pixels, row, sums);
+      });
+    }
+  }
+
+ private:
+  // Row `row` of the windows of Count rows of the tile. Of a window's first row, the first column begins the sums;
+  // floats then are added to 0, for the sign of a zero.
+  template <int From, int Count, bool Begins = false, int R, int U>
+  HUX_INLINE void addRow(const Element<T>* pixels, Index row, Lanes<A, lanes> (&sums)[R][U]) const {
+    using V = Lanes<A, lanes>;
+    unrolled<Width>([&](auto i) HUX_INLINE {
+      V taps[Count];
+      unrolled<Count>([&](auto r) HUX_INLINE { taps[r] = splat<V>(A(K(*this->taps_.over(row - From - r, i)))); });
+      unrolled<U>([&](auto u) HUX_INLINE {
+        const V p = AnyWidth::template pixelsAt<Count>(pixels + i * this->neighbour_ + u * lanes);
+        unrolled<Count>([&](auto r) HUX_INLINE {
+          V& sum = sums[From + r][u];
+          if constexpr (Begins && i == 0 && !std::is_floating_point_v<T>)
+            sum = p * taps[r];
+          else
+            sum = sum + p * taps[r];
+        });
+      });
+    });
+  }
+};
+
 // Products of bytes and taps of 16 bits modulo 2^32, two pixels at a time: from two rows, of which one may stand
 // against taps of 0, or in a kernel of one row from two columns.
 class PairProducts {
  public:
+  using AnyWidth = PairProducts;
   static constexpr int lanes = laneCount<Hux32s>;
   template <int R>
   static constexpr int elements = 4 * lanes;
@@ -277,8 +343,8 @@ void tapsRows(const Products& products, Window<T> window, Element<D>* dst, Index
       OpenRows<T> rows{window, at, shape.neighbour};
       tapsTile<R>(products, rows, dst + at, step, part, finish);
     } else {
-      fencedTile<R>(products, FencedRows<T, int(tile)>{window, at, shape.neighbour, part.count}, dst + at, step, part,
-                    finish);
+      fencedTile<R, typename Products::AnyWidth>(
+          products, FencedRows<T, int(tile)>{window, at, shape.neighbour, part.count}, dst + at, step, part, finish);
     }
   }
 }
