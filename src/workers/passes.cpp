@@ -8,7 +8,10 @@ namespace {
 
 // As many rows as the processor can foresee beside those around them, in memory and in the ways of its cache.
 constexpr Index kBlockRows = 8;
-constexpr Index kGrain = 64;  // elements; no vector has more
+// Where the caches hold both images, more rows of windows that are five rows high: above each block, four are computed
+// again.
+constexpr Index kCachedRows = 32, kCached = Index(4) << 20;  // bytes
+constexpr Index kGrain = 64;                                 // elements; no vector has more
 
 // Source rows where they are shorter than a vector: copies, around which memory is readable.
 template <class T>
@@ -41,12 +44,16 @@ void runPasses(const Passes<T, D>& filter, Rows<const T> src, Rows<D> dst, HuxiS
   const bool whole = channels == processed;
   // Alpha of the last pixels is not even read.
   const Index elements = Index(roi.width) * channels - (channels - processed);
+  const bool direct = whole && elements >= lanes;
+  const bool cached = roi.height * (std::abs(src.step) + std::abs(dst.step)) <= kCached;
   // Rows that overlap are written one after another, so that the last one stands.
-  const Index most = std::abs(dst.step) < elements * Index(sizeof(D)) ? 1 : kBlockRows;
+  const Index most = std::abs(dst.step) < elements * Index(sizeof(D)) ? 1
+                     : direct && cached && filter.height == 5         ? kCachedRows
+                                                                      : kBlockRows;
 
   for (Index y = 0; y < roi.height; y += most) {
     const Index rows = std::min(most, roi.height - y);
-    if (whole && elements >= lanes) {
+    if (direct) {
       const Index lead = Index(reinterpret_cast<std::uintptr_t>(dst.row(y)) / sizeof(D) % std::size_t(lanes));
       filter.run(src.row(y), channels, dst.row(y), {elements, lead, rows, src.step, dst.step});
       continue;
