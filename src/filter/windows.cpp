@@ -178,21 +178,34 @@ struct Weighted {
   }
 };
 
-// The weights of columns `first` to `first + n` of row i of an image's top left quarter.
+// The weights of row i of an image's upper half, but for the middle column of an odd width.
 template <class Window>
-void weigh(HuxiSize size, Index i, Index first, Index n, Element<Hux64f>* weights) {
+void weigh(HuxiSize size, Index i, Hux64f* weights) {
   const Hux64f width = size.width, rx = width / 2, ry = Hux64f(size.height) / 2, dy = ry - Hux64f(i);
   const Hux64f q = (ry / rx) * (ry / rx), rowSquare = dy * dy / q, rowPart = dy * dy / (ry * ry);
-  const bool square = size.width == size.height;
+  const auto inside = [&](Index j) {
+    const Hux64f dx = rx - Hux64f(j);
+    return size.width == size.height ? std::sqrt(rowSquare + dx * dx) < rx : dx * dx / (rx * rx) + rowPart < 1.0;
+  };
+  // Each operation keeps the order of what it is given, so that the columns inside follow those outside.
+  const Index n = size.width / 2;
+  Index first = 0;
+  for (Index end = n; first < end;) {
+    const Index middle = (first + end) / 2;
+    if (inside(middle))
+      end = middle;
+    else
+      first = middle + 1;
+  }
+  std::fill_n(weights, first, Window::outside);
   constexpr int lanes = lanesIn<Doubles>;
   Doubles column;
   for (int k = 0; k < lanes; ++k) column[k] = Hux64f(first + k);
-  for (Index j = 0; j < n; j += lanes, column += Hux64f(lanes)) {
-    const Doubles dx = rx - column, r = squareRoot(rowSquare + dx * dx);
-    const auto inside = square ? r < rx : dx * dx / (rx * rx) + rowPart < 1.0;
-    const Doubles weight = inside ? Window::inside(r, width) : splat<Doubles>(Window::outside);
+  for (Index j = first; j < n; j += lanes, column += Hux64f(lanes)) {
+    const Doubles dx = rx - column, weight = Window::inside(squareRoot(rowSquare + dx * dx), width);
     storeColours<4>(weights + j, weight, int(std::min<Index>(lanes, n - j)));
   }
+  std::reverse_copy(weights, weights + n, weights + size.width - n);
 }
 
 template <class Window, class T>
@@ -201,26 +214,19 @@ HuxStatus windowed(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSize ro
                           steps(srcStep, dstStep)))
     return s;
   const Side<Window> row(roi.width), column(roi.height);
-  if (!row || !column) return huxStsNoMem;
+  const Scratch<Hux64f> weights(roi.width);
+  if (!row || !column || !weights) return huxStsNoMem;
   const auto src = rows<C1>(pSrc, srcStep);
   const auto dst = rows<C1>(pDst, dstStep);
-  const auto apply = [&](const auto* weights, Index x, Index y, Index n) {
-    zipRow<C1>(src.row(y) + x, weights, dst.row(y) + x, n, Weighted<T>{});
+  const auto apply = [&](const auto* ofRow, Index y) {
+    zipRow<C1>(src.row(y), elements(ofRow), dst.row(y), roi.width, Weighted<T>{});
   };
-  // A weight serves four pixels, which mirror each other.
-  constexpr Index most = 256;
-  Element<Hux64f> weights[most], mirrored[most];
   for (Index i = 0; i < roi.height / 2; ++i) {
-    const Index below = roi.height - 1 - i;
-    forPieces(roi.width / 2, most, [&](Index first, Index n) {
-      weigh<Window>(roi, i, first, n, weights);
-      std::reverse_copy(weights, weights + n, mirrored);
-      for (const Index y : {i, below}) apply(weights, first, y, n), apply(mirrored, roi.width - first - n, y, n);
-    });
-    if (roi.width % 2 != 0)
-      for (const Index y : {i, below}) apply(elements(column.get()) + i, roi.width / 2, y, 1);
+    weigh<Window>(roi, i, weights.get());
+    if (roi.width % 2 != 0) weights[roi.width / 2] = column[i];
+    for (const Index y : {i, Index(roi.height) - 1 - i}) apply(weights.get(), y);
   }
-  if (roi.height % 2 != 0) apply(elements(row.get()), 0, roi.height / 2, roi.width);
+  if (roi.height % 2 != 0) apply(row.get(), roi.height / 2);
   return huxStsOk;
 }
 
