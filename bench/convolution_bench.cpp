@@ -1,5 +1,6 @@
 // Convolution beside filter2D of an image with zeros around, and matchTemplate by the turned kernel: the same sums,
 // which these take by transforms as well. Results are not compared: they differ in their last bits.
+#include "huxcore.h"
 #include "support.h"
 
 namespace {
@@ -60,6 +61,11 @@ void add(std::string name, bool full, int side, int k, bench::Side<Hux> hux, ben
 #define ALONE(name, t, c, l, side, k, ...)                                                                          \
   add<Hux##t, c>(#name "_" #t "_" #l, name##IsFull, side, k, RUN(huxi##name##_##t##_##l##R(OPERANDS, __VA_ARGS__)), \
                  bench::noPeer());
+#define TEAM(name, t, side, k, ...)                                                                                 \
+  add<Hux##t, 1>(                                                                                                   \
+      #name "_" #t "_C1 on two threads", name##IsFull, side, k,                                                     \
+      RUN(huxSetThreadCount(2); huxi##name##_##t##_C1R(OPERANDS __VA_OPT__(, ) __VA_ARGS__); huxSetThreadCount(1)), \
+      bench::Side("one thread", [](auto& o) { huxi##name##_##t##_C1R(OPERANDS __VA_OPT__(, ) __VA_ARGS__); }));
 constexpr bool ConvFullIsFull = true, ConvValidIsFull = false;
 
 }  // namespace
@@ -69,9 +75,11 @@ void addCases() {
     for (const int side : {512, 1024, 2048}) {
       VALID(32f, 1, C1, side, k)
       VALID(8u, 1, C1, side, k, DIVISOR)
+      TEAM(ConvValid, 32f, side, k)
+      TEAM(ConvFull, 8u, side, k, DIVISOR)
     }
   for (const int k : {7, 9, 16, 40, 64, 128})
-    for (const int side : {512, 1024}) {
+    for (const int side : {512, 1024, 2048}) {
       FULL(32f, 1, C1, side, k)
       FULL(8u, 1, C1, side, k, DIVISOR)
     }

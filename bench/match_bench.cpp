@@ -47,16 +47,17 @@ void at(const char* name, int side, int n, Work work, const char* peerName, Peer
       at<Hux##t>(                    \
           #member, side, n, [](auto& o) { huxi##member(OPERANDS); }, "", [](auto&) {});
 #endif
-#define TEAM(member, t)                      \
-  for (int side : {512, 1024, 2048})         \
-    at<Hux##t>(                              \
-        #member " on two threads", side, 40, \
-        [](auto& o) {                        \
-          huxSetThreadCount(2);              \
-          huxi##member(OPERANDS);            \
-          huxSetThreadCount(1);              \
-        },                                   \
-        "one thread", [](auto& o) { huxi##member(OPERANDS); });
+#define TEAM(member, t)                       \
+  for (int side : {512, 1024, 2048})          \
+    for (int n : {16, 40, 64, 128})           \
+      at<Hux##t>(                             \
+          #member " on two threads", side, n, \
+          [](auto& o) {                       \
+            huxSetThreadCount(2);             \
+            huxi##member(OPERANDS);           \
+            huxSetThreadCount(1);             \
+          },                                  \
+          "one thread", [](auto& o) { huxi##member(OPERANDS); });
 
 }  // namespace
 
@@ -68,5 +69,5 @@ void addCases() {
   CASE(CrossCorrValid_NormLevel_32f_C1R, 32f, TM_CCOEFF_NORMED)
   CASE(SqrDistanceValid_Norm_32f_C1R, 32f, TM_SQDIFF_NORMED)
   TEAM(CrossCorrValid_NormLevel_8u32f_C1R, 8u)
-  TEAM(SqrDistanceValid_Norm_8u32f_C1R, 8u)
+  TEAM(SqrDistanceValid_Norm_32f_C1R, 32f)
 }
