@@ -57,18 +57,35 @@ constexpr int kTypeSizes[kTypes] = {0, 1, 1, 2, 2, 4, 4, 4, 8, 4, 8, 8, 16, 1, 2
 Type typeOf(const char* format, Py_ssize_t size) {
   if (!format) return Type::t8u;
   if (*format == '@' || *format == '=') ++format;
-  if (!std::strcmp(format, "T{h:re:h:im:}") && size == 4) return Type::t16sc;
-  if (!std::strcmp(format, "T{i:re:i:im:}") && size == 8) return Type::t32sc;
+  auto bySize = [&](Type one, Type two, Type four) {
+    return size == 1 ? one : size == 2 ? two : size == 4 ? four : Type::none;
+  };
+  if (*format && !format[1]) switch (*format) {
+      case 'B':
+      case 'H':
+      case 'I':
+      case 'L':
+        return bySize(Type::t8u, Type::t16u, Type::t32u);
+      case 'b':
+      case 'h':
+      case 'i':
+      case 'l':
+        return bySize(Type::t8s, Type::t16s, Type::t32s);
+      case 'f':
+        return Type::t32f;
+      case 'd':
+        return Type::t64f;
+      case '?':
+        return Type::boolean;
+      case 'e':
+        return Type::t16f;
+      default:
+        return Type::none;
+    }
   if (!std::strcmp(format, "Zf")) return Type::t32fc;
   if (!std::strcmp(format, "Zd")) return Type::t64fc;
-  if (!*format || format[1]) return Type::none;
-  const bool isSigned = std::strchr("bhil", *format), isUnsigned = std::strchr("BHIL", *format);
-  if (*format == 'f') return Type::t32f;
-  if (*format == 'd') return Type::t64f;
-  if (*format == '?') return Type::boolean;
-  if (*format == 'e') return Type::t16f;
-  if (isSigned) return size == 1 ? Type::t8s : size == 2 ? Type::t16s : size == 4 ? Type::t32s : Type::none;
-  if (isUnsigned) return size == 1 ? Type::t8u : size == 2 ? Type::t16u : size == 4 ? Type::t32u : Type::none;
+  if (!std::strcmp(format, "T{h:re:h:im:}") && size == 4) return Type::t16sc;
+  if (!std::strcmp(format, "T{i:re:i:im:}") && size == 8) return Type::t32sc;
   return Type::none;
 }
 
@@ -140,7 +157,7 @@ struct View {
       return false;
     }
     channels = axes == 3 ? int(shape[2]) : 1;
-    if (height > INT_MAX || width > INT_MAX / (size * 4)) {
+    if (height > INT_MAX || width > INT_MAX || width * size > INT_MAX / 4) {
       PyErr_Format(PyExc_ValueError, "%s: sides and rows of an array end at 2^31 - 1", operation);
       return false;
     }
@@ -155,7 +172,7 @@ struct View {
       layout = across == pixel ? Layout(channels) : channels == 3 && across == 4 * size ? kAC4 : kNoLayout;
     const Py_ssize_t row = width > 0 ? std::abs(across) * (width - 1) + pixel : 0;
     step = axes > 1 && height > 1 ? strides[0] : across * width;
-    rowsApart = step < row || step > INT_MAX || step % size != 0;
+    rowsApart = step < row || step > INT_MAX || (step & (size - 1)) != 0;  // sizes are powers of two
     low = high = 0;
     for (int i = 0; i < axes; ++i) {
       const Py_ssize_t reach = shape[i] > 1 ? (shape[i] - 1) * strides[i] : 0;
