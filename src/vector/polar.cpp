@@ -196,7 +196,7 @@ struct Magnitude {
     const I order = bitsAs<I>(a);
     const auto outside = (order < std::bit_cast<Hux32s>(0x1p-40f)) | (order > std::bit_cast<Hux32s>(0x1p60f));
     if (any(outside | (least != most))) [[unlikely]] {
-      const auto zero = order == 0;
+      const auto zero = (order | bitsAs<I>(b)) == 0;
       if (any(outside & ~zero) || any(~zero & (least != most))) return careful<hux::Magnitude<C>, C>(v);
       least = zero ? V{} : least;
     }
