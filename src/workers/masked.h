@@ -4,6 +4,7 @@
 
 #include <bit>
 
+#include "lanes/lanes.h"
 #include "workers/move.h"
 #include "workers/pattern.h"
 
@@ -41,12 +42,72 @@ void forMaskedVectors(const Element<Hux8u>* mask, Index n, Put put) {
   }
 }
 
+// How many bits are set in each byte of a word and in those below it; the top byte tells of all.
+inline std::uint64_t bitsUpTo(std::uint64_t word) {
+  word -= word >> 1 & 0x5555555555555555;
+  word = (word & 0x3333333333333333) + (word >> 2 & 0x3333333333333333);
+  return ((word + (word >> 4)) & 0x0f0f0f0f0f0f0f0f) * 0x0101010101010101;
+}
+
+// The bits that are set in a byte, one behind the other.
+struct BitsOfByte {
+  Hux16u at[256][8] = {};
+  constexpr BitsOfByte() {
+    for (int byte = 0; byte < 256; ++byte)
+      for (int b = 0, n = 0; b < 8; ++b)
+        if (byte >> b & 1) at[byte][n++] = Hux16u(b);
+  }
+};
+inline constexpr BitsOfByte kBitsOf;
+
+// The pixels of a row that are on where the mask changes often, gathered before they are moved: then no branch depends
+// on single bits of the mask.
+class Scattered {
+ public:
+  // Takes the pixels i + b for the bits b that are set, and hands all over when there are many.
+  template <class One>
+  void add(std::uint64_t on, Index i, One one) {
+    if (count_ > kMost - 64 || i - origin_ > 0xffff - 64) handOver(one);
+    if (count_ == 0) origin_ = i;
+    const std::uint64_t counts = bitsUpTo(on), before = counts << 8;
+    const Eight first = splat<Eight>(Hux16u(i - origin_));
+    Hux16u* const to = offsets_ + count_;
+    for (int byte = 0; byte < 64; byte += 8)
+      storeLanes(to + (before >> byte & 0xff),
+                 Eight(first + loadLanes<Eight>(&kBitsOf.at[on >> byte & 0xff]) + Hux16u(byte)));
+    count_ += int(counts >> 56);
+  }
+  template <class One>
+  void handOver(One one) {
+    // What no store of a pixel can change stays in registers.
+    const int n = count_;
+    const Index origin = origin_;
+    int k = 0;
+    for (; k + 4 <= n; k += 4) {
+      std::uint64_t four;
+      std::memcpy(&four, offsets_ + k, sizeof four);
+      for (int i = 0; i < 64; i += 16) one(origin + Index(four >> i & 0xffff));
+    }
+    for (; k < n; ++k) one(origin + offsets_[k]);
+    count_ = 0;
+  }
+
+ private:
+  using Eight = Lanes<Hux16u, 8>;
+  static constexpr int kMost = 1024;
+
+  Hux16u offsets_[kMost + 8];  // from the origin; eight are written at a time
+  int count_ = 0;
+  Index origin_ = 0;
+};
+
 // Calls run(i, length) for runs of pixels that are on and, where those are so short that each would cost a mispredicted
-// branch, one(i) for single ones.
+// branch, one(i) for single ones, which may come later.
 template <class One, class Run>
 void forMaskedRuns(const Element<Hux8u>* mask, Index n, One one, Run run) {
   constexpr Index block = 64;
   constexpr int manyEdges = 16;
+  Scattered scattered;
   for (Index i = 0; i < n; i += block) {
     std::uint64_t on;
     if (n - i >= block) {
@@ -56,16 +117,20 @@ void forMaskedRuns(const Element<Hux8u>* mask, Index n, One one, Run run) {
       std::memcpy(rest, mask + i, std::size_t(n - i));
       on = simd::nonZeroBytes(rest);
     }
-    if (std::popcount(on ^ on << 1) <= manyEdges) {
+    if (on == 0) continue;
+    if (on == ~std::uint64_t(0)) {
+      run(i, block);
+    } else if (bitsUpTo(on ^ on << 1) >> 56 <= manyEdges) {
       while (on != 0) {
         const int first = std::countr_zero(on), length = std::countr_one(on >> first);
-        run(i + first, length);
+        run(i + first, Index(length));
         on &= first + length < block ? ~std::uint64_t(0) << (first + length) : 0;
       }
     } else {
-      for (; on != 0; on &= on - 1) one(i + std::countr_zero(on));
+      scattered.add(on, i, one);
     }
   }
+  scattered.handOver(one);
 }
 
 // One pixel, by words that the machine moves at once.
@@ -86,7 +151,7 @@ void copyRowMasked(const Element<W>* src, Element<W>* dst, const Element<Hux8u>*
         simd::store(advance(dst, offset), simd::load(advance(src, offset), on), on);
       });
     const auto one = [=](Index i) { detail::copyPixel<L>(src + i * L::channels, dst + i * L::channels); };
-    return detail::forMaskedRuns(mask, n, one, [=](Index i, int length) {
+    return detail::forMaskedRuns(mask, n, one, [=](Index i, Index length) {
       if constexpr (L::channels == L::processed)
         simd::copyFew(dst + i * L::channels, src + i * L::channels, length * pixelBytes);
       else
@@ -115,7 +180,7 @@ void setRowMasked(const Pattern<L, W>& pattern, Element<W>* dst, const Element<H
     Element<W> pixels[Pattern<L, W>::bytes / sizeof(W)];
     std::memcpy(pixels, pattern.elements(), sizeof pixels);
     const auto one = [&](Index i) { detail::copyPixel<L>(pixels, dst + i * L::channels); };
-    return detail::forMaskedRuns(mask, n, one, [&](Index i, int length) {
+    return detail::forMaskedRuns(mask, n, one, [&](Index i, Index length) {
       if constexpr (L::channels != L::processed)
         for (Index end = i + length; i < end; ++i) one(i);
       else if (length * pixelBytes <= Pattern<L, W>::bytes)

@@ -87,6 +87,16 @@ TEST(Copy, MaskedStoresOnlyWhereTheMaskIsSet) {
   }
 }
 
+// A row so long that places in it do not fit 16 bits, with single pixels that are on near its ends only.
+TEST(Copy, MasksOfLongRows) {
+  constexpr int width = 140000;
+  std::vector<Hux8u> src(width, 1), dst(width), mask(width), expected(width);
+  for (int x : {0, 65500, 131100, width - 90})
+    for (int i = 0; i < 90; i += 3) mask[std::size_t(x + i)] = 255, expected[std::size_t(x + i)] = 1;
+  ASSERT_EQ(huxiCopy_8u_C1MR(src.data(), width, dst.data(), width, {width, 1}, mask.data(), width), huxStsOk);
+  EXPECT_EQ(dst, expected);
+}
+
 // Where the destination starts inside the source, an element already written is read again; no other care is taken.
 TEST(Copy, OverlapShowsTheOrderOfElements) {
   Rng rng(3);
