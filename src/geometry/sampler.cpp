@@ -1,10 +1,12 @@
 #include "geometry/sampler.h"
 
 #include <bit>
+#include <cmath>
 
 #include "lanes/lanes.h"
 #include "lanes/lanes_math.h"
 #include "lanes/round.h"
+#include "lanes/windows.h"
 
 namespace hux {
 
@@ -250,39 +252,155 @@ Four loadPixel(const std::byte* p) {
   }
 }
 
-// Calls rule(k) for each pixel, which returns its elements. Of three elements four are stored, but for the last pixel,
-// since the next one follows.
+// Stores a pixel, of three elements with a fourth where the next pixel follows and will be stored.
+template <class L, bool Last = false, class V>
+void storePixel(std::byte* dst, V v) {
+  if constexpr (L::processed == 4 || (L::channels == 3 && !Last))
+    storeLanes(dst, v);
+  else
+    storeColours<3>(dst, v);
+}
+
+// Calls rule(k) for each pixel, which returns its elements.
 template <class L, class T, class Rule>
-void forPixels(std::byte* dst, Index n, Rule rule) {
+void forPixels(std::byte* dst, Index first, Index n, Rule rule) {
   constexpr Index bytes = L::channels * sizeof(T);
-  for (Index k = 0; k < n; ++k) {
-    const Lanes<T, 4> v = rule(k);
-    if (L::processed == 4 || (L::channels == 3 && k < n - 1))
-      storeLanes(dst + k * bytes, v);
-    else
-      storeColours<3>(dst + k * bytes, v);
+  for (Index k = first; k < n - 1; ++k) storePixel<L>(dst + k * bytes, rule(k));
+  if (first < n) storePixel<L, true>(dst + (n - 1) * bytes, rule(n - 1));
+}
+
+template <class L, class T>
+Lanes<T, 4> linearAt(const std::byte* plane, Index step, const Places& places, Index k) {
+  constexpr Index bytes = L::channels * sizeof(T);
+  const Four x = splat<Four>(places.x[0][k]), y = splat<Four>(places.y[0][k]);
+  const auto row = [&](const std::byte* p) {
+    const Four first = loadPixel<L, T, false>(p);
+    return first + (loadPixel<L, T, true>(p + bytes) - first) * x;
+  };
+  const std::byte* p = plane + places.offset[k];
+  using Result = LinearResult<T>;
+  return Result::narrowed(Result::between(row(p), row(p + step), y));
+}
+
+// Linear interpolation of bytes in single precision, fused or not, which is less than kDoubt away from the result of
+// double precision: where no integer lies that near, both round to the same byte. Other pixels, one in a thousand, are
+// computed again.
+using Eight = Lanes<Hux32f, 8>;
+using Bits = Lanes<Hux32s, 8>;
+
+// Next to 256 a float has 15 bits behind the point, and its whole part stands in the eight bits before them.
+constexpr int kBehindPoint = 15;
+constexpr int kDoubt = 4;  // in units of the last bit
+
+// The fractions of a block in single precision.
+struct Fractions {
+  alignas(64) Hux32f x[kBlock], y[kBlock];
+  bool inside;  // whether no position lies before the image's first column or row
+
+  Fractions(const Places& places, Index n) {
+    Wide least{};
+    const auto narrow = [&](const Hux64f* from, Hux32f* to) {
+      const Wide v = loadLanes<Wide>(from);
+      least = lesser(v, least);
+      storeLanes(to, convert<Hux32f>(v));
+    };
+    for (Index k = 0; k < n; k += lanesIn<Wide>) narrow(places.x[0] + k, x + k), narrow(places.y[0] + k, y + k);
+    inside = !any(least < -1e-6);
   }
+};
+
+// Whether single precision rounds nothing, as all fractions are multiples of 1/64: those of shifts by half a pixel are,
+// whose results lie next to integers all the time.
+[[gnu::noinline]] bool fewDigits(const Places& places, Index n) {
+  for (const Hux64f* fraction : {places.x[0], places.y[0]})
+    for (Index k = 0; k < n; ++k)
+      if (fraction[k] * 64 != std::trunc(fraction[k] * 64)) return false;
+  return true;
+}
+
+// Two neighbours: the elements of the first from lane 0 on, those of the second from lane 4 on. What lies behind them
+// is not read.
+template <class L>
+Eight loadNeighbours(const std::byte* p) {
+  if constexpr (L::channels == 3)
+    return convert<Hux32f>(spreadWords<1>(p, p + 2));
+  else
+    return convert<Hux32f>(convert<Hux32s>(loadLanes<Lanes<Hux8u, 8>>(p)));
+}
+
+// The whole parts of two pixels each, in order.
+inline Lanes<Hux8u, 16> wholeBytes(Bits a, Bits b) {
+  const auto whole = [](Bits v) { return v >> kBehindPoint & 0xff; };
+  if constexpr (sizeof(Bits) > kLaneBytes) {
+    const auto first = convert<Hux8u>(whole(a)), second = convert<Hux8u>(whole(b));
+    return __builtin_shufflevector(first, second, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15);
+  } else {
+    const auto words = packWords(whole(a), whole(b));
+    const auto pixels = bitsAs<Bits>(packBytes(words, words));
+    return bitsAs<Lanes<Hux8u, 16>>(__builtin_shufflevector(pixels, pixels, 0, 4, 1, 5));
+  }
+}
+
+// In double precision, out of the way of what comes before it.
+template <class L>
+[[gnu::noinline]] void fetchLinearFour(const std::byte* plane, Index step, const Places& places, Index first,
+                                       std::byte* dst) {
+  for (Index k = 0; k < 4; ++k)
+    storePixel<L>(dst + k * L::channels, linearAt<L, Hux8u>(plane, step, places, first + k));
+}
+
+// Four pixels a time, as many as there are but for the last ones; returns how many these are.
+template <class L>
+Index fetchLinearSingles(const std::byte* plane, Index step, const Places& places, std::byte* dst, Index n) {
+  const Fractions fractions(places, n);
+  if (!fractions.inside) return 0;
+  const auto across = [&](Index k) {
+    const std::byte* p = plane + places.offset[k];
+    const Eight top = loadNeighbours<L>(p);
+    return mulAdd(loadNeighbours<L>(p + step) - top, splat<Eight>(fractions.y[k]), top);
+  };
+  // The bits of two pixels, a half and the doubt added.
+  const auto two = [&](Index k) {
+    const Eight a = across(k), b = across(k + 1);
+    const Eight first = __builtin_shufflevector(a, b, 0, 1, 2, 3, 8, 9, 10, 11);
+    const Eight second = __builtin_shufflevector(a, b, 4, 5, 6, 7, 12, 13, 14, 15);
+    const auto both = bitsAs<Eight>(splat<Lanes<std::uint64_t, 4>>(loadLanes<std::uint64_t>(fractions.x + k)));
+    const Eight x = __builtin_shufflevector(both, both, 0, 0, 0, 0, 5, 5, 5, 5);
+    return bitsAs<Bits>(mulAdd(second - first, x, first) + (256.5f + Hux32f(kDoubt) / (1 << kBehindPoint)));
+  };
+  // What lies behind the point, in the upper bits.
+  const auto fraction = [](Bits v) { return Lanes<Hux32u, 8>(v) << (32 - kBehindPoint); };
+  constexpr Hux32u doubtful = (2u * kDoubt) << (32 - kBehindPoint);
+  bool exact = false;
+  Index k = 0;
+  for (; k + 6 <= n; k += 4) {
+    const Bits a = two(k), b = two(k + 2);
+    std::byte* to = dst + k * L::channels;
+    if (any(lesser(fraction(a), fraction(b)) < doubtful) && !exact && !(exact = fewDigits(places, n))) {
+      fetchLinearFour<L>(plane, step, places, k, to);
+      continue;
+    }
+    const auto pixels = wholeBytes(a, b);
+    if constexpr (L::channels == 3)
+      storeLanes(to, Lanes<Hux8u, 16>(__builtin_shufflevector(pixels, pixels, 0, 1, 2, 4, 5, 6, 8, 9, 10, 12, 13, 14,
+                                                              15, 15, 15, 15)));
+    else
+      storeColours<L::processed>(to, pixels);
+  }
+  return k;
 }
 
 template <class L, class T>
 void fetchLinear(const std::byte* plane, Index step, const Places& places, std::byte* dst, Index n) {
-  constexpr Index bytes = L::channels * sizeof(T);
-  forPixels<L, T>(dst, n, [&](Index k) {
-    const Four x = splat<Four>(places.x[0][k]), y = splat<Four>(places.y[0][k]);
-    const auto row = [&](const std::byte* p) {
-      const Four first = loadPixel<L, T, false>(p);
-      return first + (loadPixel<L, T, true>(p + bytes) - first) * x;
-    };
-    const std::byte* p = plane + places.offset[k];
-    using Result = LinearResult<T>;
-    return Result::narrowed(Result::between(row(p), row(p + step), y));
-  });
+  Index done = 0;
+  if constexpr (sizeof(T) == 1) done = fetchLinearSingles<L>(plane, step, places, dst, n);
+  forPixels<L, T>(dst, done, n, [&](Index k) { return linearAt<L, T>(plane, step, places, k); });
 }
 
 template <class L, class T>
 void fetchCubic(const std::byte* plane, Index step, const Places& places, std::byte* dst, Index n) {
   constexpr Index bytes = L::channels * sizeof(T);
-  forPixels<L, T>(dst, n, [&](Index k) {
+  forPixels<L, T>(dst, 0, n, [&](Index k) {
     std::array<Four, 4> x, y, rows;
     for (int c = 0; c < 4; ++c) x[c] = splat<Four>(places.x[c][k]), y[c] = splat<Four>(places.y[c][k]);
     const std::byte* p = plane + places.offset[k];

@@ -73,6 +73,28 @@ V gatherLanes(const LaneType<V>* base, Lanes<Hux32s, lanesIn<V>> at) {
   return lanesOf<V>([&](int i) { return base[at[i]]; });
 }
 
+// The bytes of two words, each in a lane: those of the word at a from lane 0 on, those of the word at b from its byte
+// `From` on in lane 4 and behind, as far as the word goes. What the lanes behind it hold is left open.
+template <int From>
+Lanes<Hux32s, 8> spreadWords(const std::byte* a, const std::byte* b) {
+  Hux32u first, second;
+  std::memcpy(&first, a, sizeof first), std::memcpy(&second, b, sizeof second);
+#if defined(__AVX2__)
+  constexpr auto pick = [](int from) { return Hux8u(from < 4 ? from : 0x80); };
+  static constexpr auto picks = [&] {
+    std::array<Hux8u, 32> all{};
+    for (int j = 0; j < 32; ++j) all[std::size_t(j)] = j % 4 ? 0x80 : pick(j % 16 / 4 + (j < 16 ? 0 : From));
+    return all;
+  }();
+  const __m256i words = _mm256_blend_epi32(_mm256_set1_epi32(int(first)), _mm256_set1_epi32(int(second)), 0xf0);
+  const __m256i order = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(picks.data()));
+  return Lanes<Hux32s, 8>(_mm256_shuffle_epi8(words, order));
+#else
+  const auto bytes = bitsAs<Lanes<Hux8u, 8>>(first | std::uint64_t(second >> (8 * From)) << 32);
+  return convert<Hux32s>(bytes);
+#endif
+}
+
 // In each 16 bytes the lanes of a, then those of b, limited to the range of 16-bit lanes.
 template <class V>
 auto packWords(V a, V b) {

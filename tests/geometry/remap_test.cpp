@@ -17,11 +17,16 @@ std::vector<Member> members() {
   return { HUX_STAMP(MEMBER, (8u, 16u, 32f), (C1, C3, AC4, C4, P3, P4)) };
 }
 
-// A coordinate next to one of the ends, on a pixel, between pixels, far outside, or none.
+// A coordinate next to one of the ends, on a pixel, in the middle between two or next to that, where results lie next
+// to integers, elsewhere between pixels, far outside, or none.
 Hux32f coordinate(Rng& rng, int first, int last) {
   constexpr Hux32f inf = std::numeric_limits<Hux32f>::infinity();
   const Hux32f a = Hux32f(first), b = Hux32f(last), inside = a + (b - a) * Hux32f(between(rng, 0, 1 << 20)) / (1 << 20);
-  const Hux32f some[] = {std::nextafter(a, -inf),
+  const Hux32f middle = std::floor(inside) + 0.5f;
+  const Hux32f some[] = {middle,
+                         std::nextafter(middle, -inf),
+                         std::nextafter(middle, inf),
+                         std::nextafter(a, -inf),
                          a,
                          b,
                          std::nextafter(b, inf),
