@@ -39,7 +39,8 @@ inline WindowBytes loadWindows(const std::byte* row, const Index* at) {
 #endif
 }
 
-// Byte j of each window of the result is byte pick[j] of that window, or 0 where the pick has its top bit set.
+// Byte j of each window of the result is the one that the lowest four bits of pick[j] tell of that window, or 0 where
+// the pick has its top bit set.
 inline WindowBytes pickBytes(WindowBytes windows, WindowBytes pick) {
 #if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512DQ__)
   return WindowBytes(_mm512_maskz_shuffle_epi8(~__mmask64(0), __m512i(windows), __m512i(pick)));
@@ -48,7 +49,7 @@ inline WindowBytes pickBytes(WindowBytes windows, WindowBytes pick) {
 #elif defined(__SSSE3__)
   return WindowBytes(_mm_shuffle_epi8(__m128i(windows), __m128i(pick)));
 #elif defined(__aarch64__)
-  return WindowBytes(vqtbl1q_u8(uint8x16_t(windows), uint8x16_t(pick)));
+  return WindowBytes(vqtbl1q_u8(uint8x16_t(windows), uint8x16_t(pick & 0x8f)));
 #else
   WindowBytes v{};
   for (int j = 0; j < kLaneBytes; ++j) v[j] = pick[j] & 0x80 ? 0 : windows[j / 16 * 16 + pick[j] % 16];
