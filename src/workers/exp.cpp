@@ -31,31 +31,40 @@ struct Reduced {
   }
 };
 
-// 2^(j/16), by the series of the exponential function. The position of j in the exponent is taken off, so that adding
-// 16 e + j in that place leaves 2^e times the entry.
-alignas(64) constexpr std::array<Hux64f, 16> kPowers = [] {
-  std::array<Hux64f, 16> powers{};
-  for (int j = 0; j < 16; ++j) {
-    Hux64f term = 1, sum = 1;
-    for (int k = 1; k < 30; ++k) sum += term *= j * std::numbers::ln2 / (16 * k);
-    powers[std::size_t(j)] = std::bit_cast<Hux64f>(std::bit_cast<std::uint64_t>(sum) - (std::uint64_t(j) << 48));
-  }
-  return powers;
-}();
-
-// Steps of ln2 / 16, whose powers come from a table.
+// Steps of ln2 / Size, whose powers come from a table.
+template <int Size>
 struct ExpByTable {
-  LaneTable<Hux64f, 16> powers{kPowers.data()};
+  static constexpr int kShift = 52 - std::countr_zero(unsigned(Size));
+  // 2^(j/Size), by the series of the exponential function. The position of j in the exponent is taken off, so that
+  // adding Size e + j in that place leaves 2^e times the entry.
+  alignas(64) static constexpr std::array<Hux64f, Size> kPowers = [] {
+    std::array<Hux64f, Size> powers{};
+    for (int j = 0; j < Size; ++j) {
+      Hux64f term = 1, sum = 1;
+      for (int k = 1; k < 30; ++k) sum += term *= j * std::numbers::ln2 / (Size * k);
+      powers[std::size_t(j)] = std::bit_cast<Hux64f>(std::bit_cast<std::uint64_t>(sum) - (std::uint64_t(j) << kShift));
+    }
+    return powers;
+  }();
+  LaneTable<Hux64f, Size> powers{kPowers.data()};
   template <class D>
   D operator()(D x) const {
-    constexpr Hux64f step = std::numbers::ln2 / 16, a = step / 2;
+    constexpr Hux64f step = std::numbers::ln2 / Size, a = step / 2;
     const auto [n, r] = Reduced<D>(x, step);
-    const D power = bitsAs<D>(bitsAs<decltype(+n)>(powers(n)) + (n << std::uint64_t(48)));
-    // 1 + r + r^2/2 + ... + r^5/120, with r^5 replaced by the nearest cubic on +-a.
-    D p = splat<D>(1.0 / 24);
-    p = mulAdd(p, r, splat<D>(1.0 / 6 + 5.0 / 4 * a * a / 120));
-    p = mulAdd(p, r, splat<D>(1.0 / 2));
-    p = mulAdd(p, r, splat<D>(1.0 - 5.0 / 16 * a * a * a * a / 120));
+    const D power = bitsAs<D>(bitsAs<decltype(+n)>(powers(n)) + (n << std::uint64_t(kShift)));
+    D p;
+    if constexpr (Size == 16) {
+      // 1 + r + r^2/2 + ... + r^5/120, with r^5 replaced by the nearest cubic on +-a.
+      p = splat<D>(1.0 / 24);
+      p = mulAdd(p, r, splat<D>(1.0 / 6 + 5.0 / 4 * a * a / 120));
+      p = mulAdd(p, r, splat<D>(1.0 / 2));
+      p = mulAdd(p, r, splat<D>(1.0 - 5.0 / 16 * a * a * a * a / 120));
+    } else {
+      // 1 + r + r^2/2 + r^3/6 + r^4/24, with r^4 replaced by the nearest square.
+      static_assert(Size == 128);
+      p = mulAdd(splat<D>(1.0 / 6), r, splat<D>(1.0 / 2 + a * a / 24));
+      p = mulAdd(p, r, splat<D>(1));
+    }
     return mulAdd(power * r, p, power);
   }
 };
@@ -88,7 +97,9 @@ struct ExpFloat {
   static constexpr int lanes = 2 * laneCount<Hux64f>;
   using V = Lanes<Hux32f, lanes>;
   using Half = Lanes<Hux32f, lanes / 2>;
-  std::conditional_t<kTablesInRegisters, ExpByTable, ExpByPolynomial> approximate;
+  // A long polynomial pays where its products are fused.
+  using Otherwise = std::conditional_t<kFuses, ExpByPolynomial, ExpByTable<128>>;
+  std::conditional_t<kTablesInRegisters, ExpByTable<16>, Otherwise> approximate;
 
   V operator()(V v) const {
     // Below -104 the result is 0 and above 89 infinite, as the limits' results are when they are narrowed; NaN stays.
@@ -99,7 +110,7 @@ struct ExpFloat {
     const U below = bitsAs<U>(x) - std::bit_cast<Hux32u>(-87.0f);
     const bool subnormal = anyBelow(below, splat<U>(std::bit_cast<Hux32u>(-104.0f) - std::bit_cast<Hux32u>(-87.0f)));
     V result = joined(convert<Hux32f>(low), convert<Hux32f>(high));
-    if (subnormal || anyOpen<kErrorBits>(low) || anyOpen<kErrorBits>(high)) [[unlikely]]
+    if (subnormal || anyOpen<kErrorBits>(low, high)) [[unlikely]]
       result = joined(careful(half<0>(x)), careful(half<1>(x)));
     return v == v ? result : splat<V>(huxConstantOfNAN_32f);
   }
@@ -217,7 +228,7 @@ template struct Exp<Hux8u>;
 template struct Exp<Hux16s>;
 
 HuxStatus Exp<Hux32f>::operator()(const Element<Hux32f>* src, Element<Hux32f>* dst, Index n) const {
-  mapRow<C1>(src, dst, n, std::conditional_t<kFuses, ExpByPairs, ExpFloat>{});
+  mapRow<C1>(src, dst, n, std::conditional_t < kFuses && !kTablesInRegisters, ExpByPairs, ExpFloat > {});
   return huxStsOk;
 }
 

@@ -37,8 +37,9 @@ template <class V>
 }
 
 struct LnFloat {
-  static constexpr int lanes = Logarithm::lanes;
+  static constexpr int lanes = 2 * Logarithm::lanes;
   using V = Lanes<Hux32f, lanes>;
+  using Half = Lanes<Hux32f, lanes / 2>;
   Logarithm logarithm;
   Hux32f nan = huxConstantOfNAN_32f;
   HuxStatus status = huxStsOk;
@@ -54,17 +55,17 @@ struct LnFloat {
       if (status == huxStsOk) status = firstWarning(v);
       x = order <= last ? v : splat<V>(1);
     }
-    const auto wide = logarithm(convert<Hux64f>(x));
-    V result = convert<Hux32f>(wide);
-    if (anyOpen<Logarithm::kErrorBits>(wide)) [[unlikely]]
-      result = careful(x);
+    const auto first = logarithm(convert<Hux64f>(half<0>(x))), second = logarithm(convert<Hux64f>(half<1>(x)));
+    V result = joined(convert<Hux32f>(first), convert<Hux32f>(second));
+    if (anyOpen<Logarithm::kErrorBits>(first, second)) [[unlikely]]
+      result = joined(careful(half<0>(x)), careful(half<1>(x)));
     if (special) {
       const V limit = v == 0 ? splat<V>(-infinity) : v > 0 ? v : splat<V>(nan);
       result = order <= last ? result : limit;
     }
     return result;
   }
-  [[gnu::noinline]] V careful(V v) const {
+  [[gnu::noinline]] Half careful(Half v) const {
     return closed<Logarithm::kErrorBits>(logarithm(convert<Hux64f>(v)), v, [](Hux64f e) { return portable::log(e); });
   }
 };
@@ -105,11 +106,7 @@ struct LnByPairs {
     }
     return result;
   }
-  [[gnu::noinline]] static V careful(V v) {
-    using Half = Lanes<Hux32f, LnFloat::lanes>;
-    LnFloat wide;
-    return joined(wide(Half(half<0>(v))), wide(Half(half<1>(v))));
-  }
+  [[gnu::noinline]] static V careful(V v) { return LnFloat{}(v); }
 };
 
 // The logarithm of positive integers times a factor, to the nearest integer.
@@ -129,7 +126,7 @@ auto scaledLogarithm(const Logarithm& logarithm, V v, Hux64f factor) {
 
 // 16s. No result lies within the error of either logarithm of a rounding boundary.
 struct LnShort {
-  using Function = std::conditional_t<kFuses, LogarithmByPairs, Logarithm>;
+  using Function = std::conditional_t<kFuses && !kTablesInRegisters, LogarithmByPairs, Logarithm>;
   using Float = LaneType<Function::V>;
   static constexpr int lanes = laneCount<Hux32f>;
   using V = Lanes<Hux16s, lanes>;
@@ -160,7 +157,7 @@ HuxStatus Ln<T>::operator()(const Element<T>* src, Element<T>* dst, Index n) con
   } else if constexpr (std::is_same_v<T, Hux16s>) {
     return applyRule<C1>(dst, n, LnShort(scaleFactor), FromRow<T, LnShort::lanes>{src, 1}).status;
   } else {
-    using Rule = std::conditional_t<kFuses, LnByPairs, LnFloat>;
+    using Rule = std::conditional_t<kFuses && !kTablesInRegisters, LnByPairs, LnFloat>;
     return applyRule<C1>(dst, n, Rule{}, FromRow<T, Rule::lanes>{src, 1}).status;
   }
 }

@@ -21,20 +21,19 @@ constexpr Hux64f logarithm(Hux64f x) {
 }
 
 // The same on lanes, to within a relative 2^-kErrorBits, for positive normal operands. The operand is 2^e * z with z
-// from 0.699 to 1.398.
+// from about 0.7 to 1.4.
 struct LogarithmBase {
   static constexpr int lanes = laneCount<Hux64f>, kErrorBits = 37;
   using D = Lanes<Hux64f, lanes>;
   using V = D;
   using U = Lanes<std::uint64_t, lanes>;
-  static constexpr std::uint64_t kFirst = 0x3FE6600000000000;
 
   struct Split {
     U offset;
     D z, e;  // e in units of kE
-    explicit Split(D x) {
+    Split(D x, std::uint64_t first) {
       const U bits = bitsAs<U>(x);
-      offset = bits - kFirst;
+      offset = bits - first;
       const U exponent = offset & ~std::uint64_t(0) << 52;
       z = bitsAs<D>(bits - exponent), e = highToDouble(exponent);
     }
@@ -42,31 +41,38 @@ struct LogarithmBase {
   static constexpr Hux64f kE = kHighUnit * 0x1p-52 * std::numbers::ln2;
 };
 
-// z = (1 + r) / c with c one of 16 reciprocals, chosen by the leading bits; r is rounded once at most. About z = 1 c is
-// 1 and r exact, so that the result keeps its precision.
+// z = (1 + r) / c with c one of Size reciprocals, chosen by the leading bits; r is rounded once at most. About z = 1 c
+// is 1 and r exact, so that the result keeps its precision.
+template <int Size>
 struct LogarithmByTable : LogarithmBase {
+  static constexpr int kShift = 52 - std::countr_zero(unsigned(Size));
+  static constexpr std::uint64_t kPart = std::uint64_t(1) << kShift, kOne = 0x3FF0000000000000;
+  // The part of 1 begins below it, and is the one with this number.
+  static constexpr int kPartOfOne = 77 * Size / 128;
+  static constexpr std::uint64_t kFirst = kOne - kPart * 2 / 3 - kPartOfOne * kPart;
   struct alignas(64) Tables {
-    Hux64f reciprocals[16], logarithms[16];
+    Hux64f reciprocals[Size], logarithms[Size];
   };
   static constexpr Tables kTables = [] {
     Tables tables{};
-    for (int j = 0; j < 16; ++j) {
-      const auto middle = std::bit_cast<Hux64f>(kFirst + (std::uint64_t(2 * j + 1) << 47));
-      const Hux64f c = j == 9 ? 1 : Hux64f(Hux32f(1 / middle));
+    for (int j = 0; j < Size; ++j) {
+      const auto middle = std::bit_cast<Hux64f>(kFirst + std::uint64_t(j) * kPart + kPart / 2);
+      const Hux64f c = j == kPartOfOne ? 1 : Hux64f(Hux32f(1 / middle));
       tables.reciprocals[j] = c;
-      tables.logarithms[j] = -logarithm(c);
+      tables.logarithms[j] = -hux::logarithm(c);
     }
     return tables;
   }();
-  LaneTable<Hux64f, 16> reciprocals{kTables.reciprocals}, logarithms{kTables.logarithms};
+  LaneTable<Hux64f, Size> reciprocals{kTables.reciprocals}, logarithms{kTables.logarithms};
 
   D operator()(D x) const {
-    const Split s(x);
-    const U entry = s.offset >> std::uint64_t(48);
+    const Split s(x, kFirst);
+    const U entry = s.offset >> std::uint64_t(kShift);
     const D r = mulAdd(s.z, reciprocals(entry), splat<D>(-1));
     const D base = mulAdd(s.e, splat<D>(kE), logarithms(entry));
-    D p = splat<D>(1.0 / 7);
-    for (int k = 6; k >= 1; --k) p = mulAdd(p, r, splat<D>((k % 2 ? 1.0 : -1.0) / k));
+    constexpr int terms = Size == 16 ? 7 : 5;
+    D p = splat<D>(1.0 / terms);
+    for (int k = terms - 1; k >= 1; --k) p = mulAdd(p, r, splat<D>((k % 2 ? 1.0 : -1.0) / k));
     return mulAdd(p, r, base);
   }
 };
@@ -76,7 +82,7 @@ struct LogarithmBySeries : LogarithmBase {
   static constexpr std::array<Hux64f, 7> kTerms = {2, 2.0 / 3, 2.0 / 5, 2.0 / 7, 2.0 / 9, 2.0 / 11, 2.0 / 13};
 
   D operator()(D x) const {
-    const Split s(x);
+    const Split s(x, 0x3FE6600000000000);
     const D t = (s.z - 1.0) / (s.z + 1.0);
     return mulAdd(polynomial(kTerms, D(t * t)), t, s.e * kE);
   }
@@ -134,6 +140,8 @@ struct LogarithmByPairs {
   }
 };
 
-using Logarithm = std::conditional_t<kTablesInRegisters, LogarithmByTable, LogarithmBySeries>;
+// A division in the place of a table pays where products are fused.
+using Logarithm = std::conditional_t<kTablesInRegisters, LogarithmByTable<16>,
+                                     std::conditional_t<kFuses, LogarithmBySeries, LogarithmByTable<128>>>;
 
 }  // namespace hux

@@ -19,12 +19,25 @@ V decided(V low, V high, All all) {
 
 // Whether a relative error of 2^-ErrorBits decides how some of these values narrow; they must be normal as floats.
 template <int ErrorBits, class D>
-bool anyOpen(D values) {
-  using U = Lanes<std::uint64_t, lanesIn<D>>;
+bool anyOpen(D low, D high) {
   // A float drops 29 bits; the middle of their range is its rounding boundary. One unit of a double is a relative 2^-53
   // or more. Moved so that the open ones start at 0, they have no higher bit among the 29.
-  constexpr std::uint64_t all = 1 << 29, middle = all / 2, margin = std::uint64_t(1) << (53 - ErrorBits);
-  return anyClear(bitsAs<U>(values) + (middle + margin), splat<U>(all - 2 * margin));
+  constexpr std::uint32_t all = 1 << 29, middle = all / 2, margin = std::uint32_t(1) << (53 - ErrorBits);
+  if constexpr (kTablesInRegisters) {
+    using U = Lanes<std::uint64_t, lanesIn<D>>;
+    const auto open = [](D v) {
+      return anyClear(bitsAs<U>(v) + std::uint64_t(middle + margin), splat<U>(all - 2 * margin));
+    };
+    return open(low) || open(high);
+  } else {
+    // All of these bits stand in the lower halves of the lanes.
+    using W = Lanes<std::uint32_t, 2 * lanesIn<D>>;
+    const W lower = [&]<int... I>(std::integer_sequence<int, I...>) {
+      return __builtin_shufflevector(bitsAs<W>(low), bitsAs<W>(high), 2 * I...);
+    }
+    (std::make_integer_sequence<int, lanesIn<W>>{});
+    return anyClear(lower + (middle + margin), splat<W>(all - 2 * margin));
+  }
 }
 
 // The values narrowed, those that are open from function(argument) in double precision.
