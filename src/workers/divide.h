@@ -26,12 +26,20 @@ struct QuotientOf {
   // without a zero are the rule, and spared the selection.
   F divide(V denominator, F n, F d) {
     F q = n / d;
-    if (anyZero(Lanes<Word<T>, lanes>(denominator))) [[unlikely]] {
+    if (anyZeroOf(denominator, d)) [[unlikely]] {
       const M zero = d == 0.0f;
       met |= zero;
       q = zero ? n * 0x1p60f : q;
     }
     return q;
+  }
+
+  // Whether a denominator is zero; of elements that do not fill a register their floats tell it.
+  static bool anyZeroOf(V denominator, F d) {
+    if constexpr (sizeof(V) < 16)
+      return anyZero(d);
+    else
+      return anyZero(Lanes<Word<T>, lanes>(denominator));
   }
 
   // Vectors of a row start with a pixel where these have four channels: the lane tells the channel. Alpha divides like
