@@ -1,6 +1,7 @@
 // Dup and SwapChannels: channels repeated or permuted, values unchanged.
 #include "core/stamp.h"
 #include "huxi_pixel.h"
+#include "lanes/planes.h"
 #include "workers/move.h"
 
 namespace hux {
@@ -88,6 +89,21 @@ class Shuffles {
   simd::PermuteBy permute_[vectors];
 };
 
+// Groups of pixels by way of planes, as long as the groups are whole; the number of pixels moved. Pays for bytes.
+[[maybe_unused]] Index swapByPlanes(const Element<Hux8u>* src, Element<Hux8u>* dst, Index n, ChannelOrder order) {
+  constexpr Index group = simd::kBytes;
+  Index i = 0;
+  for (; i + group <= n; i += group) {
+    simd::Vec v[3], to[3];
+    for (int k = 0; k < 3; ++k) v[k] = simd::load(advance(src + 3 * i, k * simd::kBytes));
+    simd::toPlanes<1>(v);
+    for (int k = 0; k < 3; ++k) to[k] = v[order.from[k]];
+    simd::fromPlanes<1>(to);
+    for (int k = 0; k < 3; ++k) simd::store(advance(dst + 3 * i, k * simd::kBytes), to[k]);
+  }
+  return i;
+}
+
 template <class L, class W>
 void swapRow(const Element<W>* src, Element<W>* dst, Index n, const Shuffles<L, W>& shuffles, ChannelOrder order,
              bool streaming) {
@@ -111,6 +127,8 @@ void swapRow(const Element<W>* src, Element<W>* dst, Index n, const Shuffles<L, 
       if (i < n) move(part, n - i);
       return;
     }
+  } else if constexpr (!simd::kPermutes && L::channels == 3 && sizeof(W) == 1) {
+    i = swapByPlanes(src, dst, n, order);
   }
   for (; i < n; ++i) {
     const Element<W>* from = src + i * L::channels;

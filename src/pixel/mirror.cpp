@@ -1,6 +1,7 @@
 // Mirror: the order of rows, of the pixels in each row, or of both reversed.
 #include "core/stamp.h"
 #include "huxi_pixel.h"
+#include "lanes/planes.h"
 #include "lanes/windows.h"
 #include "workers/move.h"
 
@@ -14,7 +15,7 @@ struct Group {
   static constexpr int vectors = L::channels == 3 ? 3 : 1;
   static constexpr int pixels = vectors * simd::kBytes / pixelBytes;
   static constexpr bool whole = L::processed == L::channels;
-  static constexpr bool vectorised = simd::kPermutes && (whole || simd::kMasks);
+  static constexpr bool vectorised = simd::kPermutes ? whole || simd::kMasks : whole;
 
   template <int Out>
   struct Reverse {
@@ -46,6 +47,17 @@ struct Group {
   // Calls put(k, vector, bytes that a pixel of the layout writes).
   template <class Put>
   void reversed(Put put) const {
+    if constexpr (!simd::kPermutes) {
+      // Where bytes are not permuted freely, pixels of three elements go by way of planes.
+      constexpr int unit = vectors == 3 ? int(sizeof(W)) : pixelBytes;
+      simd::Vec v[vectors];
+      std::memcpy(v, in, sizeof v);
+      if constexpr (vectors == 3) simd::toPlanes<unit>(v);
+      for (simd::Vec& part : v) part = simd::reversed<unit>(part);
+      if constexpr (vectors == 3) simd::fromPlanes<unit>(v);
+      for (int k = 0; k < vectors; ++k) put(k, v[k], simd::kAll);
+      return;
+    }
     [&]<std::size_t... Out>(std::index_sequence<Out...>) {
       (put(int(Out), simd::permute<Reverse<int(Out)>, vectors>(in), simd::written<Reverse<int(Out)>>()), ...);
     }

@@ -7,6 +7,7 @@
 #include <array>
 
 #include "core/rows.h"
+#include "lanes/planes.h"
 #include "lanes/simd.h"
 #include "workers/fill.h"
 
@@ -146,6 +147,34 @@ void moveApart(const SrcRow& src, const DstRow& dst, Index first, Index n) {
   for (; first < n; ++first) one(first);
 }
 
+// Whole pixels to planes, from planes, or each from one element, where bytes are not permuted freely.
+template <class Src, class Dst, int Taken>
+inline constexpr bool kByPlanes = false;
+template <int N>
+inline constexpr bool kByPlanes<Interleaved<N>, Planar<N>, N> = N == 3 || N == 4;
+template <int N>
+inline constexpr bool kByPlanes<Planar<N>, Interleaved<N>, N> = N == 3 || N == 4;
+template <int N>
+inline constexpr bool kByPlanes<Repeated, Interleaved<N>, N> = N == 3 || N == 4;
+
+// Moves groups of them, as long as those are whole, and returns the number of pixels moved.
+template <class W, class Src, class Dst, int Taken, class SrcRow, class DstRow>
+Index moveByPlanes(const SrcRow& src, const DstRow& dst, Index n) {
+  constexpr int bytes = sizeof(W);
+  constexpr Index group = simd::kBytes / bytes;
+  Index i = 0;
+  for (; i + group <= n; i += group) {
+    simd::Vec v[Taken];
+    for (int k = 0; k < Taken; ++k) v[k] = simd::load(Src::vectorAt(src, i, Src::vectors == 1 ? 0 : k));
+    if constexpr (std::is_same_v<Dst, Planar<Taken>>)
+      simd::toPlanes<bytes>(v);
+    else
+      simd::fromPlanes<bytes>(v);
+    for (int k = 0; k < Taken; ++k) simd::store(Dst::vectorAt(dst, i, k), v[k]);
+  }
+  return i;
+}
+
 // Moves `Taken` elements of each of n pixels of type W. Destinations of which every byte is written can be streamed.
 template <class W, class Src, class Dst, int Taken, class SrcRow, class DstRow>
 void moveRow(SrcRow src, DstRow dst, Index n, bool streaming = false) {
@@ -200,7 +229,8 @@ void moveRow(SrcRow src, DstRow dst, Index n, bool streaming = false) {
       }
     }
   } else if (apart<Src, Dst>(src, dst, n, bytes)) {
-    return moveApart<Src, Dst, Taken>(src, dst, 0, n);
+    if constexpr (!simd::kPermutes && kByPlanes<Src, Dst, Taken>) i = moveByPlanes<W, Src, Dst, Taken>(src, dst, n);
+    return moveApart<Src, Dst, Taken>(src, dst, i, n);
   }
   moveEach<Src, Dst, Taken>(src, dst, i, n);
 }
