@@ -1256,7 +1256,7 @@ HUX_API HuxStatus huxiDeconvLRFree_32f_C3R(HuxiDeconvLRState* pState);
  * forms in single; 8u rounds them half up. A weight of 0 leaves a NaN what it is. Forms in place have one image,
  * pSrcDst; otherwise the images must not overlap.
  * Checks, in order: null pointers (huxStsNullPtr), width or height below 3 (huxStsBadSize), a step below 1
- * (huxStsBadStep), memory for a row and a column of floats (huxStsNoMem; nothing is written then). */
+ * (huxStsBadStep), memory for the weights of rows and columns (huxStsNoMem; nothing is written then). */
 HUX_API HuxStatus huxiWinBartlett_8u_C1R(const Hux8u* pSrc, int srcStep, Hux8u* pDst, int dstStep, HuxiSize roiSize);
 HUX_API HuxStatus huxiWinBartlett_8u_C1IR(Hux8u* pSrcDst, int srcDstStep, HuxiSize roiSize);
 HUX_API HuxStatus huxiWinBartlett_32f_C1R(const Hux32f* pSrc, int srcStep, Hux32f* pDst, int dstStep, HuxiSize roiSize);
