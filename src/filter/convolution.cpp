@@ -210,7 +210,7 @@ void sumRange(Taps<Hux32s> taps, WindowRows<Hux8u> src, Rows<Hux8u> dst, RowRang
 // which meets the last tap. That order serves bytes and floats; the sums of 16s begin with the first tap, and so both
 // images are turned by half a circle, and the results turned back.
 template <class T>
-HuxStatus convDirect(Image<T> big, Image<T> small, Rows<T> dst, Extent result, Ending<T> ending) {
+HuxStatus owniDirConvF(Image<T> big, Image<T> small, Rows<T> dst, Extent result, Ending<T> ending) {
   using Tap = std::conditional_t<std::is_same_v<T, Hux8u>, Hux32s, T>;
   constexpr bool turned = std::is_same_v<T, Hux16s>;
   constexpr Index atOnce = 32, bytes = sizeof(T);
@@ -411,7 +411,7 @@ HuxStatus convFull(Image<T> big, Image<T> small, T* pDst, int dstStep, Ending<T>
   const bool whole = (area(big.size) + 6) / 7 <= area(small.size);
   const auto method = [=](Image<T> a, Image<T> b, T* p, int step) {
     const Rows<T> dst = rows<C1>(p, step);
-    if (direct) return convDirect(a, b, dst, result, ending);
+    if (direct) return owniDirConvF(a, b, dst, result, ending);
     return whole ? convWhole(a, b, dst, result, ending) : convBlocks(a, b, dst, result, false, ending);
   };
   if constexpr (std::is_floating_point_v<T>)

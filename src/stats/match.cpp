@@ -227,7 +227,8 @@ class Matcher {
   }
 
   // Brings a rectangle of a channel to (left, top) of a block of zeros.
-  void bringBlock(const Source& image, Index c, HuxiRect from, Index left, Index top, Hux32f* block) const {
+  void owniShiftClipRectZeroTail(const Source& image, Index c, HuxiRect from, Index left, Index top,
+                                 Hux32f* block) const {
     const auto zero = [](Hux32f* first, Hux32f* last) { std::fill(first, last, 0.0f); };
     const Index step = blocks_.step();
     zero(block, block + top * step);
@@ -261,7 +262,7 @@ class Matcher {
     normAndMean(channels, all, tpl_.size, norm, mean);
     for (Index c = 0; c < channels; ++c) {
       terms_[c] = Terms(measure_, norm[c], mean[c], Hux64f(area(tpl_.size)), pixels_.floor, factor_);
-      bringBlock(tpl_, c, {0, 0, tpl_.size.width, tpl_.size.height}, 0, 0, slice.block);
+      owniShiftClipRectZeroTail(tpl_, c, {0, 0, tpl_.size.width, tpl_.size.height}, 0, 0, slice.block);
       if (measure_ == Measure::level)
         for (Index y = 0; y < height; ++y)
           for (Index x = 0; x < width; ++x) slice.block[y * blocks_.step() + x] -= Hux32f(mean[c]);
@@ -284,11 +285,11 @@ class Matcher {
     const Windows windows = {slice.block, blocks_.step(), tpl_.size.width, tpl_.size.height,
                              width,       height,         pixels_.areBytes};
     for (Index c = 0; c < pixels_.processed; ++c) {
-      bringBlock(src_, c, seen, outX, outY, slice.block);
+      owniShiftClipRectZeroTail(src_, c, seen, outX, outY, slice.block);
       if (measure_ == Measure::level)
         windowVariances(windows, 1.0f / Hux32f(area(tpl_.size)), slice.energies, energyStep(), slice.sums);
       else
-        windowEnergies(windows, slice.energies, energyStep(), slice.sums);
+        owniAutoCorr(windows, slice.energies, energyStep(), slice.sums);
       rowsForward(given, slice);
       blocks_.columnsThrough(given, slice.block, reinterpret_cast<const Hux32f*>(shared) + c * blocks_.spectrumFloats(),
                              {0, height}, slice.room);

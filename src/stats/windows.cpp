@@ -214,7 +214,7 @@ Index windowRoom(Index across, Index width) {
   return std::max(bands, (ByteColumns<2>::room(across, width) + 1) / 2);
 }
 
-void windowEnergies(const Windows& w, Hux32f* energies, Index step, Hux64f* room) {
+void owniAutoCorr(const Windows& w, Hux32f* energies, Index step, Hux64f* room) {
   sumsOf<1>(w, room, [=, across = w.across](Index y, const Hux32f* const(&sums)[1]) {
     std::copy_n(sums[0], across, energies + y * step);
   });

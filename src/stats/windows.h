@@ -18,7 +18,7 @@ struct Windows {
 Index windowRoom(Index across, Index width);
 
 // The sums of squares, `step` floats from row to row; and the same less the square of the window's sum times `inverse`.
-void windowEnergies(const Windows& windows, Hux32f* energies, Index step, Hux64f* room);
+void owniAutoCorr(const Windows& windows, Hux32f* energies, Index step, Hux64f* room);
 void windowVariances(const Windows& windows, Hux32f inverse, Hux32f* variances, Index step, Hux64f* room);
 
 }  // namespace hux
