@@ -170,13 +170,14 @@ Hux64f atan2(Hux64f y, Hux64f x) {
 }
 
 Hux64f exp(Hux64f x) {
+  if (std::isnan(x)) return x;
   const Hux64f doublings = std::floor(x * (1 / std::numbers::ln2) + 0.5);
   const Wide rest = Wide{x} - Wide{doublings} * kLn2;
   return std::ldexp(series(kFactorials, 0, 1, rest).high, int(doublings));
 }
 
 Hux64f log(Hux64f x) {
-  int doublings;
+  int doublings = 0;  // also of what has no exponent
   Hux64f m = std::frexp(x, &doublings);
   if (m < std::numbers::sqrt2 / 2) m *= 2, --doublings;
   const Wide t = exactSum(m, -1) / exactSum(m, 1);

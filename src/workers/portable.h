@@ -14,7 +14,7 @@ Hux64f sin(Hux64f x);
 Hux64f cos(Hux64f x);
 // The angle of the point (x, y), with the signs and the limits of the C function.
 Hux64f atan2(Hux64f y, Hux64f x);
-// Of -700 to 700.
+// Of -700 to 700, and of NaN, which stays.
 Hux64f exp(Hux64f x);
 // Of positive normal numbers.
 Hux64f log(Hux64f x);
