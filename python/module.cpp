@@ -819,7 +819,14 @@ class Run {
       return true;
     }
     if (!member) member = inPlace;
-    return (!a.touches(out) || packSource(a)) && (!two() || !b.touches(out) || packSource(b));
+    const Layout before = layoutOf(a);
+    if ((a.touches(out) && !packSource(a)) || (two() && b.touches(out) && !packSource(b))) return false;
+    if (layoutOf(a) == before && (!two() || layoutOf(b) == before)) return true;
+    // Copies do not lie as the function wants it: then out is a copy too, until the end.
+    if (!packSource(a) || (two() && !packSource(b)) || !out.pack(true, op.name)) return false;
+    if (!look(destination)) return explain(source, form, look);
+    member = apart ? apart : inPlace;
+    return true;
   }
 
   template <class Look>

@@ -173,7 +173,7 @@ class Out:
     def __init__(self, name, out, image, shape, dtype, channels, *, keep=None, zero=False, planes=0):
         height, width = shape
         axes = (height, width, channels) if channels > 1 or image.axes == 3 and image.channels == channels == 1 else shape
-        if image.axes == 1 and height == 1 and (out is None or getattr(out, "ndim", 2) == 1):
+        if image.axes == 1 and height == channels == 1 and (out is None or getattr(out, "ndim", 2) == 1):
             axes = (width,)
         self.targets = ()
         if out is None:
@@ -461,7 +461,10 @@ def geometry(name, asked, sources, own, options):
     if shape is not None:
         shape = rows_columns(name, shape)
     elif given is not None:
-        shape = np.shape(first)[:2] if np.ndim(first) > 1 else (1, *np.shape(first))
+        shape = array(name, first).shape
+        if not 1 <= len(shape) <= 3:
+            refuse(name, "out is an image")
+        shape = shape[:2] if len(shape) > 1 else (1, *shape)
     width = max(min(roi[2], image.width - roi[0]), 1)
     height = max(min(roi[3], image.height - roi[1]), 1)
     maps = []
@@ -574,6 +577,8 @@ def border(name, asked, sources, own, options):
         shape = rows_columns(name, shape)
     elif given is not None:
         shape = array(name, given).shape[:2]
+        if len(shape) < 2:
+            refuse(name, "out is an image (H, W) or (H, W, C)")
     else:
         shape = image.height + 2 * top, image.width + 2 * left
     # In place, the source is the part of out that the border is around.

@@ -1,4 +1,7 @@
-"""What the pages of the reference site show of Python runs as it stands there."""
+"""The programs in examples/python run, and draw; and what the reference site shows of Python runs as it stands there."""
+import os
+import subprocess
+import sys
 import tomllib
 from pathlib import Path
 
@@ -7,13 +10,24 @@ import pytest
 
 import hux
 
-EXAMPLES = tomllib.loads((Path(__file__).parents[2] / "docs" / "site" / "examples.toml").read_text())
+ROOT = Path(__file__).resolve().parents[2]
+FOLDER = ROOT / "examples" / "python"
+SHOWN = tomllib.loads((ROOT / "docs" / "site" / "examples.toml").read_text())
 
 
-@pytest.mark.parametrize("family", [name for name, example in EXAMPLES.items() if "python" in example])
-def test_runs(family):
+@pytest.mark.parametrize("program", sorted(set(FOLDER.glob("*.py")) - {FOLDER / "png.py"}), ids=lambda p: p.stem)
+def test_example(program, tmp_path):
+    run = subprocess.run([sys.executable, program, tmp_path], capture_output=True, text=True,
+                         env=os.environ | {"OMP_WAIT_POLICY": "passive"})
+    assert run.returncode == 0, run.stderr
+    drawn = run.stdout.partition(":")[0]
+    assert (tmp_path / drawn).stat().st_size > 10000
+
+
+@pytest.mark.parametrize("family", [name for name, example in SHOWN.items() if "python" in example])
+def test_shown(family):
     rng = np.random.default_rng(1)
     names = dict(np=np, hux=hux, a=rng.integers(0, 256, (48, 96, 3), np.uint8),
                  b=rng.integers(1, 256, (48, 96, 3), np.uint8), gray=rng.integers(0, 256, (48, 96), np.uint8),
                  mask=np.full((48, 96), 255, np.uint8), f=rng.random((48, 96), np.float32) + np.float32(0.1))
-    exec(EXAMPLES[family]["python"], names)
+    exec(SHOWN[family]["python"], names)
