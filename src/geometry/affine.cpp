@@ -97,12 +97,6 @@ HuxStatus ownvi_WarpAffineQ(const Warp& w, const Hux64f (*pSrcQuad)[2], const Hu
   return follows ? huxStsOk : huxStsQuadNotAffineWarn;
 }
 
-// Reads the coefficients behind the checks that come before them.
-HuxStatus warpAffine(const Warp& w, const Hux64f (*coeffs)[3]) {
-  if (HuxStatus s = w.arguments()) return s;
-  return ownvi_WarpAffine(w, affineAt(coeffs));
-}
-
 }  // namespace
 
 // The inverse map is taken from the quadrangle, not from the coefficients.
@@ -128,12 +122,16 @@ HuxStatus ownvi_WarpAffine(const Warp& w, const AffineCoeffs& coeffs) {
   return huxStsOk;
 }
 
+// Reads the coefficients behind the checks that come before them.
+static HuxStatus ownvi_WarpAffine(const Warp& w, const Hux64f (*coeffs)[3]) {
+  if (HuxStatus s = w.arguments()) return s;
+  return ownvi_WarpAffine(w, affineAt(coeffs));
+}
+
 }  // namespace hux
 
-#define EXPORT(t, l)                                                                                          \
-  HUX_EXPORT_WARP(WarpAffine, t, l, (const Hux64f coeffs[2][3]), hux::warpAffine(warp, coeffs))               \
-  HUX_EXPORT_WARP(WarpAffineBack, t, l, (const Hux64f coeffs[2][3]), hux::ownvi_WarpAffineBack(warp, coeffs)) \
-  HUX_EXPORT_WARP_QUAD(WarpAffineQuad, t, l, hux::ownvi_WarpAffineQ(warp, srcQuad, dstQuad))                  \
-  HUX_EXPORT_WARP(Shear, t, l, (Hux64f xShear, Hux64f yShear, Hux64f xShift, Hux64f yShift),                  \
+#define EXPORT(t, l)                                                                         \
+  HUX_EXPORT_WARPS(WarpAffine, hux::ownvi_WarpAffine, t, l, 2, 3)                            \
+  HUX_EXPORT_WARP(Shear, t, l, (Hux64f xShear, Hux64f yShear, Hux64f xShift, Hux64f yShift), \
                   hux::ownvi_WarpAffine(warp, hux::shearing(xShear, yShear, xShift, yShift)))
 HUX_STAMP(EXPORT, (8u, 16u, 32f), (C1, C3, AC4, C4, P3, P4))

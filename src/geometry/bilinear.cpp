@@ -223,8 +223,5 @@ HuxStatus ownvi_WarpBilinearQ(const Warp& w, const Hux64f (*pSrcQuad)[2], const 
 }  // namespace
 }  // namespace hux
 
-#define EXPORT(t, l)                                                                                              \
-  HUX_EXPORT_WARP(WarpBilinear, t, l, (const Hux64f coeffs[2][4]), hux::ownvi_WarpBilinear(warp, coeffs))         \
-  HUX_EXPORT_WARP(WarpBilinearBack, t, l, (const Hux64f coeffs[2][4]), hux::ownvi_WarpBilinearBack(warp, coeffs)) \
-  HUX_EXPORT_WARP_QUAD(WarpBilinearQuad, t, l, hux::ownvi_WarpBilinearQ(warp, srcQuad, dstQuad))
+#define EXPORT(t, l) HUX_EXPORT_WARPS(WarpBilinear, hux::ownvi_WarpBilinear, t, l, 2, 4)
 HUX_STAMP(EXPORT, (8u, 16u, 32f), (C1, C3, AC4, C4, P3, P4))

@@ -70,6 +70,19 @@ auto image(T* const* planes, int step) {
   return all;
 }
 
+// What every function of this room is given: the source image, the region of it that counts, and the destination.
+struct Images {
+  Format format;
+  Image<const std::byte> src;
+  HuxiSize srcSize;
+  HuxiRect srcRoi;
+  Image<std::byte> dst;
+};
+template <class L, class T>
+Images images(Pixels<L, const T> pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, Pixels<L, T> pDst, int dstStep) {
+  return {formatOf<L, T>(), image<L>(pSrc, srcStep), srcSize, srcRoi, image<L>(pDst, dstStep)};
+}
+
 // The planes of planar images. An interleaved image is its only plane.
 template <class... Byte>
 constexpr HuxStatus planes(const Format& format, const Image<Byte>&... image) {
@@ -94,3 +107,8 @@ inline HuxiRect commonPart(HuxiSize image, HuxiRect roi) {
 }
 
 }  // namespace hux
+
+// The parameters of a member that tell its images, and the call's images made of them.
+#define HUX_SOURCE(t, l) hux::Pixels<hux::l, const Hux##t> pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi
+#define HUX_DESTINATION(t, l) hux::Pixels<hux::l, Hux##t> pDst, int dstStep
+#define HUX_IMAGES(t, l) hux::images<hux::l, Hux##t>(pSrc, srcSize, srcStep, srcRoi, pDst, dstStep)

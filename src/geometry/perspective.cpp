@@ -117,9 +117,5 @@ HuxStatus ownvi_WarpPerspectiveQ(const Warp& w, const Hux64f (*pSrcQuad)[2], con
 }  // namespace
 }  // namespace hux
 
-#define EXPORT(t, l)                                                                                            \
-  HUX_EXPORT_WARP(WarpPerspective, t, l, (const Hux64f coeffs[3][3]), hux::ownvi_WarpPerspective(warp, coeffs)) \
-  HUX_EXPORT_WARP(WarpPerspectiveBack, t, l, (const Hux64f coeffs[3][3]),                                       \
-                  hux::ownvi_WarpPerspectiveBack(warp, coeffs))                                                 \
-  HUX_EXPORT_WARP_QUAD(WarpPerspectiveQuad, t, l, hux::ownvi_WarpPerspectiveQ(warp, srcQuad, dstQuad))
+#define EXPORT(t, l) HUX_EXPORT_WARPS(WarpPerspective, hux::ownvi_WarpPerspective, t, l, 3, 3)
 HUX_STAMP(EXPORT, (8u, 16u, 32f), (C1, C3, AC4, C4, P3, P4))

@@ -25,9 +25,9 @@ struct TableMap {
 // Maps are compared with the region's ends in single precision.
 Box asFloats(const Box& b) { return {Hux32f(b.x1), Hux32f(b.y1), Hux32f(b.x2), Hux32f(b.y2)}; }
 
-HuxStatus remap(const Format& format, const Image<const std::byte>& src, HuxiSize srcSize, HuxiRect srcRoi,
-                const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep, const Image<std::byte>& dst,
+HuxStatus remap(const Images& images, const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, int yMapStep,
                 HuxiSize dstRoiSize, HuxiInterpolation interpolation) {
+  const auto& [format, src, srcSize, srcRoi, dst] = images;
   // Planes come last here; the steps of the images, which are kept wide, are those of the call.
   if (HuxStatus s =
           check(pointers(src.argument, dst.argument, pxMap, pyMap), size(srcSize), rectangle(srcRoi), size(dstRoiSize),
@@ -43,12 +43,10 @@ HuxStatus remap(const Format& format, const Image<const std::byte>& src, HuxiSiz
 }  // namespace
 }  // namespace hux
 
-#define EXPORT(t, l)                                                                                                 \
-  HuxStatus huxiRemap_##t##_##l##R(hux::Pixels<hux::l, const Hux##t> pSrc, HuxiSize srcSize, int srcStep,            \
-                                   HuxiRect srcRoi, const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap,          \
-                                   int yMapStep, hux::Pixels<hux::l, Hux##t> pDst, int dstStep, HuxiSize dstRoiSize, \
-                                   HuxiInterpolation interpolation) {                                                \
-    return hux::remap(hux::formatOf<hux::l, Hux##t>(), hux::image<hux::l>(pSrc, srcStep), srcSize, srcRoi, pxMap,    \
-                      xMapStep, pyMap, yMapStep, hux::image<hux::l>(pDst, dstStep), dstRoiSize, interpolation);      \
+#define EXPORT(t, l)                                                                                         \
+  HuxStatus huxiRemap_##t##_##l##R(HUX_SOURCE(t, l), const Hux32f* pxMap, int xMapStep, const Hux32f* pyMap, \
+                                   int yMapStep, HUX_DESTINATION(t, l), HuxiSize dstRoiSize,                 \
+                                   HuxiInterpolation interpolation) {                                        \
+    return hux::remap(HUX_IMAGES(t, l), pxMap, xMapStep, pyMap, yMapStep, dstRoiSize, interpolation);        \
   }
 HUX_STAMP(EXPORT, (8u, 16u, 32f), (C1, C3, AC4, C4, P3, P4))

@@ -8,12 +8,7 @@ namespace hux {
 namespace {
 
 // The arguments of a resize. Factors, or the steps in the source from one pixel of the destination to the next.
-struct Call {
-  Format format;
-  Image<const std::byte> src;
-  HuxiSize srcSize;
-  HuxiRect srcRoi;
-  Image<std::byte> dst;
+struct Call : Images {
   HuxiSize dstSize;
   bool bySteps;
   Hux64f x, y, xShift, yShift;
@@ -121,14 +116,9 @@ HuxStatus getResizeFract(HuxiSize srcSize, HuxiRect srcRoi, Hux64f xFactor, Hux6
 }  // namespace
 }  // namespace hux
 
-#define ARGUMENTS(t, l)                                                                   \
-  hux::Pixels<hux::l, const Hux##t> pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, \
-      hux::Pixels<hux::l, Hux##t> pDst, int dstStep, HuxiSize dstRoiSize
-#define CALL(t, l, ...)                                                                  \
-  hux::Call {                                                                            \
-    hux::formatOf<hux::l, Hux##t>(), hux::image<hux::l>(pSrc, srcStep), srcSize, srcRoi, \
-        hux::image<hux::l>(pDst, dstStep), dstRoiSize, __VA_ARGS__                       \
-  }
+#define ARGUMENTS(t, l) HUX_SOURCE(t, l), HUX_DESTINATION(t, l), HuxiSize dstRoiSize
+#define CALL(t, l, ...) \
+  hux::Call { HUX_IMAGES(t, l), dstRoiSize, __VA_ARGS__ }
 #define EXPORT(t, l)                                                                                            \
   HuxStatus huxiResize_##t##_##l##R(ARGUMENTS(t, l), Hux64f xFactor, Hux64f yFactor,                            \
                                     HuxiInterpolation interpolation) {                                          \

@@ -126,9 +126,9 @@ void linear(const ResizePlane& p) {
   resizePlane(inner, huxiInterLinear);
 }
 
-HuxStatus ownviResizeSP(const Format& format, Image<const std::byte> src, HuxiSize srcSize, HuxiRect srcRoi,
-                        Image<std::byte> dst, HuxiRect dstRoi, Hux64f xFactor, Hux64f yFactor, Hux64f xShift,
+HuxStatus ownviResizeSP(const Images& images, HuxiRect dstRoi, Hux64f xFactor, Hux64f yFactor, Hux64f xShift,
                         Hux64f yShift, HuxiInterpolation interpolation, const Hux8u* pBuffer) {
+  const auto& [format, src, srcSize, srcRoi, dst] = images;
   if (HuxStatus s = check(planes(format, src, dst), pointers(src.argument, dst.argument, pBuffer), size(srcSize),
                           rectangle(srcRoi), rectangle(dstRoi), positive(xFactor, yFactor), resizeMode(interpolation),
                           overlap(srcSize, srcRoi)))
@@ -168,13 +168,10 @@ HuxStatus huxiResizeSqrPixelGetBufSize(HuxiSize dstSize, int nChannels, HuxiInte
   return hux::bufferSize(dstSize, nChannels, interpolation, pSize);
 }
 
-#define EXPORT(t, l)                                                                                               \
-  HuxStatus huxiResizeSqrPixel_##t##_##l##R(hux::Pixels<hux::l, const Hux##t> pSrc, HuxiSize srcSize, int srcStep, \
-                                            HuxiRect srcRoi, hux::Pixels<hux::l, Hux##t> pDst, int dstStep,        \
-                                            HuxiRect dstRoi, Hux64f xFactor, Hux64f yFactor, Hux64f xShift,        \
-                                            Hux64f yShift, HuxiInterpolation interpolation, Hux8u* pBuffer) {      \
-    return hux::ownviResizeSP(hux::formatOf<hux::l, Hux##t>(), hux::image<hux::l>(pSrc, srcStep), srcSize, srcRoi, \
-                              hux::image<hux::l>(pDst, dstStep), dstRoi, xFactor, yFactor, xShift, yShift,         \
-                              interpolation, pBuffer);                                                             \
+#define EXPORT(t, l)                                                                                                  \
+  HuxStatus huxiResizeSqrPixel_##t##_##l##R(HUX_SOURCE(t, l), HUX_DESTINATION(t, l), HuxiRect dstRoi, Hux64f xFactor, \
+                                            Hux64f yFactor, Hux64f xShift, Hux64f yShift,                             \
+                                            HuxiInterpolation interpolation, Hux8u* pBuffer) {                        \
+    return hux::ownviResizeSP(HUX_IMAGES(t, l), dstRoi, xFactor, yFactor, xShift, yShift, interpolation, pBuffer);    \
   }
 HUX_STAMP(EXPORT, (8u, 16u, 32f), (C1, C3, AC4, C4, P3, P4))

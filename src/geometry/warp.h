@@ -14,12 +14,7 @@ constexpr HuxStatus interpolationMode(HuxiInterpolation mode) {
 }
 
 // All that warps are given but their maps.
-struct Warp {
-  Format format;
-  Image<const std::byte> src;
-  HuxiSize srcSize;
-  HuxiRect srcRoi;
-  Image<std::byte> dst;
+struct Warp : Images {
   HuxiRect dstRoi;
   HuxiInterpolation interpolation;
 
@@ -43,17 +38,6 @@ struct Warp {
   // Blends the pixels just outside the edges of a quadrangle where the call asks for it.
   void smoothEdges(const Quad& quad, int orientation) const;
 };
-
-template <class L, class T>
-Warp warp(const T* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, T* pDst, int dstStep, HuxiRect dstRoi,
-          HuxiInterpolation interpolation) {
-  return {formatOf<L, T>(), image<L>(pSrc, srcStep), srcSize, srcRoi, image<L>(pDst, dstStep), dstRoi, interpolation};
-}
-template <class L, class T>
-Warp warp(const T* const* pSrc, HuxiSize srcSize, int srcStep, HuxiRect srcRoi, T* const* pDst, int dstStep,
-          HuxiRect dstRoi, HuxiInterpolation interpolation) {
-  return {formatOf<L, T>(), image<L>(pSrc, srcStep), srcSize, srcRoi, image<L>(pDst, dstStep), dstRoi, interpolation};
-}
 
 // The box that holds every position but those that are not numbers.
 inline constexpr Box kAnywhere = {-std::numeric_limits<Hux64f>::infinity(), -std::numeric_limits<Hux64f>::infinity(),
@@ -81,18 +65,21 @@ inline auto convex(const Hux64f (*srcQuad)[2], const Hux64f (*dstQuad)[2]) {
 
 // A member of a warp: its name, its type and layout, the parameters between destination and interpolation, and the call
 // with `warp` for all the rest.
-#define HUX_EXPORT_WARP(name, t, l, parameters, ...)                                                                   \
-  HuxStatus huxi##name##_##t##_##l##R(hux::Pixels<hux::l, const Hux##t> pSrc, HuxiSize srcSize, int srcStep,           \
-                                      HuxiRect srcRoi, hux::Pixels<hux::l, Hux##t> pDst, int dstStep, HuxiRect dstRoi, \
-                                      HUX_LIST parameters, HuxiInterpolation interpolation) {                          \
-    const hux::Warp warp = hux::warp<hux::l>(pSrc, srcSize, srcStep, srcRoi, pDst, dstStep, dstRoi, interpolation);    \
-    return __VA_ARGS__;                                                                                                \
-  }
-#define HUX_EXPORT_WARP_QUAD(name, t, l, ...)                                                                        \
-  HuxStatus huxi##name##_##t##_##l##R(hux::Pixels<hux::l, const Hux##t> pSrc, HuxiSize srcSize, int srcStep,         \
-                                      HuxiRect srcRoi, const Hux64f srcQuad[4][2], hux::Pixels<hux::l, Hux##t> pDst, \
-                                      int dstStep, HuxiRect dstRoi, const Hux64f dstQuad[4][2],                      \
+#define HUX_EXPORT_WARP(name, t, l, parameters, ...)                                                                 \
+  HuxStatus huxi##name##_##t##_##l##R(HUX_SOURCE(t, l), HUX_DESTINATION(t, l), HuxiRect dstRoi, HUX_LIST parameters, \
                                       HuxiInterpolation interpolation) {                                             \
-    const hux::Warp warp = hux::warp<hux::l>(pSrc, srcSize, srcStep, srcRoi, pDst, dstStep, dstRoi, interpolation);  \
+    const hux::Warp warp = {HUX_IMAGES(t, l), dstRoi, interpolation};                                                \
     return __VA_ARGS__;                                                                                              \
   }
+#define HUX_EXPORT_WARP_QUAD(name, t, l, ...)                                                                         \
+  HuxStatus huxi##name##_##t##_##l##R(HUX_SOURCE(t, l), const Hux64f srcQuad[4][2], HUX_DESTINATION(t, l),            \
+                                      HuxiRect dstRoi, const Hux64f dstQuad[4][2], HuxiInterpolation interpolation) { \
+    const hux::Warp warp = {HUX_IMAGES(t, l), dstRoi, interpolation};                                                 \
+    return __VA_ARGS__;                                                                                               \
+  }
+// The three members of a kind of map, whose routines are own<name>, own<name>Back and own<name>Q, with coefficients of
+// this many rows and columns.
+#define HUX_EXPORT_WARPS(name, own, t, l, rows, columns)                                           \
+  HUX_EXPORT_WARP(name, t, l, (const Hux64f coeffs[rows][columns]), own(warp, coeffs))             \
+  HUX_EXPORT_WARP(name##Back, t, l, (const Hux64f coeffs[rows][columns]), own##Back(warp, coeffs)) \
+  HUX_EXPORT_WARP_QUAD(name##Quad, t, l, own##Q(warp, srcQuad, dstQuad))
