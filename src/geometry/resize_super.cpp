@@ -252,8 +252,58 @@ void halves(const ResizePlane& p) {
   }
 }
 
-// Blocks of two by two pixels of three elements: one block at a time, in lanes of which those behind the third element
-// of a mean hold nothing.
+// The means of two by two pixels of integers, three elements each, from windows that hold twelve bytes of either row,
+// so many pixels at once. Writes four bytes more.
+template <class T>
+constexpr Index kThreesAtOnce = 4 * kWindows / Index(sizeof(T));
+template <class T>
+void meansOfThrees(const std::byte* upper, const std::byte* lower, std::byte* dst) {
+  constexpr Index used = 12;
+  static constexpr auto windows = [] {
+    std::array<Index, kWindows> at{};
+    for (int w = 0; w < kWindows; ++w) at[std::size_t(w)] = w * used;
+    return at;
+  }();
+  // Two elements in each lane of twice their width: those of neighbouring pixels, side by side.
+  using W = std::conditional_t<sizeof(T) == 1, Hux16u, Hux32u>;
+  using Wide = Lanes<W, kLaneBytes / int(sizeof(W))>;
+  constexpr W low = std::numeric_limits<T>::max(), bits = 8 * sizeof(T);
+  static constexpr auto picks = [](auto source) {
+    std::array<Hux8u, kLaneBytes> all{};
+    for (int j = 0; j < kLaneBytes; ++j) all[std::size_t(j)] = Hux8u(source(j % kWindowBytes));
+    return all;
+  };
+  static constexpr auto pairs = picks([](int j) {
+    constexpr int size = sizeof(T);
+    const int e = j / size, pair = e / 2;
+    return j < used ? (pair / 3 * 6 + e % 2 * 3 + pair % 3) * size + j % size : 0x80;
+  });
+  const auto means = [&](Index at) {
+    const auto load = [&](const std::byte* row) {
+      return bitsAs<Wide>(pickBytes(loadWindows(row + at, windows.data()), loadLanes<WindowBytes>(pairs.data())));
+    };
+    const Wide u = load(upper), l = load(lower);
+    return ((u & low) + (u >> bits) + (l & low) + (l >> bits) + W(2)) >> W(2);
+  };
+  const Wide a = means(0), b = means(used * kWindows);
+  WindowBytes narrow;
+  if constexpr (sizeof(T) == 1) {
+    using Words = Lanes<Hux16s, lanesIn<Wide>>;
+    narrow = inOrder<2>(packBytes(Words(a), Words(b)));
+  } else {
+    using Signed = Lanes<Hux32s, lanesIn<Wide>>;
+    narrow = bitsAs<WindowBytes>(narrowed<T>(std::array<Signed, 2>{Signed(a), Signed(b)}));
+  }
+  // Six of eight bytes each.
+  static constexpr auto closed = picks([](int j) { return j < used ? j / 6 * 8 + j % 6 : 0x80; });
+  const WindowBytes result = pickBytes(narrow, loadLanes<WindowBytes>(closed.data()));
+  std::byte all[kLaneBytes];
+  storeLanes(all, result);
+  for (Index w = 0; w < kWindows; ++w) std::memcpy(dst + w * used, all + w * kWindowBytes, kWindowBytes);
+}
+
+// Blocks of two by two pixels of three elements: of integers as many as windows hold, else one block at a time, in
+// lanes of which those behind the third element of a mean hold nothing.
 template <class T>
 void halvesOfThree(const ResizePlane& p) {
   constexpr Index bytes = 3 * Index(sizeof(T));
@@ -277,7 +327,11 @@ void halvesOfThree(const ResizePlane& p) {
     const std::byte* upper = p.src + (Index(p.y.origin) + 2 * y) * p.srcStep + Index(p.x.origin) * bytes;
     const std::byte* lower = upper + p.srcStep;
     std::byte* dst = p.dst + y * p.dstStep;
-    for (Index x = 0; x < last; ++x) storeLanes(dst + x * bytes, mean(upper + 2 * x * bytes, lower + 2 * x * bytes));
+    Index x = 0;
+    if constexpr (std::is_integral_v<T> && kPicks)
+      for (; x + kThreesAtOnce<T> + 2 <= p.x.count; x += kThreesAtOnce<T>)
+        meansOfThrees<T>(upper + 2 * x * bytes, lower + 2 * x * bytes, dst + x * bytes);
+    for (; x < last; ++x) storeLanes(dst + x * bytes, mean(upper + 2 * x * bytes, lower + 2 * x * bytes));
     // Behind the last pixel may be nothing.
     std::byte ends[2][2 * bytes + 2 * sizeof(T)] = {};
     std::memcpy(ends[0], upper + 2 * last * bytes, 2 * bytes),
