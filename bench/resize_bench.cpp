@@ -75,6 +75,7 @@ template <class T, int C>
 void addResize(const std::string& name, Resize<T> resize) {
   for (const Mode& mode : kModes)
     for (double factor : {0.6, 1.7}) addCase<T, C>(name, resize, mode, factor);
+  addCase<T, C>(name, resize, kModes[1], 0.5);
   for (double factor : {0.5, 0.6}) addCase<T, C>(name, resize, kMean, factor);
 }
 
@@ -86,4 +87,6 @@ void addCases() {
   addResize<Hux16u, 1>("Resize_16u_C1R", huxiResize_16u_C1R);
   addResize<Hux32f, 1>("Resize_32f_C1R", huxiResize_32f_C1R);
   addResize<Hux32f, 3>("Resize_32f_C3R", huxiResize_32f_C3R);
+  // The peer writes alpha as well.
+  addResize<Hux8u, 4>("Resize_8u_AC4R", huxiResize_8u_AC4R);
 }

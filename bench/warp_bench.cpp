@@ -115,6 +115,8 @@ constexpr int modeOf(int interpolation) {
 void addCases() {
   FORMATS(AFFINE);
   FORMATS(REMAP);
+  // The peer writes alpha as well.
+  AFFINE(8u, AC4, 4, Linear), AFFINE(32f, AC4, 4, Linear), REMAP(8u, AC4, 4, Linear), REMAP(32f, AC4, 4, Linear);
   MODES(PERSPECTIVE, 8u, C1, 1), MODES(PERSPECTIVE, 8u, C3, 3), MODES(PERSPECTIVE, 32f, C1, 1);
   BILINEAR(8u, C1, 1, Linear), BILINEAR(32f, C1, 1, Linear);
   TURNS(8u, C1, 1), TURNS(8u, C3, 3), TURNS(8u, C4, 4), TURNS(16u, C1, 1), TURNS(32f, C1, 1), TURNS(32f, C3, 3);
