@@ -3,6 +3,7 @@
 // (see workers/nearest.h), so the units of the machine that these lean on may differ in their last bits.
 #pragma once
 
+#include "lanes/held.h"
 #include "lanes/lanes_math.h"
 
 namespace hux {
@@ -14,19 +15,10 @@ inline constexpr bool kFuses = true;
 inline constexpr bool kFuses = false;
 #endif
 
-// Constants of a loop: the same lanes, of which the compiler does not know the value. Where there are more of them than
-// registers, known ones are spread out from single elements at every use, others are operands in memory.
-template <class V>
-V kept(V v) {
-#if defined(__AVX__)
-  __asm__("" : "+x"(v));
-#endif
-  return v;
-}
-
+// Constants of a loop, held in registers.
 template <class V>
 V constant(Hux64f value) {
-  return kept(splat<V>(LaneType<V>(value)));
+  return held(splat<V>(LaneType<V>(value)));
 }
 
 // 1 / v and 1 / sqrt(v) to within a relative 2^-11.

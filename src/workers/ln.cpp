@@ -79,8 +79,8 @@ struct LnByPairs {
   using I = Lanes<Hux32s, lanes>;
   // Moved up to the end of the range of integers, all but the positive normal numbers lie above those.
   static constexpr Hux32u kUp = 0x80000000 - 0x00800000;
-  U up = kept(splat<U>(kUp));
-  I last = kept(splat<I>(Hux32s(0x7F7FFFFF + kUp)));
+  U up = held(splat<U>(kUp));
+  I last = held(splat<I>(Hux32s(0x7F7FFFFF + kUp)));
   LogarithmByPairs logarithm;
   Hux32f nan = huxConstantOfNAN_32f;
   HuxStatus status = huxStsOk;
