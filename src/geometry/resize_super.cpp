@@ -252,10 +252,8 @@ void halves(const ResizePlane& p) {
   }
 }
 
-// The means of two by two pixels of integers, three elements each, from windows that hold twelve bytes of either row,
-// so many pixels at once. Writes four bytes more.
-template <class T>
-constexpr Index kThreesAtOnce = 4 * kWindows / Index(sizeof(T));
+// The means of two by two pixels of integers, three elements each, from windows that hold twelve bytes of either row:
+// four for each window, two of words. Writes four bytes more.
 template <class T>
 void meansOfThrees(const std::byte* upper, const std::byte* lower, std::byte* dst) {
   constexpr Index used = 12;
@@ -328,9 +326,11 @@ void halvesOfThree(const ResizePlane& p) {
     const std::byte* lower = upper + p.srcStep;
     std::byte* dst = p.dst + y * p.dstStep;
     Index x = 0;
-    if constexpr (std::is_integral_v<T> && kPicks)
-      for (; x + kThreesAtOnce<T> + 2 <= p.x.count; x += kThreesAtOnce<T>)
+    if constexpr (std::is_integral_v<T> && kPicks) {
+      constexpr Index atOnce = 4 * kWindows / Index(sizeof(T));
+      for (; x + atOnce + 2 <= p.x.count; x += atOnce)
         meansOfThrees<T>(upper + 2 * x * bytes, lower + 2 * x * bytes, dst + x * bytes);
+    }
     for (; x < last; ++x) storeLanes(dst + x * bytes, mean(upper + 2 * x * bytes, lower + 2 * x * bytes));
     // Behind the last pixel may be nothing.
     std::byte ends[2][2 * bytes + 2 * sizeof(T)] = {};
