@@ -3,7 +3,10 @@
 // number of lanes differs.
 #pragma once
 
+#include <utility>
+
 #include "lanes/lanes_convert.h"
+#include "lanes/unrolled.h"
 
 namespace hux {
 
@@ -123,19 +126,118 @@ void storeLanes(void* p, V v) {
   std::memcpy(p, &v, sizeof v);
 }
 
+#if !defined(__AVX512BW__) || !defined(__AVX512VL__)
+// Where loads and stores have no masks, part of a vector is put together in registers, and pixels leave by words: what
+// is put together in memory cannot be loaded as a whole without a halt.
+namespace detail {
+
+template <class T>
+T wordAt(const std::byte* p) {
+  T word;
+  std::memcpy(&word, p, sizeof word);
+  return word;
+}
+
+// Word k of a vector.
+template <class V>
+std::uint64_t wordOf(V v, int k) {
+  if constexpr (sizeof(V) < 8) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, &v, sizeof v);
+    return word;
+  } else {
+    return bitsAs<Lanes<std::uint64_t, int(sizeof(V)) / 8>>(v)[k];
+  }
+}
+
+// A word whose low bytes come from p and the others are 0; from two words that overlap.
+inline std::uint64_t loadWord(const std::byte* p, int bytes) {
+  const auto ends = [=]<class T>(T) {
+    const int behind = bytes - int(sizeof(T));
+    return wordAt<T>(p) | std::uint64_t(wordAt<T>(p + behind)) << (8 * behind);
+  };
+  if (bytes >= 8) return wordAt<std::uint64_t>(p);
+  if (bytes >= 4) return ends(std::uint32_t());
+  if (bytes >= 2) return ends(std::uint16_t());
+  return bytes == 1 ? std::uint64_t(*p) : 0;
+}
+
+// The same of vectors. A call and not inlined: rows end once, and rules are many.
+template <int Words>
+__attribute__((noinline)) Lanes<std::uint64_t, Words> loadWords(const std::byte* p, int bytes) {
+  using V = Lanes<std::uint64_t, Words>;
+  if constexpr (Words == 2) {
+    if (bytes < 8) return V{loadWord(p, bytes), 0};
+    return V{wordAt<std::uint64_t>(p), loadWord(p + 8, bytes - 8)};
+  } else {
+    using Half = Lanes<std::uint64_t, 2>;
+    const Half low = bytes < 16 ? loadWords<2>(p, bytes) : wordAt<Half>(p);
+    const Half high = bytes < 16 ? Half{} : loadWords<2>(p + 16, bytes - 16);
+    return __builtin_shufflevector(low, high, 0, 1, 2, 3);
+  }
+}
+template <class V>
+V loadBytes(const std::byte* p, int bytes) {
+  V v{};
+  if constexpr (sizeof(V) <= 8) {
+    const std::uint64_t word = loadWord(p, bytes);
+    std::memcpy(&v, &word, sizeof v);
+  } else if constexpr (sizeof(V) <= 32) {
+    v = bitsAs<V>(loadWords<int(sizeof(V)) / 8>(p, bytes));
+  } else {
+    std::memcpy(&v, p, std::size_t(bytes));
+  }
+  return v;
+}
+
+// Stores the first three elements of each of so many pixels of four.
+template <class V>
+void storeColoursOf(std::byte* p, V v, int pixels) {
+  using T = LaneType<V>;
+  constexpr int pixelBytes = 4 * int(sizeof(T)), words = std::max(1, int(sizeof(V)) / 8);
+  const auto put = [p]<class W>(int at, W word) HUX_INLINE { std::memcpy(p + at, &word, sizeof word); };
+  const auto putWord = [=](int k) HUX_INLINE {
+    const int at = 8 * k, pixel = at / pixelBytes;
+    if (pixel >= pixels) return;
+    const std::uint64_t word = wordOf(v, k);
+    if constexpr (sizeof(T) == 8) {
+      if (k % 4 < 3) put(at, word);
+    } else if constexpr (sizeof(T) == 4) {
+      if (k % 2 == 0)
+        put(at, word);
+      else
+        put(at, Hux32u(word));
+    } else if constexpr (sizeof(T) == 2) {
+      put(at, Hux32u(word)), put(at + 4, Hux16u(word >> 32));
+    } else {
+      put(at, Hux16u(word)), put(at + 2, Hux8u(word >> 16));
+      if (pixel + 1 < pixels) put(at + 4, Hux16u(word >> 32)), put(at + 6, Hux8u(word >> 48));
+    }
+  };
+  unrolled<words>(putWord);
+}
+
+}  // namespace detail
+#endif
+
 // The first `count` lanes; the others hold `rest`. Memory behind the first `count` is not touched.
 template <class V>
 V loadLanes(const void* p, int count, LaneType<V> rest) {
-  V v = splat<V>(rest);
 #if defined(__AVX512BW__) && defined(__AVX512VL__)
+  V v = splat<V>(rest);
   const int bytes = count * int(sizeof(LaneType<V>));
   const std::uint64_t mask = bytes < 64 ? (std::uint64_t(1) << bytes) - 1 : ~std::uint64_t(0);
   if constexpr (sizeof(V) == 64) return bitsAs<V>(_mm512_mask_loadu_epi8(bitsAs<__m512i>(v), mask, p));
   if constexpr (sizeof(V) == 32) return bitsAs<V>(_mm256_mask_loadu_epi8(bitsAs<__m256i>(v), __mmask32(mask), p));
   if constexpr (sizeof(V) == 16) return bitsAs<V>(_mm_mask_loadu_epi8(bitsAs<__m128i>(v), __mmask16(mask), p));
-#endif
   std::memcpy(&v, p, std::size_t(count) * sizeof(LaneType<V>));
   return v;
+#else
+  const V v = detail::loadBytes<V>(static_cast<const std::byte*>(p), count * int(sizeof(LaneType<V>)));
+  using Places = decltype(v < splat<V>(rest));
+  const auto places = []<std::size_t... I>(std::index_sequence<I...>) { return Places{LaneType<Places>(I)...}; };
+  return places(std::make_index_sequence<lanesIn<V>>{}) < LaneType<Places>(count) ? v : splat<V>(rest);
+#endif
 }
 
 // Stores the lanes of [0, count) whose position within groups of four is below `Colours` (4: all). What is not stored
@@ -143,11 +245,11 @@ V loadLanes(const void* p, int count, LaneType<V> rest) {
 template <int Colours, class V>
 void storeColours(void* p, V v, int count = lanesIn<V>) {
   using T = LaneType<V>;
+#if defined(__AVX512BW__) && defined(__AVX512VL__)
   if constexpr (Colours == 4) {
     std::memcpy(p, &v, std::size_t(count) * sizeof(T));
   } else {
     static_assert(lanesIn<V> % 4 == 0, "pixels do not lie across vectors");
-#if defined(__AVX512BW__) && defined(__AVX512VL__)
     constexpr std::uint64_t colours = [] {
       std::uint64_t mask = 0;
       for (int i = 0; i < int(sizeof(V)) && i < 64; ++i) mask |= std::uint64_t(i / int(sizeof(T)) % 4 < Colours) << i;
@@ -158,12 +260,20 @@ void storeColours(void* p, V v, int count = lanesIn<V>) {
     if constexpr (sizeof(V) == 64) return _mm512_mask_storeu_epi8(p, mask, bitsAs<__m512i>(v));
     if constexpr (sizeof(V) == 32) return _mm256_mask_storeu_epi8(p, __mmask32(mask), bitsAs<__m256i>(v));
     if constexpr (sizeof(V) == 16) return _mm_mask_storeu_epi8(p, __mmask16(mask), bitsAs<__m128i>(v));
-#endif
     T lanes[lanesIn<V>];
     std::memcpy(lanes, &v, sizeof v);
     for (int i = 0; i < count; i += 4)
       std::memcpy(static_cast<Element<T>*>(p) + i, lanes + i, std::size_t(Colours) * sizeof(T));
   }
+#else
+  auto* const to = static_cast<std::byte*>(p);
+  if constexpr (Colours == 4) {
+    std::memcpy(to, &v, std::size_t(count) * sizeof(T));
+  } else {
+    static_assert(Colours == 3 && lanesIn<V> % 4 == 0, "pixels do not lie across vectors");
+    detail::storeColoursOf(to, v, (count + 3) / 4);
+  }
+#endif
 }
 
 }  // namespace hux

@@ -10,6 +10,7 @@
 #include "lanes/lanes.h"
 #include "lanes/lanes_math.h"
 #include "lanes/lanes_sum.h"
+#include "lanes/planes.h"
 #include "lanes/round.h"
 #include "lanes/simd.h"
 
@@ -166,6 +167,61 @@ void selects() {
 TEST(Lanes, SelectAndAddSaturated) {
   selects<Hux8u>(), selects<Hux16u>(), selects<Hux16s>(), selects<Hux32u>(), selects<Hux32s>(), selects<Hux64s>();
   selects<Hux32f>(), selects<Hux64f>();
+}
+
+// Every number of lanes, in memory of just that length, which the address sanitizer watches.
+template <class T, int N>
+void takesParts() {
+  using V = Lanes<T, N>;
+  const auto values = samples<T>();
+  const V v = vectorAt<V>(values, 7);
+  for (int count = 0; count <= N; ++count) {
+    SCOPED_TRACE(testing::Message() << count << " of " << N << " lanes of " << sizeof(T) << " bytes");
+    const std::vector<T> memory(values.begin(), values.begin() + count);
+    const V loaded = loadLanes<V>(memory.data(), count, T(3));
+    std::vector<T> stored(memory.size()), colours(memory.size(), T(5));
+    storeColours<4>(stored.data(), v, count);
+    for (int i = 0; i < N; ++i) {
+      const T is = loaded[i], expected = i < count ? values[std::size_t(i)] : T(3);
+      ASSERT_EQ(std::memcmp(&is, &expected, sizeof is), 0);
+    }
+    ASSERT_TRUE(count == 0 || std::memcmp(stored.data(), &v, std::size_t(count) * sizeof(T)) == 0);
+    if constexpr (N % 4 == 0) {
+      if (count % 4 != 0) continue;
+      storeColours<3>(colours.data(), v, count);
+      for (int i = 0; i < count; ++i) {
+        const T expected = i % 4 < 3 ? T(v[i]) : T(5);
+        ASSERT_EQ(std::memcmp(&colours[std::size_t(i)], &expected, sizeof expected), 0);
+      }
+    }
+  }
+}
+template <class... T>
+void takesPartsOf() {
+  (takesParts<T, laneCount<T>>(), ...), (takesParts<T, 4>(), ...);
+}
+TEST(Lanes, LoadAndStoreParts) { takesPartsOf<Hux8u, Hux16u, Hux32f, Hux64s, Hux64f>(); }
+
+// Pixels of N elements of so many bytes.
+template <int Bytes, int N>
+void movesToPlanes() {
+  std::uint8_t pixels[N * 16], planes[N * 16], expected[N * 16];
+  std::iota(pixels, pixels + N * 16, std::uint8_t(Bytes));
+  for (int at = 0; at < N * 16; ++at) expected[at / Bytes % N * 16 + at / Bytes / N * Bytes + at % Bytes] = pixels[at];
+  simd::Quad v[N];
+  std::memcpy(v, pixels, sizeof v);
+  simd::toPlanes<Bytes>(v);
+  std::memcpy(planes, v, sizeof v);
+  ASSERT_TRUE(std::ranges::equal(planes, expected)) << N << " of " << Bytes << " bytes";
+  simd::fromPlanes<Bytes>(v);
+  std::memcpy(planes, v, sizeof v);
+  ASSERT_TRUE(std::ranges::equal(planes, pixels)) << N << " of " << Bytes << " bytes";
+  v[0] = simd::reversed<Bytes>(v[0]);
+  for (int at = 0; at < 16; ++at) ASSERT_EQ(v[0][(16 / Bytes - 1 - at / Bytes) * Bytes + at % Bytes], pixels[at]);
+}
+TEST(Lanes, AreMovedToPlanesAndBack) {
+  movesToPlanes<1, 3>(), movesToPlanes<2, 3>(), movesToPlanes<4, 3>();
+  movesToPlanes<1, 4>(), movesToPlanes<2, 4>(), movesToPlanes<4, 4>();
 }
 
 TEST(Lanes, AddUpNeighboursAndProducts) {
