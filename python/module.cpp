@@ -875,7 +875,7 @@ class Run {
       width = op.transposes ? a.first.height : a.first.width;
       const int lay = key.destinationLayout;
       channels = lay == kAC4 || lay == kC4 ? 4 : lay == kC3 ? 3 : 1;
-      count = a.first.axes == 1 ? 1 : channels > 1 || (a.first.axes == 3 && a.first.channels == 1) ? 3 : 2;
+      count = channels > 1 ? 3 : a.first.axes == 1 ? 1 : a.first.axes == 3 && a.first.channels == 1 ? 3 : 2;
     } else if (axes == 1) {
       height = 1;
     }

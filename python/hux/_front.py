@@ -583,9 +583,12 @@ def border(name, asked, sources, own, options):
         shape = image.height + 2 * top, image.width + 2 * left
     # In place, the source is the part of out that the border is around.
     whole = given if isinstance(given, np.ndarray) and given.ndim == image.given.ndim > 1 else None
+    if given is not None and array(name, given).shape[:2] != tuple(shape):
+        refuse(name, "shape= and out= differ")
     inside = whole is not None and min(top, left) >= 0 and top + image.height <= whole.shape[0] and \
         left + image.width <= whole.shape[1] and image.a is image.given and whole.strides == image.given.strides and \
         _address(whole[top:, left:]) == _address(image.a) and _plain(whole) and whole.flags.writeable
+    inside = inside and whole.shape[2:] == image.given.shape[2:] and whole.dtype == image.given.dtype
     found = choose(name, image, options.get("alpha"), None)
     member = next((m for m in found if m.in_place == inside), next(m for m in found if not m.in_place))
     if asked:

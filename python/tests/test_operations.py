@@ -236,6 +236,10 @@ def test_the_front_page():
     first, second = (hux.add_rand_uniform_direct(noisy, -9, 9, seed) for _ in range(2))
     assert not np.array_equal(first, second) and not noisy.any()
     assert np.array_equal(first, hux.add_rand_uniform_direct(noisy, -9, 9, 7))
+    assert hux.dup(gray[0]).shape == (1, 100, 3)  # a row becomes an image
+    assert hux.lut_palette(gray[0], np.zeros((256, 3), np.uint8)).shape == (1, 100, 3)
+    with pytest.raises(ValueError):
+        hux.copy_replicate_border(gray, 0, 0, shape=(70, 110), out=gray)
     least = hux.min_indx(gray)
     assert gray[least.index_y, least.index_x] == least.min == gray.min() and isinstance(hux.mean(gray), float)
     assert np.array_equal(hux.sum(a), a.sum((0, 1), dtype=float)) and np.isclose(hux.norm_l1(gray), gray.sum(dtype=int))
