@@ -221,6 +221,7 @@ struct View {
     rowsApart = step > INT_MAX;
     low = 0;
     high = height * step;
+    if (buffer.len != high) return PyErr_SetString(PyExc_SystemError, "hux: a new array of another size"), false;
     return true;
   }
 
@@ -875,7 +876,10 @@ class Run {
       width = op.transposes ? a.first.height : a.first.width;
       const int lay = key.destinationLayout;
       channels = lay == kAC4 || lay == kC4 ? 4 : lay == kC3 ? 3 : 1;
-      count = channels > 1 ? 3 : a.first.axes == 1 ? 1 : a.first.axes == 3 && a.first.channels == 1 ? 3 : 2;
+      count = channels > 1                                 ? 3
+              : a.first.axes == 1 && !op.transposes        ? 1
+              : a.first.axes == 3 && a.first.channels == 1 ? 3
+                                                           : 2;
     } else if (axes == 1) {
       height = 1;
     }

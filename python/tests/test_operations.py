@@ -238,6 +238,7 @@ def test_the_front_page():
     assert np.array_equal(first, hux.add_rand_uniform_direct(noisy, -9, 9, 7))
     assert hux.dup(gray[0]).shape == (1, 100, 3)  # a row becomes an image
     assert hux.lut_palette(gray[0], np.zeros((256, 3), np.uint8)).shape == (1, 100, 3)
+    assert np.array_equal(hux.transpose(gray[0]), gray[0][:, None])
     with pytest.raises(ValueError):
         hux.copy_replicate_border(gray, 0, 0, shape=(70, 110), out=gray)
     least = hux.min_indx(gray)
