@@ -184,6 +184,7 @@ class Out:
                 return
             self.result = np.zeros(axes, dtype) if zero else np.empty(axes, dtype)
             self.pointer = self.a = self.result[None] if len(axes) == 1 else self.result
+            assert self.a.size == height * width * channels
             if keep is not None and keep.dtype == self.a.dtype and keep.shape == self.a.shape:
                 self.a[..., 3] = keep[..., 3]
             return
@@ -216,6 +217,7 @@ class Out:
                     a.shape[1] > 1 and a.strides[1] < 0 or a.shape[0] > 1 and abs(a.strides[0]) < row:
                 refuse(name, "out must have its pixels one after another, and rows that do not overlap")
             self.targets, a = (a,), np.array(a, order="C")
+        assert a.size == height * width * channels
         self.pointer = self.a = a
 
     @staticmethod
