@@ -74,7 +74,10 @@ void store(Element element, std::byte* at, double number) {
     case Element::s64:
       return put(static_cast<Hux64s>(number));
     case Element::f32:
-      return put(static_cast<Hux32f>(number));
+      // Conversions of some machines take a NaN's sign away.
+      return put(std::isnan(number)
+                     ? std::copysign(std::numeric_limits<Hux32f>::quiet_NaN(), std::signbit(number) ? -1.0f : 1.0f)
+                     : static_cast<Hux32f>(number));
     case Element::f64:
       return put(number);
     case Element::none:
@@ -110,8 +113,8 @@ double pixel(Element element, int call, Random& random) {
     case 1:
       return random.below(17) - 8;
     case 2: {
-      const float infinity = std::numeric_limits<float>::infinity(), nan = std::numeric_limits<float>::quiet_NaN();
-      const float extremes[] = {0, -0.0f, infinity, -infinity, nan, -nan, 1e-40f, -3e38f, 65535.5f, 1e-20f};
+      const double infinity = std::numeric_limits<double>::infinity(), nan = std::numeric_limits<double>::quiet_NaN();
+      const double extremes[] = {0, -0.0, infinity, -infinity, nan, -nan, 1e-40f, -3e38f, 65535.5, 1e-20f};
       const int which = random.below(80);
       return which < 10 ? extremes[which] : (random.below(4096) - 2048) / 8.0;
     }
