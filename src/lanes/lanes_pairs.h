@@ -14,6 +14,9 @@ inline constexpr bool kFuses = true;
 #else
 inline constexpr bool kFuses = false;
 #endif
+// Whether functions that are narrowed to floats are computed by pairs. Where tables stand in registers, double
+// precision is as fast.
+inline constexpr bool kByPairs = kFuses && !kTablesInRegisters;
 
 // Constants of a loop, held in registers.
 template <class V>

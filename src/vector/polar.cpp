@@ -270,9 +270,9 @@ struct Phase {
 
 // Parts of 32 bits are no floats.
 template <class C>
-using MagnitudeRule = std::conditional_t<kFuses && std::is_same_v<C, Hux32fc>, pairs::Magnitude<C>, Magnitude<C>>;
+using MagnitudeRule = std::conditional_t<kByPairs && std::is_same_v<C, Hux32fc>, pairs::Magnitude<C>, Magnitude<C>>;
 template <class C>
-using PhaseRule = std::conditional_t<kFuses && !std::is_same_v<C, Hux32sc>, pairs::Phase<C>, Phase<C>>;
+using PhaseRule = std::conditional_t<kByPairs && !std::is_same_v<C, Hux32sc>, pairs::Phase<C>, Phase<C>>;
 
 // A half away from zero, truncated; what is out of range becomes its end, and the product of no angle and an infinite
 // factor 0.

@@ -228,7 +228,7 @@ template struct Exp<Hux8u>;
 template struct Exp<Hux16s>;
 
 HuxStatus Exp<Hux32f>::operator()(const Element<Hux32f>* src, Element<Hux32f>* dst, Index n) const {
-  mapRow<C1>(src, dst, n, std::conditional_t < kFuses && !kTablesInRegisters, ExpByPairs, ExpFloat > {});
+  mapRow<C1>(src, dst, n, std::conditional_t<kByPairs, ExpByPairs, ExpFloat>{});
   return huxStsOk;
 }
 

@@ -126,7 +126,7 @@ auto scaledLogarithm(const Logarithm& logarithm, V v, Hux64f factor) {
 
 // 16s. No result lies within the error of either logarithm of a rounding boundary.
 struct LnShort {
-  using Function = std::conditional_t<kFuses && !kTablesInRegisters, LogarithmByPairs, Logarithm>;
+  using Function = std::conditional_t<kByPairs, LogarithmByPairs, Logarithm>;
   using Float = LaneType<Function::V>;
   static constexpr int lanes = laneCount<Hux32f>;
   using V = Lanes<Hux16s, lanes>;
@@ -157,7 +157,7 @@ HuxStatus Ln<T>::operator()(const Element<T>* src, Element<T>* dst, Index n) con
   } else if constexpr (std::is_same_v<T, Hux16s>) {
     return applyRule<C1>(dst, n, LnShort(scaleFactor), FromRow<T, LnShort::lanes>{src, 1}).status;
   } else {
-    using Rule = std::conditional_t<kFuses && !kTablesInRegisters, LnByPairs, LnFloat>;
+    using Rule = std::conditional_t<kByPairs, LnByPairs, LnFloat>;
     return applyRule<C1>(dst, n, Rule{}, FromRow<T, Rule::lanes>{src, 1}).status;
   }
 }
