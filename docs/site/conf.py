@@ -17,5 +17,6 @@ html_sidebars = {
     "**": ["sidebar/brand.html", "sidebar/names.html", "sidebar/scroll-start.html", "sidebar/navigation.html",
            "sidebar/scroll-end.html"]
 }
+highlight_language = "none"
 pygments_style = "tango"
 pygments_dark_style = "monokai"
