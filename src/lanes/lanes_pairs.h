@@ -33,10 +33,7 @@ template <class V>
 V roughInverseRoot(V v) {
   return splat<V>(1) / squareRoot(v);
 }
-#if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512DQ__)
-inline Lanes<Hux32f, 16> roughReciprocal(Lanes<Hux32f, 16> v) { return _mm512_maskz_rcp14_ps(0xFFFF, v); }
-inline Lanes<Hux32f, 16> roughInverseRoot(Lanes<Hux32f, 16> v) { return _mm512_maskz_rsqrt14_ps(0xFFFF, v); }
-#elif defined(__AVX2__)
+#if defined(__AVX2__)
 inline Lanes<Hux32f, 8> roughReciprocal(Lanes<Hux32f, 8> v) { return _mm256_rcp_ps(v); }
 inline Lanes<Hux32f, 8> roughInverseRoot(Lanes<Hux32f, 8> v) { return _mm256_rsqrt_ps(v); }
 #elif defined(__SSE2__)
@@ -44,20 +41,8 @@ inline Lanes<Hux32f, 4> roughReciprocal(Lanes<Hux32f, 4> v) { return _mm_rcp_ps(
 inline Lanes<Hux32f, 4> roughInverseRoot(Lanes<Hux32f, 4> v) { return _mm_rsqrt_ps(v); }
 #endif
 
-// A table of eight floats, held in a register where the machine looks them up there.
-#if defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512DQ__)
-template <>
-struct LaneTable<Hux32f, 8> {
-  Lanes<Hux32f, 16> all;
-  explicit LaneTable(const Hux32f* entries) {
-    const auto eight = loadLanes<Lanes<Hux32f, 8>>(entries);
-    all = joined(eight, eight);
-  }
-  Lanes<Hux32f, 16> operator()(Lanes<Hux32u, 16> index) const {
-    return _mm512_maskz_permutexvar_ps(0xFFFF, __m512i(index), all);
-  }
-};
-#elif defined(__AVX2__)
+// A table of eight floats, held in a register where one of eight lanes is the machine's.
+#if defined(__AVX2__) && !defined(__AVX512BW__)
 template <>
 struct LaneTable<Hux32f, 8> {
   Lanes<Hux32f, 8> all;
