@@ -493,15 +493,17 @@ def write_python(model, index, path):
         signature = operation.signature(False)
         both = "" if "*" in signature else "*, "
         wrappers.append(
-            f"def {operation.name}({signature}, {both}_asked=False):\n"
+            f"def {operation.name}({signature}, {both}_asked=None):\n"
             f"    return _front.{kind}({operation.name!r}, _asked, ({''.join(i + ', ' for i in images)}), "
             f"{{{', '.join(f'{n!r}: {n}' for n in own)}}}, {{{', '.join(f'{n!r}: {n}' for n in keywords)}}})\n")
     inter = {w: v for w, v in model.enumerations["HuxiInterpolation"].items() if v > 0}
     results = {o.name: o.results for o in model.operations.values() if o.native and len(o.results) > 1}
+    own_rules = {o.name: o.rule for o in model.operations.values()}
     out = ['"""Made by python/generate.py: what there is."""', "FUNCTIONS = {",
            *(f"    {name!r}: {number}," for name, number in index.items()), "}", "REACH = [",
            *(f"    lambda v: ({formula})," for formula in reaches), "]", f"INTERPOLATIONS = {inter!r}",
-           f"RESULTS = {results!r}", "MEMBERS = {", *entries, "}", ""]
+           f"RESULTS = {results!r}", "RULES = {", *(f"    {name!r}: {rule!r}," for name, rule in own_rules.items()), "}",
+           "MEMBERS = {", *entries, "}", ""]
     (path / "_table.py").write_text("\n".join(out))
     out = ['"""Made by python/generate.py: the operations that Python runs."""', "from . import _front", "", "",
            "\n\n".join(wrappers)]

@@ -68,8 +68,8 @@ _front.errors.update((_e.__name__.removesuffix("Error"), _e) for _v, _e in _stat
 
 for _own in _hux.operations:
     if not _own.native:
-        _call = getattr(_operations, _own.__name__)
-        _hux.implement(_own, _call, _functools.partial(_call, _asked=True))
+        _front.implementations[_own.__name__] = _call = getattr(_operations, _own.__name__)
+        _hux.implement(_own, _call, _functools.partial(_call, _asked="which"))
     elif _own.__name__ in _RESULTS:
         _hux.name_results(_own, _collections.namedtuple(f"{_own.__name__}_results", _RESULTS[_own.__name__]))
     globals()[_own.__name__] = _own

@@ -5,7 +5,7 @@ from typing import Any
 import numpy as np
 
 from . import _hux
-from ._table import FUNCTIONS, INTERPOLATIONS, MEMBERS, REACH
+from ._table import FUNCTIONS, INTERPOLATIONS, MEMBERS, REACH, RULES
 
 complex_int16 = np.dtype([("re", np.int16), ("im", np.int16)])
 complex_int32 = np.dtype([("re", np.int32), ("im", np.int32)])
@@ -18,6 +18,7 @@ CODES = {dtype: code for code, dtype in DTYPES.items()}
 PROCESSED = {"C1": 1, "C2": 2, "C3": 3, "C4": 4, "AC4": 3, "P3": 3, "P4": 4}
 BORDERS = {"constant": 0, "replicate": 1, "edge": 1, "nearest": 1, "symmetric": 2, "reflect101": 3, "wrap": 4}
 errors: dict[str, type] = {}  # by their names without Error
+implementations: dict[str, Any] = {}  # the operations that Python runs; _asked= has them answer a question instead
 
 
 def refuse(name, text, error=ValueError):
@@ -29,6 +30,15 @@ def fail(name, error, text):
     report = errors[error](f"{name}: {text}")
     report.operation = name
     raise report
+
+
+def reach(operation, *arguments, **options):
+    """How far around a pixel a call with these arguments reads its source for a pixel of the result: (left, top, right,
+    bottom), whatever the border; None where the result comes of other places than those around it."""
+    name = operation.__name__
+    if RULES[name]["kind"] == "window":
+        return implementations[name](*arguments, **options, _asked="reach")
+    return (0, 0, 0, 0) if RULES[name].get("local") else None
 
 
 class Member:
@@ -358,7 +368,7 @@ def window(name, asked, sources, own, options):
     else:
         found = choose(name, image, options.get("alpha"), options.get("dtype"))
     member = found[0]
-    if asked:
+    if asked == "which":
         return member.name
     types = dict(zip(member.parameters, member.letters))
     fixed = member.masks is not None
@@ -399,6 +409,8 @@ def window(name, asked, sources, own, options):
             if not (0 <= x < size[0] and 0 <= y < size[1]):
                 fail(name, "BadAnchor", f"the anchor {v[anchor]} lies outside of the window")
         reach = member.reach(v)
+    if asked == "reach":
+        return reach
     left, top, right, bottom = reach
     if max(reach) > 2**30 or (image.width + left + right) * 16 > 2**31 or image.height + top + bottom > 2**31 - 1:
         fail(name, "BadMaskSize", "the window is too large")

@@ -7,7 +7,7 @@ import numpy as np
 import pytest
 
 import hux
-from hux import _operations, c
+from hux import _front, _operations, c
 from members import CHANNELS, DTYPES, OPERATIONS, pixels
 
 pytestmark = pytest.mark.filterwarnings("ignore::hux.Warning")
@@ -114,6 +114,15 @@ def test_windows_of_every_border_and_the_valid_region():
     assert hux.filter_gauss(a, "5x5", border=None).shape == (5, 8, 3)
     same = a.copy()
     assert np.array_equal(hux.filter_box(same, (5, 3), out=same), hux.filter_box(a, (5, 3)))
+    for operation, more, reach in ((hux.filter_box, {"mask_size": (5, 3), "anchor": (1, 0)}, (1, 0, 3, 2)),
+                                   (hux.filter, {"kernel": TAPS, "anchor": (0, 1)}, (2, 0, 0, 1)),
+                                   (hux.filter_gauss, {"mask_size": "5x5"}, (2, 2, 2, 2)), (hux.not_, {}, (0,) * 4)):
+        left, top, right, bottom = _front.reach(operation, a, **more)
+        assert (left, top, right, bottom) == reach
+        if any(reach):
+            assert np.array_equal(operation(a, **more, border=None),
+                                  operation(a, **more)[top:9 - bottom, left:12 - right])
+    assert _front.reach(hux.resize, a, (4, 4)) is None and _front.reach(hux.mean, a) is None
     turned, part = a[::-1, ::-1], np.zeros((20, 20, 3), np.uint8)
     hux.filter_box(turned, (5, 3), out=part[3:12, 4:16])
     assert np.array_equal(part[3:12, 4:16], hux.filter_box(turned.copy(), (5, 3)))
