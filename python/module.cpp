@@ -1149,7 +1149,6 @@ PyObject* which(PyObject* self, PyObject* const* given, Py_ssize_t count, PyObje
 PyObject* name(PyObject* self, void*) { return PyUnicode_FromString(operationOf(self).name); }
 PyObject* doc(PyObject* self, void*) { return PyUnicode_FromString(operationOf(self).doc); }
 PyObject* native(PyObject* self, void*) { return PyBool_FromLong(operationOf(self).native); }
-PyObject* module(PyObject*, void*) { return PyUnicode_FromString("hux"); }
 PyObject* repr(PyObject* self) { return PyUnicode_FromFormat("<operation hux.%s>", operationOf(self).name); }
 
 // Pickled by name.
@@ -1171,7 +1170,6 @@ PyMethodDef kMethods[] = {{"which", reinterpret_cast<PyCFunction>(reinterpret_ca
                           {}};
 PyGetSetDef kProperties[] = {{"__name__", name, nullptr, nullptr, nullptr},
                              {"__qualname__", name, nullptr, nullptr, nullptr},
-                             {"__module__", module, nullptr, nullptr, nullptr},
                              {"__doc__", doc, nullptr, nullptr, nullptr},
                              {"members", members, nullptr, "The C functions that there are.", nullptr},
                              {"native", native, nullptr, "Whether the extension module runs it by itself.", nullptr},
