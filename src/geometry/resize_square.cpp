@@ -56,6 +56,8 @@ Axis partOf(Axis axis, Index first, Index end) {
 }
 
 // Linear mode beyond the outer samples of the image: in one direction nothing changes, and pixels are rounded once.
+// Where there are no such pixels, the outer samples are not looked at: of the image, only what the region of the
+// destination needs must be in memory.
 template <class T>
 class Border {
  public:
@@ -63,6 +65,7 @@ class Border {
 
   // Rows, from one row of the source.
   void rows(Index from, Index to, Index srcRow) const {
+    if (from >= to) return;
     Walk walk(p_.x);
     for (Index x = 0; x < p_.x.count; ++x) {
       const Position at = walk.next();
@@ -75,6 +78,7 @@ class Border {
   }
   // Columns between such rows, from one column of the source.
   void columns(Index from, Index to, Index srcColumn, Inner inner) const {
+    if (from >= to) return;
     Walk walk(partOf(p_.y, inner.first, inner.end));
     for (Index y = inner.first; y < inner.end; ++y) {
       const Tap tap = Linear::tap(p_.y, walk.next());
