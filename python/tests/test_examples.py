@@ -11,6 +11,8 @@ import pytest
 import hux
 
 ROOT = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "tools"))
+import pictures  # noqa: E402: it stands among the tools
 FOLDER = ROOT / "examples" / "python"
 SHOWN = tomllib.loads((ROOT / "docs" / "site" / "examples.toml").read_text())
 
@@ -25,9 +27,7 @@ def test_example(program, tmp_path):
 
 
 @pytest.mark.parametrize("family", [name for name, example in SHOWN.items() if "python" in example])
+@pytest.mark.filterwarnings("error")
 def test_shown(family):
     rng = np.random.default_rng(1)
-    names = dict(np=np, hux=hux, a=rng.integers(0, 256, (48, 96, 3), np.uint8),
-                 b=rng.integers(1, 256, (48, 96, 3), np.uint8), gray=rng.integers(0, 256, (48, 96), np.uint8),
-                 mask=np.full((48, 96), 255, np.uint8), f=rng.random((48, 96), np.float32) + np.float32(0.1))
-    exec(SHOWN[family]["python"], names)
+    exec(SHOWN[family]["python"], pictures.images(*rng.integers(0, 256, (2, 144, 192, 3), np.uint8)))
