@@ -1,10 +1,11 @@
-// The version record: constant data, so that a caller may keep the pointer.
+// The version record: constant data, so that a caller may keep the pointer. The version is the build's; what else the
+// record has belongs to the interface and stays.
 #include "huxi.h"
 
 namespace {
 
 constexpr HuxLibraryVersion kVersion = {
-    5, 1, 133, 272, {'p', 'x', 0, 0}, "libhuxipx-5.1.dylib", "5.1.1", "Jun 17 2006",
+    HUX_MAJOR, HUX_MINOR, 133, 272, {'p', 'x', 0, 0}, "libhuxipx-" HUX_INTERFACE ".dylib", HUX_VERSION, "Jun 17 2006",
 };
 
 }  // namespace
