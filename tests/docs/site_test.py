@@ -1,10 +1,12 @@
 #!/usr/bin/python3
-"""Looks at the reference site as a reader does: in a headless browser, on a phone's width, in the dark, by its links.
+"""Looks at the reference site as a reader does: by its links, its examples and pictures, and, where there is chromium, in
+a browser without a window, on a phone's width, in the dark.
 
   tests/docs/site_test.py FOLDER
 """
 import html.parser
 import io
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -51,7 +53,7 @@ class Page(html.parser.HTMLParser):
             self.pictures.append(values["src"])
 
 
-class Site(unittest.TestCase):
+class Pages(unittest.TestCase):
     def test_links_lead_somewhere(self):
         pages = {p: Page(p.read_text()) for p in SITE.rglob("*.html")}
         self.assertGreater(len(pages), 100)
@@ -65,12 +67,34 @@ class Site(unittest.TestCase):
                 if parts.fragment and target.suffix == ".html":
                     self.assertIn(unquote(parts.fragment), pages[target].places, f"{file.name}: {link}")
 
+    def test_families_have_examples_and_pictures(self):
+        families = [p for p in (SITE / "families").glob("*.html") if 'class="prototype"' in p.read_text()]
+        self.assertGreater(len(families), 100)
+        drawn = 0
+        for page in families:
+            text = page.read_text()
+            for language in ("c", "cpp", "python"):
+                self.assertIn(f'class="highlight-{language} ', text, page.name)
+            for file in Page(text.split('class="run"')[1]).pictures if 'class="run"' in text else []:
+                with Image.open(page.parent / file) as image:
+                    self.assertGreater(len(set(image.getdata())), 1, f"{page.name}: {file} is blank")
+                drawn += 1
+        self.assertGreater(drawn, 200)
+
+    def test_size(self):
+        self.assertLess(sum(f.stat().st_size for f in SITE.rglob("*") if f.is_file()), 20 << 20)
+
+
+@unittest.skipUnless(shutil.which("chromium"), "no chromium")
+class Browser(unittest.TestCase):
     def test_any_name_is_found(self):
         def first(asked):
             found = dom(f"index.html?name={asked}").split('id="hux-found"')[1].split("</li>")[0]
             return found.split('href="')[1].split('"')[0]
         self.assertTrue(first("huxiAdd_8u_C3RSfs").endswith("families/Add.html#huxiAdd_8u_C3RSfs"))
         self.assertTrue(first("filterbox").endswith("families/FilterBox.html"))
+        self.assertTrue(first("median+16s+c3").split("#")[1].startswith("huxiFilterMedian"))
+        self.assertTrue(first("hux.resize_sqr").endswith("families/ResizeSqrPixel.html"))
         self.assertIn("statuses.html#huxstsbadstep", first("BadStep"))
 
     def test_pictures_are_seen(self):
@@ -80,15 +104,13 @@ class Site(unittest.TestCase):
         seen = picture("families/FilterBox.html", 1300, 900).crop((400, 150, 1100, 650))
         self.assertGreater(len(set(seen.getdata())), 100)
 
-    def test_size(self):
-        self.assertLess(sum(f.stat().st_size for f in SITE.rglob("*") if f.is_file()), 20 << 20)
-
     def test_phones_and_the_dark(self):
-        narrow = picture("families/Add.html", 500, 900)
-        self.assertEqual(narrow.width, 500)
-        # Nothing is wider than the page: it would be scrolled sideways, and the right edge would show text.
-        edge = narrow.crop((496, 0, 500, 900)).getdata()
-        self.assertLess(len(set(edge)), 8)
+        for page in ("families/Add.html", "families/AlphaComp.html", "gallery.html"):
+            narrow = picture(page, 500, 900)
+            self.assertEqual(narrow.width, 500)
+            # Nothing is wider than the page: it would be scrolled sideways, and the right edge would show text.
+            edge = narrow.crop((496, 0, 500, 900)).getdata()
+            self.assertLess(len(set(edge)), 8, page)
 
         # The theme that a reader has chosen; a browser without a window has no way to prefer one.
         def brightness(theme):

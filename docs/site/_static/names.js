@@ -3,21 +3,24 @@
   "use strict";
   var most = 12;
 
+  function plain(text) { return text.toLowerCase().replace(/_/g, ""); }
+
   // The better the lower: the whole name, its start, the start of a word, anywhere; families ahead of their members.
-  function rank(entry, wanted) {
-    var name = entry[0].toLowerCase();
-    var at = name.indexOf(wanted);
-    if (at < 0) return -1;
-    var place = name === wanted ? 0 : at === 0 ? 1 : /^hux[is]?$/.test(name.slice(0, at)) ? 2 : 3;
+  // Of several words each is somewhere in the name, and the first counts.
+  function rank(entry, words) {
+    var name = plain(entry[0]);
+    if (!words.every(function (word) { return name.indexOf(word) >= 0; })) return -1;
+    var at = name.indexOf(words[0]);
+    var place = name === words[0] ? 0 : at === 0 ? 1 : /^hux[is]?$/.test(name.slice(0, at)) ? 2 : 3;
     return place * 1000 + (entry[1] === "family" ? 0 : 500) + Math.min(name.length, 400);
   }
 
   function find(text) {
-    var wanted = text.trim().toLowerCase();
-    if (!wanted) return [];
+    var words = plain(text).replace(/^\s*hux(::|\.)/, "").split(/\s+/).filter(Boolean);
+    if (!words.length) return [];
     var found = [];
     window.huxNames.forEach(function (entry) {
-      var r = rank(entry, wanted);
+      var r = rank(entry, words);
       if (r >= 0) found.push([r, entry]);
     });
     found.sort(function (a, b) { return a[0] - b[0]; });
