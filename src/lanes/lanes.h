@@ -115,15 +115,33 @@ requires(sizeof(LaneType<V>) == 4) V mulHigh(V a, V b) {
   return bitsAs<V>(even >> 32 | (odd >> 32 << 32));
 }
 
+namespace detail {
+template <class V>
+inline constexpr std::size_t kVectors = 1;
+template <class V, std::size_t K>
+inline constexpr std::size_t kVectors<std::array<V, K>> = K;
+}  // namespace detail
+
+// A vector, or an array of vectors that lie one behind the other. (Each for itself: compilers move an array in pieces
+// of 16 bytes and by way of memory.)
 template <class V>
 V loadLanes(const void* p) {
   V v;
-  std::memcpy(&v, p, sizeof v);
+  if constexpr (detail::kVectors<V> == 1)
+    std::memcpy(&v, p, sizeof v);
+  else
+    unrolled<int(detail::kVectors<V>)>([&](auto k) HUX_INLINE {
+      v[k] = loadLanes<typename V::value_type>(static_cast<const std::byte*>(p) + k * int(sizeof v[0]));
+    });
   return v;
 }
 template <class V>
-void storeLanes(void* p, V v) {
-  std::memcpy(p, &v, sizeof v);
+void storeLanes(void* p, const V& v) {
+  if constexpr (detail::kVectors<V> == 1)
+    std::memcpy(p, &v, sizeof v);
+  else
+    unrolled<int(detail::kVectors<V>)>(
+        [&](auto k) HUX_INLINE { storeLanes(static_cast<std::byte*>(p) + k * int(sizeof v[0]), v[k]); });
 }
 
 #if !defined(__AVX512BW__) || !defined(__AVX512VL__)
