@@ -129,13 +129,20 @@ __m128i widenedLow(__m128i r) {
 #if defined(__SSE4_1__)
   HUX_WIDEN(_mm, r)
 #else
+  // Of signed bytes and words the sign is shifted into what the copy of a lane leaves above it.
   const __m128i zero = _mm_setzero_si128();
-  if constexpr (to > 2 * from)
+  if constexpr (isSigned && from == 2 && to == 4)
+    return _mm_srai_epi32(_mm_unpacklo_epi16(r, r), 16);
+  else if constexpr (isSigned && from == 1 && to == 2)
+    return _mm_srai_epi16(_mm_unpacklo_epi8(r, r), 8);
+  else if constexpr (isSigned && from == 1 && to == 4)
+    return _mm_srai_epi32(_mm_unpacklo_epi16(_mm_unpacklo_epi8(r, r), _mm_unpacklo_epi8(r, r)), 24);
+  else if constexpr (to > 2 * from)
     return widenedLow<2 * from, to, isSigned>(widenedLow<from, 2 * from, isSigned>(r));
   else if constexpr (from == 1)
-    return _mm_unpacklo_epi8(r, isSigned ? _mm_cmpgt_epi8(zero, r) : zero);
+    return _mm_unpacklo_epi8(r, zero);
   else if constexpr (from == 2)
-    return _mm_unpacklo_epi16(r, isSigned ? _mm_cmpgt_epi16(zero, r) : zero);
+    return _mm_unpacklo_epi16(r, zero);
   else
     return _mm_unpacklo_epi32(r, isSigned ? _mm_cmpgt_epi32(zero, r) : zero);
 #endif
