@@ -233,6 +233,23 @@ struct LaneTable<Hux8u, 256> {
 };
 #endif
 #elif defined(__AVX2__)
+template <>
+inline int storeWhere(void* p, Lanes<std::uint64_t, 4> v, Lanes<Hux64s, 4> mask) {
+  // For each set of lanes, these first, as pairs of halves.
+  struct Orders {
+    alignas(32) std::uint32_t of[16][8] = {};
+    constexpr Orders() {
+      for (unsigned set = 0; set < 16; ++set)
+        for (unsigned lane = 0, n = 0; lane < 4; ++lane)
+          if (set >> lane & 1) of[set][n] = 2 * lane, of[set][n + 1] = 2 * lane + 1, n += 2;
+    }
+  };
+  static constexpr Orders orders;
+  const int chosen = _mm256_movemask_pd(__m256d(mask));
+  const __m256i order = __m256i(loadLanes<Lanes<std::uint32_t, 8>>(orders.of[chosen]));
+  storeLanes(p, Lanes<std::uint64_t, 4>(_mm256_permutevar8x32_epi32(__m256i(v), order)));
+  return std::popcount(unsigned(chosen));
+}
 inline Lanes<Hux32f, 8> squareRoot(Lanes<Hux32f, 8> v) { return _mm256_sqrt_ps(v); }
 inline Lanes<Hux64f, 4> squareRoot(Lanes<Hux64f, 4> v) { return _mm256_sqrt_pd(v); }
 inline Lanes<Hux64s, 4> mulLow(Lanes<Hux64s, 4> a, Lanes<Hux64s, 4> b) {
