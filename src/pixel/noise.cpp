@@ -146,6 +146,10 @@ struct Pair {
 // The operand of the rule: the numbers of pairs, and the factors that make them deviates, to within a relative
 // kFactorError.
 constexpr Hux64f kFactorError = 0x1p-36;
+template <class Log>
+Doubles factorsOf(Doubles w, const Log& logarithm, Hux64f stdDev) {
+  return stdDev * squareRoot(logarithm(w) * -2.0 / w);
+}
 struct Deviates {
   static constexpr int period = 1;
   const std::uint64_t* pairs;
@@ -157,14 +161,14 @@ struct Deviates {
     int count;
   };
   Numbers load(Index i, int phase) const { return load(i, phase, kLanes); }
+  // (There is room for whole vectors behind both.)
   Numbers load(Index i, int, int count) const {
-    using Half = Lanes<Hux64f, kLanes / 2>;
-    const Half each = loadLanes<Half>(factors + i / 2, (count + 1) / 2, 0);
+    const auto each = loadLanes<Lanes<Hux64f, kLanes / 2>>(factors + i / 2);
     const Doubles both = [&]<int... I>(std::integer_sequence<int, I...>) {
       return __builtin_shufflevector(each, each, (I / 2)...);
     }
     (std::make_integer_sequence<int, kLanes>{});
-    return {unit(convert<Hux64f>(loadLanes<Ints>(advance(pairs, 4 * i), count, 0))), both, pairs + i / 2, count};
+    return {unit(convert<Hux64f>(loadLanes<Ints>(pairs + i / 2))), both, pairs + i / 2, count};
   }
 };
 
@@ -198,17 +202,28 @@ class GaussNoise {
   }
 
   // The approximate logarithm in the factors never shows: where the interval that the noise lies in does not settle,
-  // which is rare, the accurate function decides.
+  // which is rare, a better one decides, and if need be the accurate function.
   struct Rule {
     static constexpr int lanes = kLanes;
     Hux64f mean, stdDev;
-    Lanes<T, lanes> operator()(Lanes<T, lanes> e, Deviates::Numbers d) const {
-      const auto sum = [&](Doubles factors) { return settled<T>(e, d.units * factors + mean); };
-      const auto noise = decided(sum(d.factors * (1 - kFactorError)), sum(d.factors * (1 + kFactorError)),
-                                 [&] { return settled<T>(e, accurate(d.pairs, d.count)); });
-      return added<T>(e, noise);
+    using Elements = Lanes<T, lanes>;
+    Elements operator()(Elements e, Deviates::Numbers d) const {
+      return added<T>(e, within(kFactorError, e, d.units, d.factors, [&] { return careful(e, d); }));
     }
-    [[gnu::noinline]] Doubles accurate(const std::uint64_t* pairs, int count) const {
+
+   private:
+    template <class All>
+    auto within(Hux64f error, Elements e, Doubles units, Doubles factors, All all) const {
+      const auto sum = [&](Doubles f) { return settled<T>(e, units * f + mean); };
+      return decided(sum(factors * (1 - error)), sum(factors * (1 + error)), all);
+    }
+    [[gnu::noinline]] auto careful(Elements e, Deviates::Numbers d) const {
+      Doubles w = splat<Doubles>(0.5);
+      for (int i = 0; i < d.count; ++i) w[i] = Pair(d.pairs[i / 2]).w;
+      return within(0x1p-46, e, d.units, factorsOf(w, LongLogarithm(), stdDev),
+                    [&] { return settled<T>(e, accurate(d.pairs, d.count)); });
+    }
+    Doubles accurate(const std::uint64_t* pairs, int count) const {
       Doubles noise = {};
       for (int i = 0; i < count; ++i) {
         const Pair p(pairs[i / 2]);
@@ -230,7 +245,7 @@ class GaussNoise {
     const Logarithm logarithm;
     for (int i = 0; i < count; i += kLanes) {
       const Doubles w = squaredNorms(loadLanes<Pairs>(pairs_ + i));
-      storeLanes(factors_ + i, rule_.stdDev * squareRoot(logarithm(w) * -2.0 / w));
+      storeLanes(factors_ + i, factorsOf(w, logarithm, rule_.stdDev));
     }
     count_ = count, used_ = 0;
   }

@@ -65,8 +65,9 @@ struct LnFloat {
     }
     return result;
   }
-  [[gnu::noinline]] Half careful(Half v) const {
-    return closed<Logarithm::kErrorBits>(logarithm(convert<Hux64f>(v)), v, [](Hux64f e) { return portable::log(e); });
+  [[gnu::noinline]] static Half careful(Half v) {
+    return closed<LongLogarithm::kErrorBits>(LongLogarithm()(convert<Hux64f>(v)), v,
+                                             [](Hux64f e) { return portable::log(e); });
   }
 };
 

@@ -1,7 +1,7 @@
 // Sine, cosine, arc tangent, exponential, logarithm of double precision, the same on every machine. C libraries differ
 // in the last bits of theirs, and results that are promised to the bit lean on these. They are made of additions,
 // multiplications, divisions and roots alone, at twice the precision: rounded as the exact value is, but for about one
-// argument in 2^40. That takes some 200 ns, so loops use approximations of known error, and come here where an
+// argument in 2^40. That takes about a microsecond, so loops use approximations of known error, and come here where an
 // approximation does not decide (see workers/nearest.h).
 #pragma once
 
