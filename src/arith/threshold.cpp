@@ -9,55 +9,97 @@
 namespace hux {
 namespace {
 
-// One-channel floats are compared as bit patterns: as signed integers against a threshold of 0 and above, and against
-// any other, a NaN among them, as unsigned integers in reverse. -0 is such a threshold of 0, so that everything else
-// lies above it. The other layouts compare floats.
+// One-channel floats are compared as bit patterns: as signed integers with a threshold of 0 and above, and with any
+// other, a NaN among them, as unsigned integers in reverse. -0 is such a threshold of 0, so that everything else lies
+// above it. The other layouts compare floats.
 template <class L, class T>
 using Compared = std::conditional_t<L::channels == 1 && std::is_same_v<T, Hux32f>, Hux32s, T>;
 
-// The order in which elements lie around a threshold: that of their keys.
-template <class T>
-struct Order {
-  explicit Order(T) {}
+// The order around a threshold, in which the tests are written as they treat a NaN: it is not above, and not at least.
+struct Upwards {
   template <class V>
-  V key(V v) const {
-    return v;
+  static auto isAbove(V e, V threshold) {
+    return e > threshold;
+  }
+  template <class V>
+  static auto isAtLeast(V e, V threshold) {
+    return e >= threshold;
+  }
+  template <class V>
+  static V lowerOf(V e, V threshold) {
+    return lesser(threshold, e);
+  }
+  template <class V>
+  static V upperOf(V e, V threshold) {
+    if constexpr (std::is_integral_v<LaneType<V>>)
+      return greater(e, threshold);
+    else
+      return e >= threshold ? e : threshold;
   }
 };
-template <>
-struct Order<Hux32s> {
-  Hux32s flip;  // turns the signed order of patterns into the unsigned one in reverse
-  explicit Order(Hux32s threshold) : flip(std::bit_cast<Hux32f>(threshold) >= 0.0f ? 0 : 0x7fffffff) {}
+struct InReverse {
   template <class V>
-  V key(V v) const {
-    return v ^ flip;
+  static auto pattern(V v) {
+    return bitsAs<Lanes<Hux32u, lanesIn<V>>>(v);
+  }
+  template <class V>
+  static auto isAbove(V e, V threshold) {
+    return pattern(e) < pattern(threshold);
+  }
+  template <class V>
+  static auto isAtLeast(V e, V threshold) {
+    return pattern(e) <= pattern(threshold);
+  }
+  template <class V>
+  static V lowerOf(V e, V threshold) {
+    return V(greater(pattern(e), pattern(threshold)));
+  }
+  template <class V>
+  static V upperOf(V e, V threshold) {
+    return V(lesser(pattern(e), pattern(threshold)));
   }
 };
+template <class E, class Run>
+HuxStatus inOrderAround(E threshold, Run run) {
+  if constexpr (std::is_same_v<E, Hux32s>)
+    if (!(std::bit_cast<Hux32f>(threshold) >= 0.0f)) return run(InReverse{});
+  return run(Upwards{});
+}
 
-// The tests are written as they treat a NaN: it is not above, and not at least.
-template <class T>
+template <class T, class Order>
 struct ReplaceAbove {
   static constexpr int lanes = memoryLanes<T>;
   using V = Lanes<T, lanes>;
-  Order<T> order;
-  V operator()(V e, V threshold, V value) const { return order.key(e) > order.key(threshold) ? value : e; }
+  V operator()(V e, V threshold, V value) const { return Order::isAbove(e, threshold) ? value : e; }
 };
-template <class T>
+template <class T, class Order>
 struct ReplaceBelow {
   static constexpr int lanes = memoryLanes<T>;
   using V = Lanes<T, lanes>;
-  Order<T> order;
-  V operator()(V e, V threshold, V value) const { return order.key(e) >= order.key(threshold) ? e : value; }
+  V operator()(V e, V threshold, V value) const { return Order::isAtLeast(e, threshold) ? e : value; }
 };
-template <class T>
+template <class T, class Lower, class Upper>
 struct ReplaceOutside {
   static constexpr int lanes = memoryLanes<T>;
   using V = Lanes<T, lanes>;
-  Order<T> lower, upper;
   V operator()(V e, V thresholdLT, V valueLT, V thresholdGT, V valueGT) const {
-    const V kept = lower.key(e) >= lower.key(thresholdLT) ? e : valueLT;
-    return upper.key(e) > upper.key(thresholdGT) ? valueGT : kept;
+    const V kept = Lower::isAtLeast(e, thresholdLT) ? e : valueLT;
+    return Upper::isAbove(e, thresholdGT) ? valueGT : kept;
   }
+};
+
+// The first two where the value is the threshold.
+template <class T, class Order>
+struct LimitAbove {
+  static constexpr int lanes = memoryLanes<T>;
+  using V = Lanes<T, lanes>;
+  V operator()(V e, V threshold) const { return Order::lowerOf(e, threshold); }
+};
+template <class T, class Order>
+struct LimitBelow {
+  static constexpr int lanes = memoryLanes<T>;
+  using V = Lanes<T, lanes>;
+  V operator()(V e, V threshold) const { return Order::upperOf(e, threshold); }
 };
 
 // Applies a rule of elements and constants per channel, compared as E, to the region. Row pointers move in whole
@@ -81,11 +123,17 @@ HuxStatus replaceBeyond(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiSi
     return s;
   using E = Compared<L, T>;
   const auto* threshold = elementsAs<E>(pThreshold);
-  const auto run = [&](auto rule) {
-    return replace<L, E>(pSrc, srcStep, pDst, dstStep, roi, rule, threshold, elementsAs<E>(pValue));
+  const auto run = [&](auto rule, auto... constants) {
+    return replace<L, E>(pSrc, srcStep, pDst, dstStep, roi, rule, constants...);
   };
-  const Order<E> order(*threshold);
-  return cmpOp == huxCmpGreater ? run(ReplaceAbove<E>{order}) : run(ReplaceBelow<E>{order});
+  return inOrderAround<E>(*threshold, [&](auto order) {
+    using Order = decltype(order);
+    const auto* value = elementsAs<E>(pValue);
+    const bool above = cmpOp == huxCmpGreater;
+    if (pValue == pThreshold)
+      return above ? run(LimitAbove<E, Order>{}, threshold) : run(LimitBelow<E, Order>{}, threshold);
+    return above ? run(ReplaceAbove<E, Order>{}, threshold, value) : run(ReplaceBelow<E, Order>{}, threshold, value);
+  });
 }
 
 template <class L, class T>
@@ -106,8 +154,12 @@ HuxStatus replaceOutside(const T* pSrc, int srcStep, T* pDst, int dstStep, HuxiS
     return s;
   using E = Compared<L, T>;
   const auto *lower = elementsAs<E>(pThresholdLT), *upper = elementsAs<E>(pThresholdGT);
-  return replace<L, E>(pSrc, srcStep, pDst, dstStep, roi, ReplaceOutside<E>{Order<E>(*lower), Order<E>(*upper)}, lower,
-                       elementsAs<E>(pValueLT), upper, elementsAs<E>(pValueGT));
+  return inOrderAround<E>(*lower, [&](auto below) {
+    return inOrderAround<E>(*upper, [&](auto above) {
+      return replace<L, E>(pSrc, srcStep, pDst, dstStep, roi, ReplaceOutside<E, decltype(below), decltype(above)>{},
+                           lower, elementsAs<E>(pValueLT), upper, elementsAs<E>(pValueGT));
+    });
+  });
 }
 
 }  // namespace
