@@ -14,6 +14,18 @@ using WordOf = std::conditional_t<
 template <int Bytes>
 using WordsOf = Lanes<WordOf<Bytes>, 16 / Bytes>;
 
+// So many bytes at p, over and over.
+template <int Bytes>
+Quad repeated(const void* p) {
+  if constexpr (Bytes == 16) {
+    return loadLanes<Quad>(p);
+  } else {
+    WordOf<Bytes> word;
+    std::memcpy(&word, p, sizeof word);
+    return Quad(splat<WordsOf<Bytes>>(word));
+  }
+}
+
 // The elements of two vectors that stand at even (0) or odd (1) places: those of a at places of A, those of b of B.
 template <int Bytes, int A, int B>
 Quad everySecond(Quad a, Quad b) {

@@ -43,6 +43,20 @@ void repeatPixel(const Element<W>* pixel, Element<W>* dst, Index n) {
       simd::store(advance(dst, at), v, simd::written<Repeat>() & simd::lowBytes(n * pixelBytes - at));
   } else {
     if (n >= 64) return Pattern<L, W>(pixel).fill(dst, n);
+    if constexpr (pixelBytes == processedBytes && 16 % pixelBytes == 0) {
+      // By several pixels, the last of which may overlap those before them.
+      const auto covered = [&](auto several) {
+        constexpr Index pixels = Index(sizeof several) / pixelBytes;
+        if (n < pixels) return false;
+        for (Index i = 0; i + pixels <= n; i += pixels) storeLanes(dst + i * L::channels, several);
+        storeLanes(dst + (n - pixels) * L::channels, several);
+        return true;
+      };
+      const simd::Quad v = simd::repeated<pixelBytes>(pixel);
+      if (covered(v)) return;
+      if constexpr (pixelBytes < 8)
+        if (covered(bitsAs<Lanes<std::uint64_t, 2>>(v)[0])) return;
+    }
     for (Index i = 0; i < n; ++i)
       for (int c = 0; c < L::processed; ++c) dst[i * L::channels + c] = pixel[c];
   }

@@ -39,6 +39,8 @@ class Pattern {
   void fill(Element<W>* dst, Index n, bool streaming = false) const {
     const Index end = ((n - 1) * L::channels + L::processed) * Index(sizeof(W));
     if constexpr (whole || simd::kMasks) {
+      if constexpr (whole)
+        if (end < bytes && !streaming) return simd::copyFew(dst, elements_, end);
       simd::Vec v[vectors];
       for (int k = 0; k < vectors; ++k) v[k] = vector(k);
       Index at = 0;
@@ -57,7 +59,7 @@ class Pattern {
         for (int k = 0; k < vectors && at < end; ++k, at += simd::kBytes)
           simd::store(advance(dst, at), v[k], written[std::size_t(k)] & simd::lowBytes(end - at));
       } else {
-        std::memcpy(advance(dst, at), elements_, std::size_t(end - at));
+        simd::copyFew(advance(dst, at), elements_, end - at);
       }
     } else {
       for (Index i = 0; i < n; ++i)
