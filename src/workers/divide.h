@@ -42,6 +42,16 @@ struct QuotientOf {
       return anyZero(Lanes<Word<T>, lanes>(denominator));
   }
 
+  // Whether somewhere a denominator is above the edge and no bit of the mask is set. Words of half a register are
+  // compared as floats, and both tests are one.
+  static bool anyAboveAndClear(V denominator, F d, Hux16u edge, Lanes<Hux32u, lanes> bits, Hux32u mask) {
+    const auto all = splat<Lanes<Hux32u, lanes>>(mask);
+    if constexpr (sizeof(V) < 16)
+      return any((d > splat<F>(edge)) & ((bits & all) == 0));
+    else
+      return anyAbove(denominator, splat<V>(edge)) && anyClear(bits, all);
+  }
+
   // Vectors of a row start with a pixel where these have four channels: the lane tells the channel. Alpha divides like
   // the colours do, but nobody asked for it, so it is no reason to warn.
   template <class L>
@@ -132,9 +142,8 @@ struct Quotient16u<false> : QuotientOf<Hux16u> {
   auto operator()(V denominator, V numerator) {
     const F d = convert<Hux32f>(denominator), n = convert<Hux32f>(numerator);
     F q = divide(denominator, n, d);
-    if (anyAbove(denominator, splat<V>(edge)))
-      if (anyClear(bitsAs<U>(q) - lowest, splat<U>(~0x00C003FFu))) [[unlikely]]
-        q = divide(denominator, d > float(edge) ? n + (n < d ? splat<F>(below) : splat<F>(above)) : n, d);
+    if (anyAboveAndClear(denominator, d, edge, bitsAs<U>(q) - lowest, ~0x00C003FFu)) [[unlikely]]
+      q = divide(denominator, d > float(edge) ? n + (n < d ? splat<F>(below) : splat<F>(above)) : n, d);
     return roundNonNegative(q, factor);
   }
 };
@@ -159,11 +168,9 @@ struct Quotient16u<true> : QuotientOf<Hux16u> {
     const F d = convert<Hux32f>(denominator), n = convert<Hux32f>(numerator);
     const F v = divide(denominator, n, d) * factor;
     const F nearest = v + 0x1p23f;
-    if (anyAbove(denominator, splat<V>(edge))) {
-      const F distance = v - (nearest - 0x1p23f);
-      if (anyClear(0x3F000000 - bitsAs<U>(distance), splat<U>(clear))) [[unlikely]]
-        return lowerHalf(exact(denominator, numerator, v));
-    }
+    const F distance = v - (nearest - 0x1p23f);
+    if (anyAboveAndClear(denominator, d, edge, 0x3F000000 - bitsAs<U>(distance), clear)) [[unlikely]]
+      return lowerHalf(exact(denominator, numerator, v));
     return lowerHalf(bitsAs<U>(nearest) - 0x4B000000u);
   }
 
