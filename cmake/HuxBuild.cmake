@@ -57,6 +57,8 @@ function(hux_add_libraries name objects)
   add_library(${name}huxi SHARED $<TARGET_OBJECTS:${objects}_images>)
   target_link_libraries(${name}huxi PRIVATE $<BUILD_INTERFACE:hux_build_flags> $<BUILD_INTERFACE:hux_threads>
                         PUBLIC ${name}huxcore)
+  # A program that uses the one alone finds the other beside it, also in a tree that has been moved.
+  set_target_properties(${name}huxi PROPERTIES INSTALL_RPATH $ORIGIN)
   foreach(library huxcore huxi)
     set_target_properties(${name}${library} PROPERTIES OUTPUT_NAME ${library} VERSION ${PROJECT_VERSION}
                                                        SOVERSION ${PROJECT_VERSION_MAJOR} EXPORT_NAME ${library})

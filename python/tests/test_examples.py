@@ -17,6 +17,16 @@ FOLDER = ROOT / "examples" / "python"
 SHOWN = tomllib.loads((ROOT / "docs" / "site" / "examples.toml").read_text())
 
 
+def test_the_readme_shows_the_programs():
+    """One program in three languages; each is run by a test of its own."""
+    for language, shown in re.findall(r"^```(\w+)\n(.*?)^```", (ROOT / "README.md").read_text(), re.M | re.S):
+        program = (ROOT / "examples" / f"hello.{ {'python': 'py'}.get(language, language)}").read_text()
+        assert "\n".join(line.strip() for line in shown.splitlines()) in \
+            "\n".join(line.strip() for line in program.splitlines())
+    hello = subprocess.run([sys.executable, FOLDER.parent / "hello.py"], capture_output=True, text=True)
+    assert hello.stdout == "centre: 250 180 30\n", hello.stderr
+
+
 @pytest.mark.parametrize("program", sorted(set(FOLDER.glob("*.py")) - {FOLDER / "png.py"}), ids=lambda p: p.stem)
 def test_example(program, tmp_path):
     run = subprocess.run([sys.executable, program, tmp_path], capture_output=True, text=True,
