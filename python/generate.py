@@ -5,6 +5,7 @@
   generate.py REGISTRY --reached   which functions the module reaches, by family, and which it does not, with the reason
 """
 import json
+import math
 import os.path
 import re
 import sys
@@ -19,7 +20,9 @@ import generate as calls  # noqa: E402
 import rules  # noqa: E402
 
 LAYOUTS = {"C1": "kC1", "C2": "kC2", "C3": "kC3", "C4": "kC4", "AC4": "kAC4", "P3": "kP3", "P4": "kP4", "AP4": "kP4"}
-NATIVE = ("points", "moves", "measure")
+# By kind: what decides about the shape of the results of the operations that the extension module runs.
+NATIVE = {"points": "pixels", "moves": "pixels", "measure": "measure", "window": "window", "geometry": "geometry",
+          "convolution": "convolution", "match": "match"}
 # Parameters of the functions that a front fills by itself, by role.
 OWN_ROLES = ("constant", "enumeration", "number", "index", "channel_order", "state", "hint")
 
@@ -98,7 +101,9 @@ class Model:
 class Operation:
     def __init__(self, model, name, rule):
         self.model, self.name, self.rule, self.functions = model, name, rule, []
-        self.native = rule["kind"] in NATIVE
+        self.family = NATIVE.get(rule["kind"], "other")
+        self.native = self.family != "other"
+        self.plain = self.family in ("pixels", "measure")  # its parameters follow from those of C
 
     def finish(self):
         groups = dict.fromkeys(f["group"] for f in self.functions)
@@ -110,6 +115,18 @@ class Operation:
         self.count = max(len(self.operands(f)) + bool(self.second(f)) for f in self.functions)
         self.takes_constant = any(self.second(f) for f in self.functions)
         self.parameters = []  # (name, kind, words, fallback, keyword only)
+        self.form_mask, self.results = 0, []
+        if self.plain:
+            self.find_parameters()
+        else:
+            self.parameters = shown_parameters(self)
+        self.members = [(self.key(f), f) for f in self.functions]
+        keys = Counter(key for key, _ in self.members)
+        doubled = [f["name"] for key, f in self.members if keys[key] > 1]
+        if doubled:
+            sys.exit(f"generate.py: {', '.join(doubled)} have the same arguments")
+
+    def find_parameters(self):
         if self.rule.get("type"):
             self.parameters.append(("dtype", "dtype", None, None, False))
         own, forms = {}, {}
@@ -130,11 +147,6 @@ class Operation:
         self.form_mask = sum(1 << i for i, p in enumerate(self.parameters)
                              if not self.takes_constant and forms.get(p[0]) == {1} and
                              any(not self.form(f) for f in self.functions))
-        self.members = [(self.key(f), f) for f in self.functions]
-        keys = Counter(key for key, _ in self.members)
-        doubled = [f["name"] for key, f in self.members if keys[key] > 1]
-        if doubled:
-            sys.exit(f"generate.py: {', '.join(doubled)} have the same arguments")
         self.results = [snake(p["name"][1:]) for p in self.functions[0]["parameters"] if p["role"] == "result"]
 
     @staticmethod
@@ -144,13 +156,14 @@ class Operation:
     def operands(self, function):
         return [p for p in function["parameters"] if p["role"] in ("source", "source_destination")]
 
-    @staticmethod
-    def form(function):
+    def form(self, function):
+        if self.family == "window":  # integer taps have a divisor
+            return int(any(p["role"] == "divisor" for p in function["parameters"]))
         return int(re.search(r"C(Scale)?$", function["operation"]) is not None)
 
     def second(self, function):
         """The constant that stands for the second image."""
-        if not self.form(function):
+        if not self.plain or not self.form(function):
             return None
         return next((p for p in function["parameters"] if p["role"] == "constant" and p["name"] in ("value", "pValue")),
                     None)
@@ -187,16 +200,34 @@ class Operation:
         else:
             letters = dict(zip(sources, "ba" if self.rule.get("reversed") and len(sources) == 2 else "ab"))
         names = [p[0] for p in self.parameters]
-        program, results = "", "xyz"
+        program, results, ahead = "", "xyz", "ZT" if len(sources) == 2 and not self.plain else "Z"
+        maps, regions = "XY", "RD"
         for p in function["parameters"]:
             role, name = p["role"], parameter_name(p["name"])
+            special = None
+            if not self.plain:
+                one = p["type"] == "int"
+                special = {"kernel": "K", "element": "K", "kernel_size": "w" if one else "W",
+                           "mask_size": "w" if one else "W", "anchor": "p" if one else "P", "fixed_mask": "f",
+                           "divisor": "d", "buffer": "u"}.get(role)
+                if role == "size" and not re.match("dst|roi", p["name"]):
+                    special, ahead = ahead[0], ahead[1:]
+                if role == "region":
+                    special, regions = regions[0], regions[1:]
+                if role == "map":
+                    special, maps = maps[0], maps[1:]
+                    letters[p["name"]] = {"X": "H", "Y": "V"}[special]
+            if special:
+                program += special
+                continue
             if role == "step":
-                program += "J" if len(p["of"]) == 2 else letters[p["of"][0]].upper()
+                letter = letters[p["of"][0]]
+                program += "J" if len(p["of"]) == 2 else letter.lower() if letter in "HV" else letter.upper()
                 continue
             if p is self.second(function):
                 program += "0"
                 continue
-            if role in OWN_ROLES:
+            if role in OWN_ROLES or name in names:
                 program += str(names.index(name) + self.takes_constant)
                 continue
             if role == "result":
@@ -212,12 +243,14 @@ class Operation:
         places = [None] * self.takes_constant + [p[0] for p in self.parameters]
         own = {}
         for p in function["parameters"]:
-            if p["role"] in OWN_ROLES:
+            if p["role"] in OWN_ROLES or not self.plain and parameter_name(p["name"]) in places and p["role"] in (
+                    "coefficients", "quad"):
                 place = 0 if p is self.second(function) else places.index(parameter_name(p["name"]))
                 element = {"int": "32s", None: "32s"}.get(p["element"], p["element"])
-                several = p["kind"] == "pointer" and p["role"] == "constant"
+                several = p["kind"] == "pointer" and (p["role"] == "constant" or p["role"] == "state" and not self.plain)
                 processed = self.model.registry["layouts"][function["destination_layout"]]["processed"] if several else 1
-                own[place] = (f"t{element}", (p["extents"] or [processed])[0], p["kind"] == "pointer")
+                count = math.prod(p["extents"] or [processed])
+                own[place] = (f"t{element}", count, p["kind"] == "pointer")
         return [own.get(i, ("none", 0, False)) for i in range(len(places))]
 
     def result_values(self, function):
@@ -244,7 +277,7 @@ class Operation:
                 return name if default is None else f"{name}={default}"
             return f"{name}: {annotation}" + (f" = {default}" if default else "")
 
-        if not self.native:
+        if not self.plain:
             return ", ".join(p if isinstance(p, str) else with_type(*p) for p in plain_parameters(self))
         image = "_Images" if self.planes else "_Image"
         parts = []
@@ -387,6 +420,44 @@ def plain_parameters(operation):
     return parts
 
 
+# What stands for what in a window or a geometric operation, by parameter; other parameters are numbers.
+KINDS = {"mask_size": "maskSize", "kernel": "kernel", "footprint": "footprint", "anchor": "anchor",
+         "x_anchor": "anchor", "y_anchor": "anchor", "divisor": "divisor", "border": "border",
+         "border_value": "borderValue", "size": "size", "coeffs": "matrix", "src_quad": "quad", "dst_quad": "quad",
+         "x_map": "map", "y_map": "map", "smooth_edge": "flag", "roi": "region", "dst_roi": "region",
+         "inter": "enumeration"}
+
+
+def shown_parameters(operation):
+    """As the extension module has them: name, kind, words, fallback, keyword only."""
+    shown, keyword = [], False
+    for entry in own_parameters(operation) + ["*"] + keyword_parameters(operation):
+        if entry == "*":
+            keyword = True
+            continue
+        name, _, default = (*entry, None)[:3]
+        if name in ("out", "dtype", "shape", "shift", "alpha"):
+            continue
+        kind = "factor" if operation.name in BY_HAND and name in ("x_factor", "y_factor") else KINDS.get(name, "constant")
+        words = "HuxiInterpolation" if kind == "enumeration" else None
+        fallback = default.strip('"') if default not in (None, "None", "False") else None
+        shown.append((name, kind, words, fallback, keyword))
+    return shown
+
+
+def reach_of(operation, function, argument):
+    """Each side as a sum of a number, the mask's side and the anchor, so many times each."""
+    if any(p["role"] == "fixed_mask" for p in function["parameters"]):
+        return [(0, 0, 1)] * 4
+    sides = []
+    for formula in argument["reach"]:
+        def at(size, anchor):
+            return eval(re.sub(r"\b[a-z]\w*(\.\w+)?", lambda m: str(anchor if "nchor" in m[0] else size), formula))
+        sides.append((at(0, 0), at(1, 0) - at(0, 0), at(0, 1) - at(0, 0)))
+        assert at(7, 3) == sum(k * v for k, v in zip(sides[-1], (1, 7, 3))), formula
+    return sides
+
+
 def text(string):
     return json.dumps(string, ensure_ascii=True)
 
@@ -397,6 +468,21 @@ def write_table(model, path):
     reached = [f for f in registry["functions"] if f["name"] not in model.unreached]
     index = {f["name"]: i for i, f in enumerate(reached)}
     shapes = sorted({f["shape"] for f in reached})
+    resolved, masks = rules.resolve(registry), {}
+
+    def around(operation, function):
+        """Of a window: the reach, the masks that there are, whether it is local."""
+        if operation.family != "window":
+            return "{}, nullptr, false"
+        arguments = {a["name"]: a for a in resolved[function["name"]]["arguments"]}
+        sides = ", ".join(f"{{{n}, {s}, {a}}}" for n, s, a in reach_of(operation, function, arguments["pSrc"]))
+        fixed = next((a for a in arguments.values() if a["role"] == "fixed_mask"), None)
+        own = "nullptr"
+        if fixed:
+            numbers = tuple(row[0] for row in fixed["values"]["rows"])
+            own = f"kMasks{masks.setdefault(numbers, len(masks))}"
+        running = function["types"][0] in operation.rule.get("running", ())
+        return f"{{{sides}}}, {own}, {str(bool(operation.rule.get('local')) and not running).lower()}"
 
     def values(entries):
         return "{" + ", ".join(f"{{Type::{t}, {n}, {str(a).lower()}}}" for t, n, a in entries) + "}"
@@ -405,7 +491,8 @@ def write_table(model, path):
         flag = lambda value: str(bool(value)).lower()  # noqa: E731
         doc = text(f"{operation.name}({operation.signature(False)})\n\n{operation.comment}")
         if not operation.native:
-            operations.append(f"{{{text(operation.name)}, {doc}, false, {len(lists)}, {len(operation.functions)}, 0, "
+            operations.append(f"{{{text(operation.name)}, {doc}, Family::other, 0, {len(lists)}, "
+                              f"{len(operation.functions)}, 0, "
                               f"false, false, false, false, false, false, false, false, false, 0, 0, 0, nullptr}}")
             lists += [str(index[f["name"]]) for f in operation.functions]
             continue
@@ -416,21 +503,25 @@ def write_table(model, path):
             order = (TYPES.index(source), TYPES.index(destination), PLACES.index(a), PLACES.index(o), form, in_place,
                      masked)
             rows.append((order, f"{{{key}, {index[function['name']]}, {text(operation.program(function))}, "
-                                f"{values(operation.values(function))}, {values(operation.result_values(function))}}}"))
+                                f"{values(operation.values(function))}, {values(operation.result_values(function))}, "
+                                f"{around(operation, function)}}}"))
         members += [row for _, row in sorted(rows)]
         place = len(parameters)
         for name, kind, enumeration, fallback, keyword in operation.parameters:
             number = -1
             if enumeration:
                 number = list(words).index(enumeration) if enumeration in words else len(words)
-                words[enumeration] = model.enumerations[enumeration]
+                words[enumeration] = {w: v for w, v in model.enumerations[enumeration].items() if v >= 0}
             parameters.append(f"{{{text(name)}, Kind::{kind}, {number}, "
                               f"{text(fallback) if fallback else 'nullptr'}, {flag(keyword)}}}")
         traits = [operation.takes_constant, operation.rule.get("commutative"),
                   operation.rule.get("in_place") == "second", operation.rule["kind"] == "moves",
                   operation.rule.get("transposed"), operation.scaled, operation.masked, operation.planes,
                   operation.rule.get("type")]
-        operations.append(f"{{{text(operation.name)}, {doc}, true, {first}, {len(rows)}, {operation.count}, "
+        extent = {"full": 1, "same": 0, "valid": -1}
+        extent = next((value for word, value in extent.items() if word in operation.name.split("_")), 0)
+        operations.append(f"{{{text(operation.name)}, {doc}, Family::{operation.family}, {extent}, {first}, {len(rows)}, "
+                          f"{operation.count}, "
                           f"{', '.join(map(flag, traits))}, {place}, {len(operation.parameters)}, "
                           f"{operation.form_mask}, {text(' '.join(operation.results)) if operation.results else 'nullptr'}}}")
     statuses = [f"{{{s['value']}, {text(s['name'])}, {text(s['comment'])}}}" for s in registry["statuses"]]
@@ -443,6 +534,8 @@ def write_table(model, path):
 
     array("const Function kFunctions", functions)
     out.append(f"const int kFunctionCount = {len(functions)};")
+    for numbers, own in masks.items():
+        array(f"static const short kMasks{own}", [str(n) for n in (*numbers, 0)])
     array("const Member kMembers", members)
     array("const int kFunctionLists", lists or ["0"])
     array("const Parameter kParameters", parameters)
@@ -461,21 +554,7 @@ def write_table(model, path):
 
 def write_python(model, index, path):
     """What the package needs: the functions, the members of the operations that Python runs, and these operations."""
-    resolved = rules.resolve(model.registry)
-    reaches, entries, wrappers = {}, [], []
-
-    def reach(function):
-        argument = next((a for a in resolved[function["name"]].get("arguments", []) if a["name"] == "pSrc"), {})
-        if "reach" not in argument:
-            return None
-        formula = re.sub(r"\b(?!max\b|min\b)([a-zA-Z]+)(?:\.(\w+))?", lambda m: f'v["{m[1]}"]' + {
-            None: "", "width": "[0]", "height": "[1]", "x": "[0]", "y": "[1]"}[m[2]], ", ".join(argument["reach"]))
-        return reaches.setdefault(formula, len(reaches))
-
-    def masks(function):
-        argument = next((a for a in resolved[function["name"]].get("arguments", []) if a["role"] == "fixed_mask"), None)
-        return tuple(row[0] for row in argument["values"]["rows"]) if argument else None
-
+    entries, wrappers = [], []
     for operation in model.operations.values():
         if operation.native:
             continue
@@ -484,8 +563,7 @@ def write_python(model, index, path):
         for f in operation.functions:
             parameters = " ".join(p["name"] for p in f["parameters"])
             rows.append((index[f["name"]], f["name"], " ".join(f["types"]), f["source_layout"] or "C1", parameters,
-                         f["shape"][1:], f["flags"]["in_place"], reach(f) if kind == "window" else None,
-                         masks(f) if kind == "window" else None))
+                         f["shape"][1:], f["flags"]["in_place"]))
         entries.append(f"    {operation.name!r}: {rows!r},")
         own = [entry[0] for entry in own_parameters(operation) if entry != "*"]
         keywords = [entry[0] for entry in keyword_parameters(operation)]
@@ -500,8 +578,7 @@ def write_python(model, index, path):
     results = {o.name: o.results for o in model.operations.values() if o.native and len(o.results) > 1}
     own_rules = {o.name: o.rule for o in model.operations.values()}
     out = ['"""Made by python/generate.py: what there is."""', "FUNCTIONS = {",
-           *(f"    {name!r}: {number}," for name, number in index.items()), "}", "REACH = [",
-           *(f"    lambda v: ({formula})," for formula in reaches), "]", f"INTERPOLATIONS = {inter!r}",
+           *(f"    {name!r}: {number}," for name, number in index.items()), "}", f"INTERPOLATIONS = {inter!r}",
            f"RESULTS = {results!r}", "RULES = {", *(f"    {name!r}: {rule!r}," for name, rule in own_rules.items()), "}",
            "MEMBERS = {", *entries, "}", ""]
     (path / "_table.py").write_text("\n".join(out))

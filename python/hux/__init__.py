@@ -8,6 +8,7 @@ hux.c has every function of the library as C declares it.
 import builtins as _builtins
 import collections as _collections
 import functools as _functools
+import inspect as _inspect
 import os as _os
 import sys as _sys
 import warnings as _warnings
@@ -47,10 +48,12 @@ for _value, _name, _comment in _hux.statuses:
         _statuses[_value] = globals()[_plain]
 
 
-def _report(status, function, operation):
-    """Raises what an error's status says; warns, in the caller's name, where it is a warning."""
+def _report(status, function, operation, text=None):
+    """Raises what an error's status says, or what a text says that the module found itself; warns, in the caller's name,
+    where it is a warning."""
     own = _statuses[status]
-    report = own(f"{operation}: {own.__doc__ or own.__name__} ({function} returned {status})")
+    text = text or f"{own.__doc__ or own.__name__} ({function} returned {status})"
+    report = own(f"{operation}: {text}")
     report.function, report.operation = function, operation
     if status < 0:
         raise report
@@ -62,8 +65,16 @@ def _report(status, function, operation):
 
 _dtypes = (_np.uint8, _np.int8, _np.uint16, _np.int16, _np.uint32, _np.int32, _np.float32, _np.float64, complex_int16,
            complex_int32, _np.complex64, _np.complex128, _np.bool_, _np.float16)  # in the order of Type in table.h
+def _signature(operation):
+    """Of an operation, as its reference has it in the first line."""
+    own: dict = {}
+    exec(f"def {operation.__doc__.partition(chr(10))[0]}: pass", own)
+    return _inspect.signature(own[operation.__name__])
+
+
 _packed = _functools.partial(_np.array, order="C")
-_hux.setup(_np.empty, _np.zeros, _packed, _np.copyto, _np.dtype, (None, *map(_np.dtype, _dtypes)), _report)
+_hux.setup(_np.empty, _np.zeros, _packed, _np.asarray, _np.copyto, _np.shares_memory, _np.dtype,
+           (None, *map(_np.dtype, _dtypes)), _report, _signature)
 _front.errors.update((_e.__name__.removesuffix("Error"), _e) for _v, _e in _statuses.items() if _v < 0)
 
 for _own in _hux.operations:

@@ -1,11 +1,11 @@
-"""The operations that Python runs: windows, geometry, borders, tables, blocks, matching. Each frames, measures and lays
-out arrays, and calls one function of the library by _hux.call. What exists stands in _table, made from the registry."""
+"""The operations that Python runs: maps, borders, tables, blocks. Each measures and lays out arrays, and calls one function
+of the library by _hux.call. What exists stands in _table, made from the registry."""
 from typing import Any
 
 import numpy as np
 
 from . import _hux
-from ._table import FUNCTIONS, INTERPOLATIONS, MEMBERS, REACH, RULES
+from ._table import INTERPOLATIONS, MEMBERS, RULES
 
 complex_int16 = np.dtype([("re", np.int16), ("im", np.int16)])
 complex_int32 = np.dtype([("re", np.int32), ("im", np.int32)])
@@ -35,20 +35,19 @@ def fail(name, error, text):
 def reach(operation, *arguments, **options):
     """How far around a pixel a call with these arguments reads its source for a pixel of the result: (left, top, right,
     bottom), whatever the border; None where the result comes of other places than those around it."""
-    name = operation.__name__
-    if RULES[name]["kind"] == "window":
-        return implementations[name](*arguments, **options, _asked="reach")
-    return (0, 0, 0, 0) if RULES[name].get("local") else None
+    rule = RULES[operation.__name__]
+    if rule["kind"] == "window":
+        return operation.reach(*arguments, **options)
+    return (0, 0, 0, 0) if rule.get("local") else None
 
 
 class Member:
-    """A function: its place among all, types, layout, parameters with their letters, reach and masks of a window."""
-    __slots__ = ("index", "name", "types", "layout", "parameters", "letters", "in_place", "reach", "masks")
+    """A function: its place among all, types, layout, parameters with their letters."""
+    __slots__ = ("index", "name", "types", "layout", "parameters", "letters", "in_place")
 
-    def __init__(self, index, name, types, layout, parameters, letters, in_place, reach, masks):
-        self.index, self.name, self.layout, self.letters, self.masks = index, name, layout, letters, masks
+    def __init__(self, index, name, types, layout, parameters, letters, in_place):
+        self.index, self.name, self.layout, self.letters, self.in_place = index, name, layout, letters, in_place
         self.types, self.parameters = types.split(), parameters.split()
-        self.in_place, self.reach = in_place, REACH[reach] if reach is not None else None
 
     def call(self, operation, elements, values):
         _hux.call(self.index, operation, elements, tuple([values[name] for name in self.parameters]))
@@ -75,19 +74,9 @@ def array(name, a, written=False):
 
 
 class Image:
-    """A source: rows upwards, pixels one after another, or planes of one step."""
+    """A source: rows upwards, pixels one after another."""
 
-    def __init__(self, name, a, *, planes=False, channels=(1, 3, 4), moved=False):
-        self.planes = None
-        if planes and isinstance(a, (tuple, list)):
-            if len(a) not in (3, 4):
-                refuse(name, f"an image has 3 or 4 planes, not {len(a)}", TypeError)
-            own = [array(name, plane) for plane in a]
-            if any(p.ndim != 2 or p.shape != own[0].shape or p.dtype != own[0].dtype for p in own):
-                refuse(name, "planes are arrays of one shape (H, W) and one dtype")
-            if any(not _plain(p) or p.strides[0] != own[0].strides[0] for p in own):
-                own = [np.array(p, order="C") for p in own]
-            self.planes, a = tuple(own), own[0]
+    def __init__(self, name, a, *, channels=(1, 3, 4), moved=False):
         self.given = a = array(name, a)
         self.axes = a.ndim
         if a.ndim == 1:
@@ -102,7 +91,7 @@ class Image:
         self.code = CODES.get(a.dtype)
         if self.code is None:
             refuse(name, f"no function takes elements of {a.dtype}", TypeError)
-        self.channels = len(self.planes) if self.planes else a.shape[2] if a.ndim == 3 else 1
+        self.channels = a.shape[2] if a.ndim == 3 else 1
         if self.channels not in channels:
             refuse(name, f"the last axis has {', '.join(map(str, channels))} channels, not {self.channels}", TypeError)
         if max(a.shape[:2]) >= 2**31 or a.shape[1] * self.channels * a.itemsize >= 2**31:
@@ -111,11 +100,7 @@ class Image:
             fail(name, "BadSize", "an empty array")
         self.a = a if _plain(a) else np.array(a, order="C")
         self.height, self.width = a.shape[:2]
-        self.layout = f"P{self.channels}" if self.planes else f"C{self.channels}"
-
-    @property
-    def pointer(self):
-        return self.planes or self.a
+        self.layout = f"C{self.channels}"
 
     @property
     def step(self):
@@ -123,12 +108,7 @@ class Image:
 
     def apart(self, out):
         """A copy stands for the image where it shares bytes with out."""
-        outs = out if isinstance(out, tuple) else (out,)
-        if self.planes:
-            if any(np.may_share_memory(p, o) for p in self.planes for o in outs):
-                self.planes = tuple(np.array(p, order="C") for p in self.planes)
-                self.a = self.planes[0]
-        elif any(np.may_share_memory(self.a, o) for o in outs):
+        if np.may_share_memory(self.a, out):
             self.a = np.array(self.a, order="C")
 
 
@@ -148,27 +128,20 @@ def _plain(a):
         a.shape[0] <= 1 or size * a.shape[1] <= a.strides[0] < 2**31 and a.strides[0] % a.itemsize == 0)
 
 
-def choose(name, image, alpha, dtype, own=lambda member: True):
-    """The member for an image: by type and layout, and by the type of the result where there are several."""
+def choose(name, image, alpha):
+    """The members for an image: by type and layout."""
     if alpha not in (None, "keep"):
         refuse(name, f'alpha is "keep" or None, not {alpha!r}')
     if alpha and image.channels != 4:
         refuse(name, 'alpha="keep" is for four channels', TypeError)
-    layout = "AC4" if alpha and not image.planes else image.layout
-    found = [m for m in members[name] if m.types[0] == image.code and m.layout == layout and own(m)]
-    if dtype is not None:
-        code = CODES.get(np.dtype(dtype))
-        found = [m for m in found if m.types[-1] == code]
-    elif len(found) > 1:
-        found = [m for m in found if m.types[-1] == image.code] or found
+    layout = "AC4" if alpha else image.layout
+    found = [m for m in members[name] if m.types[0] == image.code and m.layout == layout]
     if not found:
         there = dict.fromkeys(
             f"{CODE_NAMES.get(m.types[0], m.types[0])}"
             f"{' to ' + CODE_NAMES.get(m.types[-1], m.types[-1]) if m.types[-1] != m.types[0] else ''} with "
-            f"{m.layout[1:] if m.layout[0] == 'C' else m.layout}".replace("AC4", '4 channels and alpha="keep"').replace(
-                "P3", "3 planes").replace("P4", "4 planes") for m in members[name])
+            f"{m.layout[1:] if m.layout[0] == 'C' else '4 channels and alpha=keep'}" for m in members[name])
         refuse(name, f"no function for {image.dtype} with {image.channels} channel{'s' * (image.channels > 1)}"
-               f"{f' to {np.dtype(dtype)}' if dtype is not None else ''}"
                f"{' and alpha=' + repr(alpha) if alpha else ''}; there are: {'; '.join(there)}", TypeError)
     return found
 
@@ -180,42 +153,23 @@ CODE_NAMES = {code: str(dtype) if dtype.names is None else f"complex_int{dtype.i
 class Out:
     """The destination: out itself where its rows and pixels lie plainly, else an array that is copied there in the end."""
 
-    def __init__(self, name, out, image, shape, dtype, channels, *, keep=None, zero=False, planes=0):
+    def __init__(self, name, out, image, shape, dtype, channels, *, keep=None, zero=False):
         height, width = shape
         axes = (height, width, channels) if channels > 1 or image.axes == 3 and image.channels == channels == 1 else shape
         if image.axes == 1 and height == channels == 1 and (out is None or getattr(out, "ndim", 2) == 1):
             axes = (width,)
-        self.targets = ()
+        self.target = None
         if out is None:
             zero = zero or keep is not None
-            if planes:
-                self.result = self.pointer = tuple(np.zeros(shape, dtype) for _ in range(planes))
-                self.a = self.pointer[0]
-                return
             self.result = np.zeros(axes, dtype) if zero else np.empty(axes, dtype)
-            self.pointer = self.a = self.result[None] if len(axes) == 1 else self.result
+            self.a = self.result[None] if len(axes) == 1 else self.result
             assert self.a.size == height * width * channels
             if keep is not None and keep.dtype == self.a.dtype and keep.shape == self.a.shape:
                 self.a[..., 3] = keep[..., 3]
             return
         self.result = out
-        if planes:
-            own = [array(name, o, True) for o in out] if isinstance(out, (tuple, list)) else None
-            if own is None or len(own) != planes:
-                refuse(name, f"out has {planes} planes, as the source", TypeError)
-            if any(a is not b and np.may_share_memory(a, b) for i, a in enumerate(own) for b in own[:i]) or \
-                    len({id(a) for a in own}) < planes:
-                refuse(name, "planes of out share memory")
-            for a in own:
-                self.check(name, a, shape, dtype)
-            if any(not _plain(a) or a.strides[0] != own[0].strides[0] for a in own):
-                self.targets = tuple(own)
-                own = [np.array(a, order="C") for a in own]
-            self.pointer, self.a = tuple(own), own[0]
-            return
         a = array(name, out, True)
         self.check(name, a, axes, dtype)
-        self.original = a
         if len(axes) == 1:
             a = a[None]
         if not _plain(a):
@@ -226,9 +180,9 @@ class Out:
             if not packed or across not in ((3 * size, 4 * size, size) if count == 1 else (4 * size, count * size)) or \
                     a.shape[1] > 1 and a.strides[1] < 0 or a.shape[0] > 1 and abs(a.strides[0]) < row:
                 refuse(name, "out must have its pixels one after another, and rows that do not overlap")
-            self.targets, a = (a,), np.array(a, order="C")
+            self.target, a = a, np.array(a, order="C")
         assert a.size == height * width * channels
-        self.pointer = self.a = a
+        self.a = a
 
     @staticmethod
     def check(name, a, axes, dtype):
@@ -242,8 +196,8 @@ class Out:
         return step_of(self.a)
 
     def done(self):
-        for target, own in zip(self.targets, self.pointer if isinstance(self.pointer, tuple) else (self.pointer,)):
-            np.copyto(target, own)
+        if self.target is not None:
+            np.copyto(self.target, self.a)
         return self.result
 
 
@@ -275,18 +229,6 @@ def rows_columns(name, shape):
     if len(sides) not in (2, 3) or any(not 0 < v < 2**31 for v in sides):
         refuse(name, f"shape is (H, W), not {shape!r}")
     return sides[:2]
-
-
-def mask_of(name, value):
-    """(w, h), w for both, or "3x5": width and height."""
-    if isinstance(value, str):
-        parts = value.split("x")
-        if len(parts) == 2 and all(p.isdecimal() for p in parts):
-            return int(parts[0]), int(parts[1])
-        refuse(name, f'mask_size is a pair (width, height) or "3x3", not {value!r}')
-    if hasattr(value, "__index__"):
-        return int(value.__index__()), int(value.__index__())
-    return pair(name, "mask_size", value)
 
 
 def constants(name, value, dtype, count):
@@ -346,101 +288,6 @@ def framed(name, a, reach, border, value=0):
     return whole, whole[top:, left:]
 
 
-# ---- Windows ---------------------------------------------------------------------------------------------------------
-
-
-def window(name, asked, sources, own, options):
-    image = Image(name, sources[0])
-    v, kernel = {}, None
-
-    if "kernel" in own:
-        kernel = np.asarray(own["kernel"])
-        flat = name != "filter"
-        if kernel.ndim != (1 if flat else 2) or not kernel.size or kernel.dtype.kind not in "iuf":
-            refuse(name, f"kernel is an array of {'one axis' if flat else 'two axes'} of numbers", TypeError)
-        whole = kernel.dtype.kind != "f" and image.code != "32f"
-        if not whole and own["divisor"] is not None:
-            refuse(name, "a divisor goes with integer kernels and images", TypeError)
-        found = choose(name, image, options.get("alpha"), None, lambda m: ("divisor" in m.parameters) == whole)
-        kernel = integers(name, "taps", kernel) if whole else np.ascontiguousarray(kernel, np.float32)
-        v["pKernel"], v["kernelSize"] = kernel, kernel.size if flat else kernel.shape[::-1]
-        v["divisor"] = 1 if own["divisor"] is None else own["divisor"]
-    else:
-        found = choose(name, image, options.get("alpha"), options.get("dtype"))
-    member = found[0]
-    if asked == "which":
-        return member.name
-    types = dict(zip(member.parameters, member.letters))
-    fixed = member.masks is not None
-    if fixed:
-        size = mask_of(name, own["mask_size"])
-        if size[0] * 10 + size[1] not in member.masks or max(size) > 9:
-            words = ", ".join(f'"{m // 10}x{m % 10}"' for m in member.masks)
-            refuse(name, f"mask_size is one of {words}, not {own['mask_size']!r}", errors["BadMaskSize"])
-        v["mask"] = size[0] * 10 + size[1]
-        reach = size[0] // 2, size[1] // 2, size[0] // 2, size[1] // 2
-    else:
-        if "mask_size" in own and "maskSize" in types:
-            size = mask_of(name, own["mask_size"]) if types["maskSize"] == "S" else (int(own["mask_size"]),) * 2
-            v["maskSize"] = size if types["maskSize"] == "S" else size[0]
-        elif "mask_size" in own:  # of a member that has one mask only
-            if mask_of(name, own["mask_size"]) != (3, 3):
-                refuse(name, f"{member.name} has the mask_size \"3x3\" only", errors["BadMaskSize"])
-            size = (3, 3)
-        if "footprint" in own:
-            footprint = np.asarray(own["footprint"])
-            if footprint.ndim != 2 or footprint.dtype.kind not in "biu" or not footprint.size:
-                refuse(name, "footprint is an array of two axes, 0 where a pixel does not count", TypeError)
-            v["pMask"] = np.ascontiguousarray(footprint != 0, np.uint8)
-            size = v["maskSize"] = footprint.shape[::-1]
-        if kernel is not None:
-            size = v["kernelSize"] if kernel.ndim == 2 else (kernel.size,) * 2
-        for anchor in ("anchor", "xAnchor", "yAnchor"):
-            if anchor not in types:
-                continue
-            if min(size) < 1:
-                fail(name, "BadMaskSize", f"mask_size {size}")
-            given = own[{"anchor": "anchor", "xAnchor": "x_anchor", "yAnchor": "y_anchor"}[anchor]]
-            if types[anchor] == "P":
-                x, y = (size[0] // 2, size[1] // 2) if given is None else pair(name, "anchor", given)
-                v[anchor] = x, y
-            else:
-                x = y = v[anchor] = size[0] // 2 if given is None else int(given)
-            if not (0 <= x < size[0] and 0 <= y < size[1]):
-                fail(name, "BadAnchor", f"the anchor {v[anchor]} lies outside of the window")
-        reach = member.reach(v)
-    if asked == "reach":
-        return reach
-    left, top, right, bottom = reach
-    if max(reach) > 2**30 or (image.width + left + right) * 16 > 2**31 or image.height + top + bottom > 2**31 - 1:
-        fail(name, "BadMaskSize", "the window is too large")
-    if options["border"] is None:
-        shape = image.height - top - bottom, image.width - left - right
-        if min(shape) < 1:
-            fail(name, "BadSize", "the image is smaller than the window")
-        keep = image.a[top:top + shape[0], left:left + shape[1]]
-    else:
-        shape, keep = (image.height, image.width), image.a
-    out = Out(name, options.get("out"), image, shape, DTYPES[member.types[-1]], image.channels,
-              keep=keep if member.layout == "AC4" else None)
-    if options["border"] is None:
-        if options.get("out") is not None:
-            image.apart(out.a)
-        whole, source = image.a, image.a[top:, left:]
-    else:
-        whole, source = framed(name, image.a, reach, options["border"], options["border_value"])
-    v.update(pSrc=source, srcStep=step_of(whole), pDst=out.pointer, dstStep=out.step)
-    v["roiSize"] = v["dstRoiSize"] = shape[::-1]
-    if "noise" in types:
-        v["noise"] = constants(name, own["noise"], np.dtype(np.float32), PROCESSED[member.layout]).copy()
-        size = np.zeros(1, np.int32)
-        _hux.call(FUNCTIONS["huxiFilterWienerGetBufferSize"], name, 0,
-                  (v["roiSize"], v["maskSize"], PROCESSED[member.layout], size))
-        v["pBuffer"] = np.empty(int(size[0]), np.uint8)
-    member.call(name, source.size, v)
-    return out.done()
-
-
 # ---- Geometry --------------------------------------------------------------------------------------------------------
 
 MATRICES = {"affine": (2, 3), "bilinear": (2, 4), "perspective": (3, 3)}
@@ -452,98 +299,6 @@ def interpolation(name, word, smooth=False):
                ValueError if isinstance(word, str) else TypeError)
     value = INTERPOLATIONS[word]
     return value - 2**31 if smooth else value
-
-
-def scaled(length, factor):
-    """Columns or rows that a length becomes."""
-    exact = length * factor
-    return int(min(exact + 1e-7, 2.0**31 - 1)) if exact >= 1 else 1 if exact >= 0.5 else 0
-
-
-def geometry(name, asked, sources, own, options):
-    yuv = name == "resize_yuv422"
-    image = Image(name, sources[0], planes=not yuv, channels=(2,) if yuv else (1, 3, 4))
-    member = choose(name, image, options.get("alpha"), None)[0]
-    if asked:
-        return member.name
-    roi = options.get("roi")
-    roi = (0, 0, image.width, image.height) if roi is None else rectangle(name, "roi", roi)
-    v = {"srcSize": (image.width, image.height), "srcRoi": roi,
-         "interpolation": interpolation(name, options["inter"], options.get("smooth_edge"))}
-    shape, given = options.get("shape"), options.get("out")
-    first = given[0] if isinstance(given, (tuple, list)) and given else given
-    if shape is not None:
-        shape = rows_columns(name, shape)
-    elif given is not None:
-        shape = array(name, first).shape
-        if not 1 <= len(shape) <= 3:
-            refuse(name, "out is an image")
-        shape = shape[:2] if len(shape) > 1 else (1, *shape)
-    width = max(min(roi[2], image.width - roi[0]), 1)
-    height = max(min(roi[3], image.height - roi[1]), 1)
-    maps = []
-    for key, value in own.items():
-        if key in ("x_map", "y_map"):
-            own_map = array(name, value)
-            if own_map.ndim != 2 or own_map.dtype != np.float32 or not own_map.size:
-                refuse(name, "maps are arrays (H, W) of float32", TypeError)
-            maps.append(own_map if _plain(own_map) else np.array(own_map, order="C"))
-    if maps:
-        if maps[0].shape != maps[1].shape or shape is not None and tuple(shape) != maps[0].shape:
-            refuse(name, "maps and out must have one shape (H, W)")
-        shape = maps[0].shape
-        v.update(pxMap=maps[0], pyMap=maps[1], xMapStep=step_of(maps[0]), yMapStep=step_of(maps[1]))
-    if "size" in own:
-        if own["size"] is not None:
-            size = pair(name, "size", own["size"])
-            if min(size) < 1:
-                fail(name, "BadSize", f"size {size}")
-            if shape is not None and tuple(shape) != size[::-1]:
-                refuse(name, "size= and shape= or out= differ")
-            shape = size[::-1]
-        own = {"x_factor": own["x_factor"], "y_factor": own["y_factor"]}
-        if shape is None and None in own.values():
-            refuse(name, "needs a size, both factors, shape= or out=", TypeError)
-        if own["x_factor"] is None:
-            own["x_factor"] = shape[1] / width
-        if own["y_factor"] is None:
-            own["y_factor"] = shape[0] / height
-    for key, value in own.items():
-        c_name = "".join(part.title() if i else part for i, part in enumerate(key.split("_")))
-        if key == "coeffs":
-            v["coeffs"] = floats(name, key, value, MATRICES[name.split("_")[1]])
-        elif key in ("src_quad", "dst_quad"):
-            v[c_name] = floats(name, key, value, (4, 2))
-        elif key not in ("x_map", "y_map"):
-            v[c_name] = float(value)
-    if shape is None:
-        shape = image.height, image.width
-        if "xFactor" in v or "xFr" in v:
-            factors = [v["xFactor"], v["yFactor"]] if "xFactor" in v else [v["xFr"] and 1 / v["xFr"], v["yFr"] and 1 / v["yFr"]]
-            good = [f if f > 0 and f < 2**31 else 0 for f in factors]
-            shape = max(scaled(height, good[1]), 1), max(scaled(width, good[0]), 1)
-    if min(shape) < 1:
-        fail(name, "BadSize", f"shape {tuple(shape)}")
-    if shape[0] * shape[1] * image.channels >= 2**40:
-        refuse(name, "the result is too large")
-    out = Out(name, given, image, tuple(shape), image.dtype, image.channels, zero=True,
-              planes=len(image.planes or ()), keep=image.a if member.layout == "AC4" else None)
-    if given is not None:
-        image.apart(out.pointer)
-    roi = options.get("dst_roi")
-    roi = (0, 0, shape[1], shape[0]) if roi is None else rectangle(name, "dst_roi", roi)
-    if min(roi[:2]) < 0 or roi[0] + roi[2] > shape[1] or roi[1] + roi[3] > shape[0]:
-        refuse(name, f"dst_roi {roi} lies outside of the result")
-    v.update(pSrc=image.pointer, srcStep=image.step, pDst=out.pointer, dstStep=out.step, dstRoi=roi,
-             dstRoiSize=shape[::-1])
-    if "pBuffer" in member.parameters:
-        size = np.zeros(1, np.int32)
-        elements = 1 if image.planes else image.channels
-        _hux.call(FUNCTIONS["huxiResizeSqrPixelGetBufSize"], name, 0,
-                  (roi[2:], elements, v["interpolation"], size))
-        v["pBuffer"] = np.empty(max(int(size[0]), 1), np.uint8)
-    member.call(name, max(out.a.size, image.a.size), v)
-    return out.done()
 
 
 def map_(name, asked, sources, own, options):
@@ -603,7 +358,7 @@ def border(name, asked, sources, own, options):
         left + image.width <= whole.shape[1] and image.a is image.given and whole.strides == image.given.strides and \
         _address(whole[top:, left:]) == _address(image.a) and _plain(whole) and whole.flags.writeable
     inside = inside and whole.shape[2:] == image.given.shape[2:] and whole.dtype == image.given.dtype
-    found = choose(name, image, options.get("alpha"), None)
+    found = choose(name, image, options.get("alpha"))
     member = next((m for m in found if m.in_place == inside), next(m for m in found if not m.in_place))
     if asked:
         return member.name
@@ -642,7 +397,7 @@ def _lists(name, what, value, channels, make):
 
 def levels(name, asked, sources, own, options):
     image = Image(name, sources[0])
-    found = choose(name, image, options.get("alpha"), None)
+    found = choose(name, image, options.get("alpha"))
     given = options.get("out")
     same = isinstance(given, np.ndarray) and _same(given, image.given) and _shares(image.a, given)
     member = next((m for m in found if m.in_place == same), found[0])
@@ -801,70 +556,3 @@ def blocks(name, asked, sources, own, options):
     if not direct:
         out[...] = result.reshape(out.shape)
     return given
-
-
-# ---- Convolution and matching ----------------------------------------------------------------------------------------
-
-
-def _two(name, sources):
-    a, b = (Image(name, s) for s in sources)
-    if a.dtype != b.dtype:
-        refuse(name, f"the sources have {a.dtype} and {b.dtype}; there is no promotion", TypeError)
-    if a.channels != b.channels:
-        refuse(name, "the sources differ in channels")
-    return a, b
-
-
-def convolution(name, asked, sources, own, options):
-    a, b = _two(name, sources)
-    member = choose(name, a, options.get("alpha"), None)[0]
-    if asked:
-        return member.name
-    if name == "conv_full":
-        shape = a.height + b.height - 1, a.width + b.width - 1
-    else:
-        big, small = (b, a) if a.width < b.width or a.height < b.height else (a, b)
-        shape = big.height - small.height + 1, big.width - small.width + 1
-        if min(shape) < 1:
-            fail(name, "BadSize", "neither image lies within the other")
-    v = {}
-    if "divisor" in member.parameters:
-        v["divisor"] = 1 if own["divisor"] is None else own["divisor"]
-    elif own["divisor"] is not None:
-        refuse(name, "a divisor goes with integer images", TypeError)
-    out = Out(name, options.get("out"), a, shape, a.dtype, a.channels, keep=a.a if member.layout == "AC4" else None)
-    a.apart(out.a)
-    b.apart(out.a)
-    member.call(name, out.a.size * 16, v | {
-        "pSrc1": a.a, "src1Step": a.step, "src1Size": (a.width, a.height), "pSrc2": b.a, "src2Step": b.step,
-        "src2Size": (b.width, b.height), "pDst": out.a, "dstStep": out.step})
-    return out.done()
-
-
-def match(name, asked, sources, own, options):
-    a, b = _two(name, sources)
-    given = options.get("out")
-    dtype = options.get("dtype")
-    if dtype is None and given is not None:
-        dtype = array(name, given).dtype
-    member = choose(name, a, options.get("alpha"), dtype)[0]
-    if asked:
-        return member.name
-    extent = name.split("_")[2]
-    more = {"full": 1, "same": 0, "valid": -1}[extent]
-    shape = a.height + more * (b.height - 1), a.width + more * (b.width - 1)
-    if b.width > a.width or b.height > a.height:
-        fail(name, "BadSize", "the template is larger than the image")
-    v = {}
-    if "scaleFactor" in member.parameters:
-        v["scaleFactor"] = int(integers(name, "shift", options["shift"]))
-    elif options["shift"]:
-        refuse(name, f"no shift for {DTYPES[member.types[-1]]}", TypeError)
-    dtype = DTYPES[member.types[-1]]
-    out = Out(name, given, a, shape, dtype, a.channels, keep=a.a if member.layout == "AC4" else None)
-    a.apart(out.a)
-    b.apart(out.a)
-    member.call(name, out.a.size * 16, v | {
-        "pSrc": a.a, "srcStep": a.step, "srcRoiSize": (a.width, a.height), "pTpl": b.a, "tplStep": b.step,
-        "tplRoiSize": (b.width, b.height), "pDst": out.a, "dstStep": out.step})
-    return out.done()

@@ -1,7 +1,7 @@
 // The operations of the Python module as data: what python/generate.py makes of the registry.
 #pragma once
 
-#include "../tools/hux/table.h"
+#include "../../tools/hux/table.h"
 
 namespace hux::python {
 
@@ -40,16 +40,32 @@ struct Values {  // of a parameter or a result: none where the function has it n
   unsigned char count;
   bool byAddress;
 };
-constexpr int kOwn = 5, kResults = 3;
+constexpr int kOwn = 10, kResults = 3;
+
+// How far a window looks beyond a pixel: each side is a sum of a number, the mask's side, and the anchor's place along
+// it, each so many times.
+struct Side {
+  signed char number, ofSize, ofAnchor;
+  constexpr int operator()(int size, int anchor) const { return number + ofSize * size + ofAnchor * anchor; }
+};
+struct Reach {
+  Side left, top, right, bottom;
+};
 
 struct Member {
   unsigned key;  // see keyOf
   int function;  // in kFunctions
   // A letter for each parameter: a, b, o the first and second source and the destination, m the mask, A, B, O, M their
   // steps, J the step of both sources, S the size, n the length, s the scale factor, 0 to 4 the operation's own
-  // parameters, x, y, z the results.
+  // parameters, x, y, z the results. Of windows: K the taps or the footprint, W and w the mask's size as two and as
+  // one, P and p the anchor, f the mask by its number, d the divisor. Of geometry: Z the size of the image around the
+  // source, R and D the regions of both, X, Y, h, v the maps and their steps. T the size of a second source that has
+  // its own, u work memory.
   const char* program;
   Values own[kOwn], results[kResults];
+  Reach reach;         // of a window
+  const short* masks;  // of a fixed mask, by their numbers, 0 behind; null where the mask is free
+  bool local;          // of a window: what becomes of a pixel depends on the pixels around it alone
 };
 
 // What tells the members of an operation from each other. The form is 1 where a constant stands for an image.
@@ -60,13 +76,36 @@ constexpr unsigned keyOf(Type source, Type destination, int sourceLayout, int de
          inPlace * 2u + masked;
 }
 
-enum class Kind : unsigned char { constant, enumeration, order, seed, dtype };
+enum class Kind : unsigned char {
+  constant,
+  enumeration,
+  order,
+  seed,
+  dtype,
+  maskSize,
+  footprint,
+  kernel,
+  anchor,
+  divisor,
+  border,
+  borderValue,
+  size,    // of a result
+  factor,  // to it, where it is not told
+  matrix,
+  quad,
+  map,
+  flag,
+  region,
+};
+
+// What decides about the shape of a result.
+enum class Family : unsigned char { pixels, measure, window, geometry, convolution, match, other };
 
 struct Parameter {
   const char* name;
   Kind kind;
   int words;             // of an enumeration, in kWords
-  const char* fallback;  // the word where none is given
+  const char* fallback;  // the word where none is given; of a constant, that it is 0 then
   bool keyword;          // by keyword only
 };
 
@@ -78,14 +117,17 @@ struct Word {
 struct Operation {
   const char* name;
   const char* doc;
-  bool native;         // run by this module; others by what the package gives
-  int first, count;    // in kMembers of a native one, sorted by key; else in kFunctionLists
+  Family family;       // other: run by what the package gives, not by this module
+  int extent;          // of matching and convolution: 1 full, 0 same, -1 valid
+  int first, count;    // in kMembers, sorted by key; of others in kFunctionLists
   int sources;         // images
   bool takesConstant;  // a constant may stand for the second image
   bool commutative, inPlaceSecond, moves, transposes, scaled, masked, planes, needsType;
   int firstParameter, parameters;  // in kParameters
   unsigned formMask;               // of the parameters that only functions of form 1 have
   const char* results;             // their names, with blanks between
+
+  constexpr bool native() const { return family != Family::other; }
 };
 
 struct Status {

@@ -1,0 +1,58 @@
+// What the files of the extension module share: the limited API, what the package gave, and what an operation is.
+#pragma once
+
+#define PY_SSIZE_T_CLEAN
+#define Py_LIMITED_API 0x030B0000
+#include <Python.h>
+
+#include "table.h"
+
+// Calls by vector entered the limited API with 3.12, as they stand in 3.11, whose headers leave them out.
+#ifndef Py_TPFLAGS_HAVE_VECTORCALL
+#define Py_TPFLAGS_HAVE_VECTORCALL (1UL << 11)
+#endif
+extern "C" PyObject* PyVectorcall_Call(PyObject*, PyObject*, PyObject*);
+extern "C" PyObject* PyObject_Vectorcall(PyObject*, PyObject* const*, size_t, PyObject*);
+
+namespace hux::python {
+
+using tool::Value;
+using VectorCall = PyObject* (*)(PyObject*, PyObject* const*, size_t, PyObject*);
+constexpr size_t kArgumentsOffset = size_t(1) << (8 * sizeof(size_t) - 1);
+constexpr Py_ssize_t kKeepLock = 16000;  // elements from which other threads may run meanwhile
+
+// What the package gives (see setup): numpy's empty, zeros, a packed copy, asarray, copyto, shares_memory, dtype, the
+// dtypes by Type, what raises or warns of a status, and what makes the signature of an operation.
+extern PyObject *gEmpty, *gZeros, *gPacked, *gArray, *gCopy, *gShares, *gDtype, *gDtypes, *gReport, *gSignature;
+enum Keyword { kOut, kShift, kAlpha, kDtype, kShape, kMask, kKeywords };
+constexpr const char* kKeywordNames[kKeywords] = {"out", "shift", "alpha", "dtype", "shape", "mask"};
+extern PyObject* gKeywords[kKeywords];
+extern bool* gCalled;  // by function: whether it has been
+
+struct Callable {
+  PyObject ob_base;  // PyObject_HEAD
+  VectorCall call;
+  const Operation* operation;
+  PyObject *implementation, *which;  // of an operation that is not native
+  PyObject* names[kOwn];             // of its parameters
+  PyObject* results;                 // what several results are put in
+  // The type of the members that take a type, and the one they usually give; the layout that a layout becomes.
+  unsigned char sourceType[kTypes], destinationType[kTypes], destinationLayout[kLayouts];
+};
+
+// What a member's key is made of.
+struct Key {
+  Type source, destination;
+  int sourceLayout, destinationLayout;
+  bool form, inPlace, masked;
+};
+constexpr Key parts(unsigned key) {
+  return {Type(key >> 15 & 15), Type(key >> 11 & 15), int(key >> 7 & 15), int(key >> 3 & 15),
+          bool(key >> 2 & 1),   bool(key >> 1 & 1),   bool(key & 1)};
+}
+
+// The functions of the module that raw.cpp and window.cpp have.
+PyObject* callRaw(PyObject*, PyObject* const* given, Py_ssize_t count);
+PyObject* frame(PyObject*, PyObject* arguments);
+
+}  // namespace hux::python
