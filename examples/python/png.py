@@ -24,24 +24,23 @@ def read(path):
     if depth != 8 or colour not in (0, 2) or interlaced:
         raise ValueError(f"{path}: gray or RGB, 8 bits, not interlaced")
     pixel = 3 if colour else 1
-    rows = np.frombuffer(zlib.decompress(body), np.uint8).reshape(height, 1 + width * pixel)
-    picture = np.zeros((height + 1, width + 1, pixel), np.int32)  # with a row above and a column to the left
-    for y, (kind, line) in enumerate(zip(rows[:, 0], rows[:, 1:].reshape(height, width, pixel).astype(np.int32)), 1):
-        above = picture[y - 1]
-        if kind == 0 or kind == 2:
-            picture[y, 1:] = line + (above[1:] if kind else 0)
-        elif kind == 1:
-            picture[y, 1:] = np.cumsum(line, 0)
-        else:
-            for x in range(1, width + 1):
-                left, up, corner = picture[y, x - 1] & 255, above[x], above[x - 1]
-                guess = (left + up) >> 1
+    rows, row = zlib.decompress(body), width * pixel
+    picture, above = bytearray(), bytes(row + pixel)  # rows have a pixel of 0 to the left
+    for start in range(0, len(rows), 1 + row):
+        kind, line = rows[start], bytearray(pixel) + rows[start + 1:start + 1 + row]
+        if kind == 2:
+            line[pixel:] = (np.frombuffer(line, np.uint8) + np.frombuffer(above, np.uint8)).tobytes()[pixel:]
+        elif kind:
+            for x in range(pixel, row + pixel):
+                left, up, corner = line[x - pixel], above[x], above[x - pixel]
+                guess = left if kind == 1 else (left + up) >> 1
                 if kind == 4:
                     a, b, c = abs(up - corner), abs(left - corner), abs(left + up - 2 * corner)
-                    guess = np.where((a <= b) & (a <= c), left, np.where(b <= c, up, corner))
-                picture[y, x] = line[x - 1] + guess
-        picture[y] &= 255
-    picture = picture[1:, 1:].astype(np.uint8)
+                    guess = left if a <= b and a <= c else up if b <= c else corner
+                line[x] = (line[x] + guess) & 255
+        picture += line[pixel:]
+        above = line
+    picture = np.frombuffer(picture, np.uint8).reshape(height, width, pixel)
     return picture if colour else picture[..., 0]
 
 
