@@ -72,9 +72,11 @@ def _signature(operation):
     return _inspect.signature(own[operation.__name__])
 
 
+_probe = _np.zeros((2, 3), _np.int16)[:, ::2]
+_probe.flags.writeable = False
 _packed = _functools.partial(_np.array, order="C")
 _hux.setup(_np.empty, _np.zeros, _packed, _np.asarray, _np.copyto, _np.shares_memory, _np.dtype,
-           (None, *map(_np.dtype, _dtypes)), _report, _signature)
+           (None, *map(_np.dtype, _dtypes)), _report, _signature, _probe, _probe.__array_interface__["data"][0])
 _front.errors.update((_e.__name__.removesuffix("Error"), _e) for _v, _e in _statuses.items() if _v < 0)
 
 for _own in _hux.operations:

@@ -28,7 +28,8 @@ Type typeOf(const char* format, Py_ssize_t size);
 
 // An array, and what is to be let go with it.
 struct View {
-  Py_buffer buffer;
+  Py_buffer buffer;                      // where it is held
+  char* start = nullptr;                 // of the first element
   PyObject* object = nullptr;            // the array
   PyObject* own = nullptr;               // a packed copy of it, which stands for it
   bool held = false, rowsApart = false;  // rows otherwise than upwards and disjoint
@@ -49,7 +50,7 @@ struct View {
     if (held) PyBuffer_Release(&buffer);
     held = false;
   }
-  char* data() const { return static_cast<char*>(buffer.buf) + moved; }
+  char* data() const { return start + moved; }
   PyObject* array() const { return own ? own : object; }
 
   bool take(PyObject* given, bool written, const char* operation) {
@@ -58,28 +59,31 @@ struct View {
   }
 
   bool read(PyObject* from, bool written, const char* operation) {
-    if (PyObject_GetBuffer(from, &buffer, written ? PyBUF_RECORDS : PyBUF_RECORDS_RO) < 0) {
-      if (PyErr_ExceptionMatches(PyExc_TypeError))
-        PyErr_Format(PyExc_TypeError, "%s: an array is expected, not %R", operation, from);
-      else if (PyErr_ExceptionMatches(PyExc_BufferError))
-        PyErr_Format(PyExc_ValueError, "%s: %R is read-only", operation, from);
-      return false;
+    const Py_ssize_t *shape, *strides;
+    type = Type::none;
+    if (Py_TYPE(from) == gArrayType) {
+      const NumpyArray& array = *reinterpret_cast<NumpyArray*>(from);
+      for (int t = 1; t < kTypes && type == Type::none; ++t)
+        if (array.dtype == dtypeOf(Type(t))) type = Type(t);
+      if (written && !(array.flags & kWriteable)) type = Type::none;  // which the buffer then says
+      start = array.data;
+      axes = array.axes;
+      shape = array.shape;
+      strides = array.strides;
     }
-    held = true;
-    const Py_ssize_t size = buffer.itemsize;
-    type = typeOf(buffer.format, size);
-    if (type == Type::none || kTypeSizes[int(type)] != size) {
-      PyErr_Format(PyExc_TypeError, "%s: no function takes elements of format '%s'", operation,
-                   buffer.format ? buffer.format : "B");
-      return false;
+    if (type == Type::none) {
+      if (!readBuffer(from, written, operation)) return false;
+      start = static_cast<char*>(buffer.buf);
+      axes = buffer.ndim;
+      shape = buffer.shape;
+      strides = buffer.strides;
     }
-    axes = buffer.ndim;
+    const Py_ssize_t size = kTypeSizes[int(type)];
     if (axes < 1 || axes > 3) {
       PyErr_Format(PyExc_TypeError, "%s: an image has the shape (H, W) or (H, W, C), a vector (N,); not %d axes",
                    operation, axes);
       return false;
     }
-    const Py_ssize_t *shape = buffer.shape, *strides = buffer.strides;
     height = axes == 1 ? 1 : shape[0];
     width = axes == 1 ? shape[0] : shape[1];
     if (axes == 3 && (shape[2] < 1 || shape[2] > 4)) {
@@ -117,6 +121,22 @@ struct View {
     return rest ? kNoLayout : apart == 3 ? kOneOf3 : apart == 4 ? kOneOf4 : kNoLayout;
   }
 
+  bool readBuffer(PyObject* from, bool written, const char* operation) {
+    if (PyObject_GetBuffer(from, &buffer, written ? PyBUF_RECORDS : PyBUF_RECORDS_RO) < 0) {
+      if (PyErr_ExceptionMatches(PyExc_TypeError))
+        PyErr_Format(PyExc_TypeError, "%s: an array is expected, not %R", operation, from);
+      else if (PyErr_ExceptionMatches(PyExc_BufferError))
+        PyErr_Format(PyExc_ValueError, "%s: %R is read-only", operation, from);
+      return false;
+    }
+    held = true;
+    type = typeOf(buffer.format, buffer.itemsize);
+    if (type != Type::none && kTypeSizes[int(type)] == buffer.itemsize) return true;
+    PyErr_Format(PyExc_TypeError, "%s: no function takes elements of format '%s'", operation,
+                 buffer.format ? buffer.format : "B");
+    return false;
+  }
+
   // Of three channels at a distance of four: whether there is a fourth, also behind the last pixel.
   bool hasFourth(PyObject* from) const {
     PyObject* base = PyObject_GetAttrString(from, "base");
@@ -129,7 +149,7 @@ struct View {
         const Py_ssize_t reach = whole.shape[i] > 1 ? (whole.shape[i] - 1) * whole.strides[i] : 0;
         (reach < 0 ? before : end) += reach;
       }
-      has = data() + low >= first + before && data() + high + buffer.itemsize <= first + end;
+      has = data() + low >= first + before && data() + high + kTypeSizes[int(type)] <= first + end;
       PyBuffer_Release(&whole);
     }
     PyErr_Clear();
@@ -140,8 +160,13 @@ struct View {
   // A new array of a kind, whose elements lie without gaps. It is not asked what it is, which takes long.
   bool takeNew(PyObject* given, Type ofType, Layout ofLayout, Py_ssize_t rows, Py_ssize_t columns, int count) {
     object = Py_NewRef(given);
-    if (PyObject_GetBuffer(given, &buffer, PyBUF_WRITABLE) < 0) return false;
-    held = true;
+    if (Py_TYPE(given) == gArrayType) {
+      start = reinterpret_cast<NumpyArray*>(given)->data;
+    } else {
+      if (PyObject_GetBuffer(given, &buffer, PyBUF_WRITABLE) < 0) return false;
+      held = true;
+      start = static_cast<char*>(buffer.buf);
+    }
     type = ofType;
     layout = ofLayout;
     height = rows;
@@ -151,7 +176,8 @@ struct View {
     rowsApart = step > INT_MAX;
     low = 0;
     high = height * step;
-    if (buffer.len != high) return PyErr_SetString(PyExc_SystemError, "hux: a new array of another size"), false;
+    if (held && buffer.len != high)
+      return PyErr_SetString(PyExc_SystemError, "hux: a new array of another size"), false;
     return true;
   }
 

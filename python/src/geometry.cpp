@@ -47,7 +47,7 @@ bool Run::takeGeometry(const Parameter& parameter, const Values& values, PyObjec
     case Kind::map: {
       if (!maps) maps.reset(new (std::nothrow) View[2]);
       if (!maps) return PyErr_NoMemory(), false;
-      View& map = maps[maps[0].held];
+      View& map = maps[maps[0].object ? 1 : 0];
       if (!map.take(value, false, op.name)) return false;
       if (map.type != Type::t32f || map.axes != 2 || map.width < 1 || map.height < 1)
         return refuse(PyExc_TypeError, "maps are arrays (H, W) of float32");

@@ -24,6 +24,18 @@ constexpr Py_ssize_t kKeepLock = 16000;  // elements from which other threads ma
 // What the package gives (see setup): numpy's empty, zeros, a packed copy, asarray, copyto, shares_memory, dtype, the
 // dtypes by Type, what raises or warns of a status, and what makes the signature of an operation.
 extern PyObject *gEmpty, *gZeros, *gPacked, *gArray, *gCopy, *gShares, *gDtype, *gDtypes, *gReport, *gSignature;
+// What numpy lets extensions see of an array: the same in all its versions from 1.7 on, 2.x too. All else, and arrays
+// too where setup finds that they are not laid out so, is asked for its buffer, which takes ten times as long.
+struct NumpyArray {
+  PyObject ob_base;
+  char* data;
+  int axes;
+  Py_ssize_t *shape, *strides;
+  PyObject *base, *dtype;
+  int flags;
+};
+constexpr int kWriteable = 0x400;
+extern PyTypeObject* gArrayType;  // null where they are not
 enum Keyword { kOut, kShift, kAlpha, kDtype, kShape, kMask, kKeywords };
 constexpr const char* kKeywordNames[kKeywords] = {"out", "shift", "alpha", "dtype", "shape", "mask"};
 extern PyObject* gKeywords[kKeywords];

@@ -60,26 +60,31 @@ bool Run::readOptions(Py_ssize_t count, PyObject* names) {
   const Py_ssize_t named = names ? PyTuple_Size(names) : 0;
   for (Py_ssize_t i = 0; i < named; ++i) {
     PyObject *name = PyTuple_GetItem(names, i), *value = given[count + i];
-    auto is = [&](PyObject* word) { return name == word || PyUnicode_Compare(name, word) == 0; };
-    int own = 0;
-    while (own < op.parameters && !is(self.names[own])) ++own;
+    // Keywords are mostly the very strings that are kept here.
+    int own = 0, word = 0;
+    for (bool exact : {true, false}) {
+      auto is = [&](PyObject* kept) { return exact ? name == kept : PyUnicode_Compare(name, kept) == 0; };
+      for (own = 0; own < op.parameters && !is(self.names[own]);) ++own;
+      for (word = 0; word < kKeywords && !is(gKeywords[word]);) ++word;
+      if (own < op.parameters || word < kKeywords) break;
+    }
     if (own < op.parameters) {
       if (!put(own, value)) return false;
-    } else if (is(gKeywords[kOut])) {
+    } else if (word == kOut) {
       options.out = value == Py_None ? nullptr : value;
-    } else if (is(gKeywords[kShift]) && op.scaled) {
+    } else if (word == kShift && op.scaled) {
       if (!readInt(value, &options.shift, "shift", op.name)) return false;
-    } else if (is(gKeywords[kAlpha])) {
+    } else if (word == kAlpha) {
       options.keepAlpha = value != Py_None;
       if (options.keepAlpha && (!PyUnicode_Check(value) || PyUnicode_CompareWithASCIIString(value, "keep") != 0)) {
         PyErr_Format(PyExc_ValueError, "%s: alpha is \"keep\" or None, not %R", op.name, value);
         return false;
       }
-    } else if (is(gKeywords[kDtype])) {
+    } else if (word == kDtype) {
       if (value != Py_None && !readType(value, &options.type, op.name)) return false;
-    } else if (is(gKeywords[kMask]) && op.masked) {
+    } else if (word == kMask && op.masked) {
       options.mask = value == Py_None ? nullptr : value;
-    } else if (is(gKeywords[kShape]) && (!op.sources || op.family == Family::geometry)) {
+    } else if (word == kShape && (!op.sources || op.family == Family::geometry)) {
       options.shape = value == Py_None ? nullptr : value;
     } else {
       PyErr_Format(PyExc_TypeError, "%s: no keyword %R", op.name, name);
@@ -171,7 +176,7 @@ bool Run::takeOut() {
     if (!out.take(options.out, true, op.planes, op.name)) return false;
     for (int i = 0; i < out.count; ++i) {
       View& view = out.at(i);
-      const Py_ssize_t row = view.width * view.channels * view.buffer.itemsize;
+      const Py_ssize_t row = view.width * view.channels * kTypeSizes[int(view.type)];
       const bool overlapping = view.rowsApart && std::abs(view.step) < row && view.height > 1;
       if (view.layout == kNoLayout || overlapping)
         return refuse(PyExc_ValueError, "out must have its pixels one after another, and rows that do not overlap");
