@@ -481,7 +481,7 @@ def write_table(model, path):
         if fixed:
             numbers = tuple(row[0] for row in fixed["values"]["rows"])
             own = f"kMasks{masks.setdefault(numbers, len(masks))}"
-        running = function["types"][0] in operation.rule.get("running", ())
+        running = function["types"][0] in operation.rule.get("running", ()) or resolved[function["name"]]["team"]
         return f"{{{sides}}}, {own}, {str(bool(operation.rule.get('local')) and not running).lower()}"
 
     def values(entries):

@@ -76,7 +76,7 @@ def histogram(a: Any, levels: ArrayLike | None = None, *, bins: int | None = Non
     if (levels is None) == (bins is None):
         refuse("histogram", "takes levels, or bins= and range=", TypeError)
     if bins is not None:
-        dtype = _front.array("histogram", a).dtype
+        dtype = getattr(a, "dtype", None) or _front.array("histogram", a).dtype
         if range is None and dtype.kind in "iu":
             range = np.iinfo(dtype).min, np.iinfo(dtype).max + 1
         if range is None or len(range) != 2 or not 0 < bins < 2**28:

@@ -1,4 +1,5 @@
 // The extension module: operations as callables, which pick the C function by the elements and layouts of the arrays.
+#include "chain.h"
 #include "run.h"
 
 #include <dlfcn.h>
@@ -23,6 +24,11 @@ const Operation& operationOf(PyObject* self) { return *callable(self).operation;
 
 PyObject* vectorCall(PyObject* self, PyObject* const* given, size_t flags, PyObject* names) {
   const Callable& own = callable(self);
+  if (gRecording > 0) {
+    PyObject* const made = recorded(self, given, Py_ssize_t(flags & ~kArgumentsOffset), names);
+    if (made != Py_NotImplemented) return made;
+    Py_DECREF(made);
+  }
   if (!own.operation->native()) return PyObject_Vectorcall(own.implementation, given, flags, names);
   return Run(own, given)(Py_ssize_t(flags & ~kArgumentsOffset), names, Asked::result);
 }
@@ -233,7 +239,8 @@ PyMODINIT_FUNC PyInit__hux() {
   for (int i = 0; i < kStatusCount; ++i)
     PyTuple_SetItem(statuses, i, Py_BuildValue("iss", kStatuses[i].value, kStatuses[i].name, kStatuses[i].comment));
   if (PyModule_AddObjectRef(module, "operations", operations) < 0 ||
-      PyModule_AddObjectRef(module, "statuses", statuses) < 0 || PyModule_AddObjectRef(module, "Operation", type) < 0 ||
+      PyModule_AddFunctions(module, kChainFunctions) < 0 || PyModule_AddObjectRef(module, "statuses", statuses) < 0 ||
+      PyModule_AddObjectRef(module, "Operation", type) < 0 ||
       PyModule_AddStringConstant(module, "version", kVersion) < 0)
     return nullptr;
   Dl_info library = {};

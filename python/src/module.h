@@ -63,6 +63,10 @@ constexpr Key parts(unsigned key) {
           bool(key >> 2 & 1),   bool(key >> 1 & 1),   bool(key & 1)};
 }
 
+enum Border { kValidRegion = -1, kConstant, kReplicate, kSymmetric, kReflect101, kWrap };
+// The place within an image that continues it at a place without; -1 where that is none of its pixels.
+Py_ssize_t inside(Py_ssize_t at, Py_ssize_t size, int border);
+
 // The functions of the module that raw.cpp and window.cpp have.
 PyObject* callRaw(PyObject*, PyObject* const* given, Py_ssize_t count);
 PyObject* frame(PyObject*, PyObject* arguments);

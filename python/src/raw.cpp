@@ -1,4 +1,5 @@
 // What the package passes to a function by itself.
+#include "chain.h"
 #include "module.h"
 
 #include <climits>
@@ -105,6 +106,7 @@ PyObject* callRaw(PyObject*, PyObject* const* given, Py_ssize_t count) {
   Raw raw;
   for (Py_ssize_t i = 0; i < own; ++i)
     if (!raw.value(letters[i], PyTuple_GetItem(given[3], i), &values[i])) return nullptr;
+  if (noting() && !note(Py_BuildValue("lO", index, given[3]))) return nullptr;
   gCalled[index] = true;
   if (elements > kKeepLock) {
     PyThreadState* state = PyEval_SaveThread();
@@ -114,7 +116,8 @@ PyObject* callRaw(PyObject*, PyObject* const* given, Py_ssize_t count) {
     status = tool::call(function.shape, function.address, values);
   }
   if (*function.shapeLetters == 'u') return PyLong_FromUnsignedLong(status.u);
-  if (status.i) return PyObject_CallFunction(gReport, "isO", status.i, function.name, given[1]);
+  if (status.i < 0 || (status.i && !noting()))
+    return PyObject_CallFunction(gReport, "isO", status.i, function.name, given[1]);
   Py_RETURN_NONE;
 }
 

@@ -5,6 +5,8 @@
 #include <cstring>
 #include <string>
 
+#include "chain.h"
+
 namespace hux::python {
 namespace {
 
@@ -629,6 +631,7 @@ PyObject* Run::call() {
   if (part.given) moveToPart();
   for (int i = 0; member->program[i]; ++i) values[i] = argument(member->program[i]);
   const Function& function = kFunctions[member->function];
+  if (noting() && !note(described())) return nullptr;
   gCalled[member->function] = true;
   Py_ssize_t elements = std::max(a.given() ? a.first.width * a.first.height * a.channels() : 0,
                                  out.given() ? width * height * out.channels() : 0);
@@ -650,12 +653,49 @@ PyObject* Run::call() {
     Py_DECREF(number);
     if (failed) return nullptr;
   }
-  if (status.i) {
+  if (status.i < 0 || (status.i && !noting())) {
     PyObject* none = PyObject_CallFunction(gReport, "iss", status.i, function.name, op.name);
     if (!none) return nullptr;
     Py_DECREF(none);
   }
   return op.results ? numbersOfAll() : Py_NewRef(result);
+}
+
+// For a chain: the function; its program, with = for what is given; that, as values or, with True, what they point to;
+// what the result starts as (1 the first source, 2 zeros); type and count of the results; of a window border, a pixel
+// of it, reach, and whether it is local.
+PyObject* Run::described() {
+  const Key key = parts(member->key);
+  const bool alpha = key.destinationLayout == kAC4;
+  const bool zero = alpha && (a.first.type != out.first.type || a.channels() != 4);
+  const bool starts = fresh && op.sources && (key.inPlace || alpha || key.destinationLayout == kP4);
+  PyObject *fixed = PyList_New(0), *found = PyList_New(0);
+  const auto add = [](PyObject*& list, PyObject* item) {
+    if (!list || !item || PyList_Append(list, item) < 0) Py_CLEAR(list);
+    Py_XDECREF(item);
+  };
+  std::string program = member->program;
+  for (char& letter : program) {
+    if (std::strchr("aAbBoOmMJSxyz", letter)) continue;
+    const Value value = argument(letter);
+    const bool own = letter >= '0' && letter < '0' + kOwn && member->own[letter - '0'].byAddress;
+    const size_t bytes = letter == 'K' ? size_t(numbers.count()) * 8 : own ? sizeof constants[0] : 0;
+    add(fixed, bytes ? Py_BuildValue("y#O", value.p, Py_ssize_t(bytes), Py_True)
+                     : Py_BuildValue("y#O", &value, Py_ssize_t(sizeof value), Py_False));
+    letter = '=';
+  }
+  for (const Values& own : member->results)
+    if (own.count) add(found, Py_BuildValue("ii", int(own.type), int(own.count)));
+  if (fixed && found) {
+    const Py_ssize_t pixel = kTypeSizes[int(a.first.type)] * a.first.channels;
+    return Py_BuildValue("isNiN(iy#(iiii)O(ii))", member->function, program.c_str(), fixed, starts ? zero ? 2 : 1 : 0,
+                         found, border, borderPixel, pixel, left, top, right, bottom,
+                         op.family != Family::window || member->local ? Py_True : Py_False, maskSize.width,
+                         maskSize.height);
+  }
+  Py_XDECREF(fixed);
+  Py_XDECREF(found);
+  return nullptr;
 }
 
 PyObject* Run::numbersOfAll() {

@@ -99,6 +99,7 @@ class Run {
   void moveToPart();
   PyObject* shapeAndType();
   PyObject* call();
+  PyObject* described();
   Value argument(char letter);
   PyObject* numbersOf(int i);
   PyObject* numbersOfAll();

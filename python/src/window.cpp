@@ -8,9 +8,20 @@
 #include "run.h"
 
 namespace hux::python {
+
+Py_ssize_t inside(Py_ssize_t at, Py_ssize_t size, int border) {
+  if (at >= 0 && at < size) return at;
+  if (border == kConstant) return -1;
+  if (border == kReplicate) return at < 0 ? 0 : size - 1;
+  const Py_ssize_t period = border == kWrap        ? size
+                            : border == kSymmetric ? 2 * size
+                                                   : std::max<Py_ssize_t>(2 * size - 2, 1);
+  const Py_ssize_t in = ((at % period) + period) % period;
+  return in < size ? in : border == kSymmetric ? period - 1 - in : period - in;
+}
+
 namespace {
 
-enum Border { kValidRegion = -1, kConstant, kReplicate, kSymmetric, kReflect101, kWrap };
 constexpr Word kBorders[] = {{"replicate", kReplicate},   {"constant", kConstant}, {"symmetric", kSymmetric},
                              {"reflect101", kReflect101}, {"wrap", kWrap},         {"edge", kReplicate},
                              {"nearest", kReplicate}};
@@ -31,18 +42,6 @@ bool readBorder(PyObject* given, int* border, const char* operation) {
                      "None, not %R",
                operation, given);
   return false;
-}
-
-// The place within an image that continues it at a place without; -1 where that is none of its pixels.
-Py_ssize_t inside(Py_ssize_t at, Py_ssize_t size, int border) {
-  if (at >= 0 && at < size) return at;
-  if (border == kConstant) return -1;
-  if (border == kReplicate) return at < 0 ? 0 : size - 1;
-  const Py_ssize_t period = border == kWrap        ? size
-                            : border == kSymmetric ? 2 * size
-                                                   : std::max<Py_ssize_t>(2 * size - 2, 1);
-  const Py_ssize_t in = ((at % period) + period) % period;
-  return in < size ? in : border == kSymmetric ? period - 1 - in : period - in;
 }
 
 // An image that is continued on all sides.

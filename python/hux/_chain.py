@@ -1,0 +1,512 @@
+"""Chains: several calls, one pass over memory, all cores.
+
+What a function does to images is recorded by the operations themselves, once for each kind of images: on an image that
+stands for others (Image), a call runs on one row of ones, which tells what it gives, or that it is refused; which
+function of the library it came to, and with what, is noted (_hux.noted). The notes become steps over bands of rows
+(_Plan), which the extension module runs (src/chain.cpp).
+"""
+from __future__ import annotations
+
+import struct
+from collections.abc import Callable
+from typing import Any
+
+import numpy as np
+from numpy.typing import NDArray
+
+from . import _front, _hux
+from ._front import BORDERS, array, fail, refuse
+from ._table import FUNCTIONS, RULES
+
+_own = {operation.__name__: operation for operation in _hux.operations}
+_FUNCTION_NAMES = list(FUNCTIONS)
+# Local besides those that are in all languages.
+_LOCAL = ("alpha_comp", "alpha_premul", "copy", "set", "dup", "zero")
+# Measures that bands add up to, and how: + sums, < the least, > the greatest. Floats tell by their order.
+_MEASURES = {"sum": "+", "count_in_range": "+", "histogram_range": "+", "min": "<", "max": ">", "min_max": "<>"}
+_ADVICE = "is not local, so no chain has it: end the chain before it, and call it on what the chain gives"
+_TYPES = " B HhIifd"  # of numbers, by Type in table.h
+_LETTERS = {"pSrc": "a", "srcStep": "A", "pDst": "o", "dstStep": "O", "roiSize": "S", "dstRoiSize": "S",
+            "pSrcDst": "o", "srcDstStep": "O"}
+_ZEROS, _AS_SOURCE = -2, -3
+_NONE = (0, 0, 0, 0)
+
+
+class Image:
+    """An image of a chain while it is recorded: operations take it, and give others. It has no pixels."""
+
+    __array_ufunc__ = None
+
+    def __init__(self, recorder: _Recorder, index: int, dtype: np.dtype, tail: tuple[int, ...]) -> None:
+        self._recorder, self._index, self.dtype = recorder, index, dtype
+        self.shape = (recorder.height, recorder.width, *tail)
+
+    @property
+    def ndim(self) -> int:
+        return len(self.shape)
+
+    def __getitem__(self, key: Any) -> Image:
+        """a[..., k]: one channel."""
+        if not isinstance(key, tuple) or len(key) not in (2, 3) or self.ndim != 3 or not hasattr(key[-1], "__index__") or \
+                any(k is not Ellipsis and k != slice(None) for k in key[:-1]) or \
+                not -self.shape[2] <= key[-1] < self.shape[2]:
+            raise TypeError("an image of a chain is taken as a whole, or by channels: a[..., 0]")
+        return self._recorder.call(_own["copy"], (self,), {}, channel=int(key[-1]) % self.shape[2])
+
+    def __array__(self, *_: Any, **__: Any) -> Any:
+        raise TypeError("an image of a chain has no pixels: only operations of hux take it")
+
+    __bool__ = __iter__ = __len__ = __array__
+
+    def __repr__(self) -> str:
+        return f"<image of a chain, {self.dtype} {self.shape}>"
+
+
+class Number:
+    """What a measure will give when the chain has run."""
+
+    def __init__(self, recorder: _Recorder, fields: list[int], build: Callable[[list[bytes]], Any]) -> None:
+        self._recorder, self._fields, self._build = recorder, fields, build
+
+    def __repr__(self) -> str:
+        return "<number of a chain>"
+
+
+class _Step:
+    def __init__(self, operation, function, program, values, a, b, o, mask, offset, start, reach, border, fields, kept):
+        self.operation, self.function, self.program, self.values = operation, function, program, values
+        self.a, self.b, self.o, self.mask, self.offset, self.start = a, b, o, mask, offset, start
+        self.reach, self.border, self.fields, self.kept = reach, border, fields, kept
+
+    def sources(self):
+        return [*self.a, *self.b, *([self.mask] if self.mask >= 0 else []), *([self.start] if self.start >= 0 else [])]
+
+
+def _copy_of(image, to):
+    return _Step("chain", -1, "", b"", (image,), (), (to,), -1, 0, -1, _NONE, None, (), ())
+
+
+class _Recorder:
+    """What a function does to images of one height and width."""
+
+    def __init__(self, height, width):
+        self.height, self.width = height, width
+        self.images = []  # Image
+        self.steps = []
+
+    def image(self, dtype, tail):
+        self.images.append(Image(self, len(self.images), dtype, tail))
+        return self.images[-1]
+
+    def taken(self, name, value):
+        """The images that an argument stands for, and a row of ones in its place."""
+        if isinstance(value, Image):
+            if value._recorder is not self:
+                refuse(name, "an image of another chain, or of a call that has ended")
+            return (value,), np.ones((1, self.width, *value.shape[2:]), value.dtype)
+        if isinstance(value, Number):
+            refuse(name, "a number that is known only when the chain has run: end the chain there", TypeError)
+        if isinstance(value, (tuple, list)) and any(isinstance(v, (Image, Number)) for v in value):
+            if not all(isinstance(v, Image) for v in value):
+                refuse(name, "planes are images of the chain, all of them", TypeError)
+            both = [self.taken(name, v) for v in value]
+            return tuple(image for own, _ in both for image in own), [probe for _, probe in both]
+        return (), value
+
+    def call(self, operation, arguments, options, channel=None):
+        name = operation.__name__
+        try:
+            return self.noted(name, operation, arguments, options, channel)
+        except Exception as error:
+            error.add_note(f"{name} is call {len(self.steps) + 1} of the chain")
+            raise
+
+    def noted(self, name, operation, arguments, options, channel):
+        rule = RULES[name]
+        if name == "histogram_even":  # its levels are known
+            _, probe = self.taken(name, arguments[0])
+            levels = operation(probe, *arguments[1:], **options)[1]
+            lists = list(levels) if np.ndim(levels[0]) else levels
+            alpha = {"alpha": options["alpha"]} if "alpha" in options else {}
+            return self.noted("histogram_range", _own["histogram_range"], (arguments[0], lists), alpha, None), levels
+        if not (rule.get("local") or name in _LOCAL or name in _MEASURES):
+            refuse(name, _ADVICE, TypeError)
+        if rule["kind"] == "window" and options.get("border", "") is None:
+            refuse(name, "border=None gives a smaller image, and all of a chain have one size: take a border")
+        if rule["kind"] != "window" and any(isinstance(a, np.ndarray) and a.ndim > 1 for a in arguments):
+            refuse(name, "an array is no image of the chain: arrays enter by its arguments", TypeError)
+        both = [self.taken(name, value) for value in arguments]
+        operands, probes = [own for own, _ in both], [probe for _, probe in both]
+        if channel is not None:
+            probes[0] = probes[0][..., channel]
+        given, start, mask = dict(options), -1, -1
+        for key, value in options.items():
+            own, given[key] = self.taken(name, value)
+            if not own:
+                if key in ("out", "mask") and value is not None:
+                    refuse(name, f"{key}= is an image of the chain here; arrays enter by its arguments", TypeError)
+            elif key == "out" and len(own) == 1 and ("mask" in options or not operands):
+                start, whole = own[0]._index, own[0]
+            elif key == "mask" and len(own) == 1:
+                mask = own[0]._index
+            else:
+                refuse(name, f"no {key}= within a chain: a call gives a new image" if key == "out" else
+                       f"no image for {key}=", TypeError)
+        result, notes = _hux.noted(operation, tuple(probes), given)
+        if len(notes) != 1:
+            refuse(name, _ADVICE, TypeError)
+        index, note = notes[0][0], notes[0]
+        kept, fields, border, reach = [], (), None, _NONE
+        if len(note) == 6:
+            _, program, fixed, begins, numbers, around = note
+            values = b"".join(_address(np.frombuffer(own, np.uint8), kept) if pointed else own for own, pointed in fixed)
+            if start < 0 and begins:
+                start = _AS_SOURCE if begins == 1 else _ZEROS
+            if numbers:
+                fields = tuple((_TYPES[kind], merge, count)
+                               for (kind, count), merge in zip(numbers, _MEASURES[name] * len(numbers)))
+            if rule["kind"] == "window":
+                mode, filler, reach, local, size = around
+                border, reach = (mode, filler), tuple(max(r, 0) for r in reach)
+                if not local or name == "filter_box" and _floats(operands[0][0], size):
+                    refuse(name, f"on {operands[0][0].dtype}, by sums of floats that run on from the first row, {_ADVICE}",
+                           TypeError)
+        else:
+            member = next(m for m in _front.members[name] if m.index == index)
+            program, values = "", b""
+            for parameter, letter, value in zip(member.parameters, member.letters, note[1]):
+                if parameter == "pHist":
+                    tables = value if isinstance(value, tuple) else (value,)
+                    fields = tuple(("i", "+", table.size) for table in tables)
+                    program += "x" if len(tables) == 1 else "h"
+                elif parameter in _LETTERS:
+                    program += _LETTERS[parameter]
+                else:
+                    program += "="
+                    values += _encoded(letter, value, kept)
+            if member.layout == "AC4" and not fields:
+                start = _AS_SOURCE if result.dtype == operands[0][0].dtype else _ZEROS
+        operands += [()] * 2
+        a, b = (operands[i] if letter in program else () for i, letter in enumerate("ab"))
+        if bool(a) != ("a" in program) or bool(b) != ("b" in program):
+            refuse(name, "an array is no image of the chain: arrays enter by its arguments", TypeError)
+        if fields and name != "count_in_range" and name != "histogram_range" and a[0].dtype.kind not in "iu":
+            refuse(name, f"of {a[0].dtype}, where the order of pixels tells, {_ADVICE}", TypeError)
+        offset = channel * a[0].dtype.itemsize if channel is not None else 0
+        if fields:
+            made, numbers = (), self.numbers(name, fields, result)
+        elif start >= 0:
+            made = numbers = (self.image(whole.dtype, whole.shape[2:]),)
+        else:
+            several = isinstance(result, tuple)
+            numbers = made = tuple(self.image(p.dtype, p.shape[2:]) for p in (result if several else (result,)))
+        self.steps.append(_Step(name, index, program, values, *(tuple(i._index for i in own) for own in (a, b, made)),
+                                mask, offset, start, reach, border, fields, kept))
+        return numbers if fields or len(made) > 1 else made[0]
+
+    def numbers(self, name, fields, result):
+        first = sum(len(step.fields) for step in self.steps)
+        dtypes = [np.dtype(kind) for kind, _, _ in fields]
+
+        def one(k, parts):
+            values = np.frombuffer(parts[0], dtypes[k])[:fields[k][2]].copy()
+            return values if len(values) > 1 or name == "histogram_range" else values[0].item()
+
+        def tables(parts):
+            own = [one(k, [part]) for k, part in enumerate(parts)]
+            return own[0] if len(own) == 1 else np.array(own) if len({len(t) for t in own}) == 1 else own
+
+        if name == "histogram_range":
+            return Number(self, list(range(first, first + len(fields))), tables)
+        own = [Number(self, [first + k], lambda parts, k=k: one(k, parts)) for k in range(len(fields))]
+        return type(result)(*own) if len(own) > 1 else own[0]
+
+
+def _address(a, kept):
+    """Of a copy, which is kept as long as the plan."""
+    own = np.array(a, order="C")
+    kept.append(own)
+    return struct.pack("Pq", own.__array_interface__["data"][0], 0)
+
+
+def _encoded(letter, value, kept):
+    """As a value of the extension module: 16 bytes."""
+    if letter == "p":
+        if isinstance(value, tuple):
+            return _address(np.array([struct.unpack("Pq", _address(v, kept))[0] for v in value], np.uintp), kept)
+        return bytes(16) if value is None else _address(value, kept)
+    if letter in "SPR":
+        return struct.pack(f"{len(value)}i", *(int(v) for v in value)).ljust(16, b"\0")
+    kind = {"f": "f", "d": "d", "u": "I", "l": "q"}.get(letter, "i")
+    return struct.pack(kind, float(value) if kind in "fd" else int(value)).ljust(16, b"\0")
+
+
+def _floats(image, mask_size):
+    """Whether filter_box sums in floats: of bytes, where sums in large masks are not exact in them."""
+    return image.dtype == np.uint8 and mask_size[0] * mask_size[1] + mask_size[1] > 2**24 // 255
+
+
+class _Plan:
+    """The steps for images of one kind, and what they give."""
+
+    def __init__(self, recorder, inputs, result):
+        self.result, self.inputs = result, inputs
+        self.outputs = []
+        self.walk(result, lambda image: self.outputs.append(image) or image, lambda number: number)
+        steps, images = list(recorder.steps), recorder.images
+        wanted = {image._index for image in self.outputs}
+        alive = []
+        for step in reversed(steps):
+            if step.fields or wanted & set(step.o):
+                alive.append(step)
+                wanted |= set(step.sources())
+        alive.reverse()
+        self.reach, self.wraps = self.reaches(alive, len(images))
+        sizes = [image.dtype.itemsize * (image.shape[2] if image.ndim == 3 else 1) for image in images]
+        self.pixels, given = list(sizes), set(inputs)
+        self.borders = {}  # of images: mode, filler and reach
+        self.own = set()
+        self.steps = []
+        self.frame(alive, given)
+        # Where an output is an input, or is there twice, its rows are copied.
+        self.places, taken = [], set(given)
+        for image in self.outputs:
+            index = image._index
+            if index in taken:
+                index = self.copied(index)
+            taken.add(index)
+            self.places.append(index)
+        self.kinds = [(image.dtype, image.shape) for image in self.outputs]
+        self.pointwise = not any(any(step.reach) for step in self.steps)
+        self.chain = _hux.make_chain(
+            tuple((i in given, i in self.places, i in self.own, pixel, *self.borders.get(i, (1, b"", _NONE))[::2],
+                   self.borders.get(i, (1, b"", _NONE))[1]) for i, pixel in enumerate(self.pixels)),
+            tuple((s.function, s.program, s.values, s.a, s.b, s.o, s.mask, s.offset, s.start, s.reach,
+                   s.function < 0 and self.borders.get(s.o[0], (1,))[0] == BORDERS["wrap"], s.fields) for s in self.steps))
+
+    @staticmethod
+    def reaches(steps, count):
+        """How far around a pixel inputs are read for it; and whether an image is continued by its other side."""
+        own = [_NONE] * count
+        for step in reversed(steps):
+            beyond = [max(r) for r in zip(_NONE, *(own[o] for o in step.o))]
+            for k, source in enumerate(step.sources()):
+                more = step.reach if k == 0 else _NONE
+                own[source] = tuple(max(x, y + z) for x, y, z in zip(own[source], beyond, more))
+        total = tuple(max(r) for r in zip(_NONE, *own))
+        return total, any(step.border and step.border[0] == BORDERS["wrap"] and any(step.reach) for step in steps)
+
+    def copied(self, image, border=None):
+        self.pixels.append(self.pixels[image])
+        made = len(self.pixels) - 1
+        if border:
+            self.borders[made] = border
+        self.steps.append(_copy_of(image, made))
+        return made
+
+    def frame(self, steps, given):
+        """An image that windows read has a border: its own where they agree on it, else in a copy."""
+        groups = {}  # of an image: by border, how far windows reach
+        planes = {image for step in steps for own in (step.a, step.o) if len(own) > 1 for image in own}
+        for step in steps:
+            if any(step.reach):
+                own = groups.setdefault(step.a[0], {})
+                own[step.border] = tuple(map(max, own.get(step.border, _NONE), step.reach))
+        for image, own in groups.items():
+            (mode, filler), reach = next(iter(own.items()))
+            if len(own) == 1 and image not in given | planes and mode != BORDERS["wrap"]:
+                self.borders[image] = mode, filler, reach
+                self.own.add(image)
+        copies = {}
+        for step in steps:
+            a, b = step.a, step.b
+            if any(step.reach) and a[0] not in self.borders:
+                key = a[0], step.border
+                if key not in copies:
+                    copies[key] = self.copied(a[0], (*step.border, groups[a[0]][step.border]))
+                a = (copies[key],)
+            elif len(a) > 1 or "J" in step.program:  # of one step
+                for image in (*a, *b):
+                    if image not in copies:
+                        copies[image] = self.copied(image)
+                a, b = tuple(copies[image] for image in a), tuple(copies[image] for image in b)
+            if len(step.o) > 1:
+                self.own.update(step.o)
+            self.steps.append(_Step(step.operation, step.function, step.program, step.values, a, b, step.o, step.mask,
+                                    step.offset, step.start, step.reach, step.border, step.fields, step.kept))
+
+    @classmethod
+    def walk(cls, result, of_image, of_number):
+        if isinstance(result, Image):
+            return of_image(result)
+        if isinstance(result, Number):
+            return of_number(result)
+        if isinstance(result, (tuple, list)):
+            own = [cls.walk(r, of_image, of_number) for r in result]
+            return type(result)(*own) if hasattr(result, "_fields") else type(result)(own)
+        return result
+
+    def run(self, arrays, out, threads, rows):
+        arrays = [a if a.flags.c_contiguous or _front._plain(a) else np.array(a, order="C") for a in arrays]
+        outs, results, late = [], [], []
+        given = out if isinstance(out, (tuple, list)) else (out,) * (len(self.kinds) if out is None else 1)
+        if len(given) != len(self.kinds):
+            refuse("chain", f"out has {len(self.kinds)} arrays, one for each image that the chain gives", TypeError)
+        for target, (dtype, shape) in zip(given, self.kinds):
+            if target is None:
+                own = target = np.empty(shape, dtype)
+            else:
+                own = array("chain", target, True)
+                _front.Out.check("chain", own, shape, dtype)
+                if any(np.may_share_memory(own, other) for other in results):
+                    refuse("chain", "arrays of out share memory")
+                shared = any(np.may_share_memory(own, a) and not (self.pointwise and _front._same(own, a)) for a in arrays)
+                if shared or not _front._plain(own):
+                    own = np.empty(shape, dtype)
+                    late.append((target, own))
+            results.append(target)
+            outs.append(own)
+        own = dict(zip(self.inputs, arrays)) | dict(zip(self.places, outs))
+        told, measures = _hux.run_chain(self.chain, tuple([own[i] for i in sorted(own)]), threads, rows)
+        if told:
+            self.report(told)
+        for target, made in late:
+            np.copyto(target, made)
+        images = iter(results)
+        return self.walk(self.result, lambda image: next(images),
+                         lambda number: number._build([measures[k] for k in number._fields]))
+
+    def report(self, told):
+        from . import _report
+        failed = [(status, step) for status, step in zip(told, self.steps) if status < 0]
+        for status, step in failed or [(status, step) for status, step in zip(told, self.steps) if status]:
+            _report(status, _FUNCTION_NAMES[step.function], step.operation)
+
+
+class Chain:
+    """What hux.chain gives: a function of images."""
+
+    def __init__(self, function: Callable[..., Any], rows: int | None = None) -> None:
+        self._function, self._rows = function, int(rows or 0)
+        self._plans: dict[Any, _Plan] = {}
+        self.__doc__ = getattr(function, "__doc__", None)
+        self.__name__ = getattr(function, "__name__", "chain")
+
+    def __repr__(self) -> str:
+        return f"<hux.chain of {self._function!r}>"
+
+    def __reduce__(self) -> Any:
+        return Chain, (self._function, self._rows)
+
+    def __call__(self, *images: Any, out: Any = None, threads: int | None = None) -> Any:
+        """Runs the chain on arrays (H, W) or (H, W, C) of one height and width, or on lists of planes.
+
+        out      an array for what the chain gives, or a tuple of them; else they are new
+        threads  how many share the rows; hux.get_num_threads() of them where it is None
+        """
+        plan, arrays = self._plan(images)
+        if plan is None:
+            return self._function(*images)
+        if threads is not None and threads < 1:
+            refuse("chain", f"threads is a number above 0, not {threads!r}")
+        return plan.run(arrays, out, threads or 0, self._rows)
+
+    def reach(self, *images: Any) -> tuple[int, int, int, int]:
+        """How far around a pixel such images are read for a pixel of what the chain gives: (left, top, right, bottom)."""
+        plan, _ = self._plan(images)
+        if plan is None:
+            refuse("chain", "the reach of a chain is asked of arrays", TypeError)
+        return plan.reach
+
+    def _plan(self, images: tuple[Any, ...]) -> tuple[Any, list[NDArray[Any]]]:
+        """The plan for such images, and the arrays in their order; none for images of another chain."""
+        arrays, key = [], []
+        for given in images:
+            if type(given) is np.ndarray:
+                arrays.append(given)
+                key.append((given.dtype, given.shape))
+            elif isinstance(given, (tuple, list)) and given and isinstance(given[0], np.ndarray):
+                planes = [array("chain", plane) for plane in given]
+                arrays += planes
+                key.append(tuple((plane.dtype, plane.shape) for plane in planes))
+            elif isinstance(given, Image) or isinstance(given, (tuple, list)) and given and isinstance(given[0], Image):
+                return None, []
+            elif given is None or isinstance(given, (str, int, float, complex, tuple, np.generic)):
+                key.append((type(given), given))
+            else:
+                arrays.append(array("chain", given))
+                key.append((arrays[-1].dtype, arrays[-1].shape))
+        whole = tuple(key)
+        plan = self._plans.get(whole)
+        if plan is None:
+            plan = self._settle(images, arrays)
+            if len(self._plans) >= 64:
+                self._plans.clear()
+            self._plans[whole] = plan
+        return plan, arrays
+
+    def _settle(self, images, arrays):
+        if not arrays:
+            refuse("chain", "takes arrays", TypeError)
+        for a in arrays:
+            if not 2 <= a.ndim <= 3:
+                refuse("chain", f"an image has the shape (H, W) or (H, W, C), not {a.ndim} axes", TypeError)
+            if a.shape[:2] != arrays[0].shape[:2]:
+                refuse("chain", f"its images have one height and width, not {arrays[0].shape[:2]} and {a.shape[:2]}")
+            if not a.size:
+                fail("chain", "BadSize", "an empty array")
+            if max(a.shape[:2]) >= 2**31 or a[:1].nbytes >= 2**31:
+                refuse("chain", "sides and rows of an array end at 2^31 - 1")
+        recorder = _Recorder(*arrays[0].shape[:2])
+        inputs = []
+
+        def stands(a):
+            inputs.append(recorder.image(a.dtype, a.shape[2:]))
+            return inputs[-1]
+
+        own = []
+        for given in images:
+            if isinstance(given, (tuple, list)) and given and isinstance(given[0], np.ndarray):
+                own.append(tuple(stands(plane) for plane in given))
+            elif given is None or isinstance(given, (str, int, float, complex, tuple, np.generic)):
+                own.append(given)
+            else:
+                own.append(stands(arrays[len(inputs)]))
+        _hux.record(1)
+        try:
+            result = self._function(*own)
+        finally:
+            _hux.record(-1)
+        plan = _Plan(recorder, [image._index for image in inputs], result)
+        if not plan.outputs and not any(step.fields for step in plan.steps):
+            refuse("chain", f"its function gives images or measures of its calls, not {result!r}", TypeError)
+        return plan
+
+
+def chain(function: Callable[..., Any], *, rows: int | None = None) -> Chain:
+    """A chain of calls: one pass over memory, all cores, the bits of the calls one by one.
+
+    f = hux.chain(lambda a, b: hux.xor(hux.filter_box(hux.add(a, b, shift=1), (5, 3)), b))
+    f(a, b, out=None, threads=None)
+
+    The function is called once for each kind of arguments (types and shapes of arrays; what is no array by its value),
+    with images that have no pixels yet: operations record what they would do to them. It gives an image, or a measure
+    (sum of integers, min, max, min_max, count_in_range, histogram), or a tuple of them. Then bands of rows run through
+    all calls. What is not local (geometry, transforms, matching, sums of floats) is refused by name.
+
+    rows  to a band; as many as stay in the second-level cache where it is None
+    """
+    if not callable(function):
+        raise TypeError(f"chain: a function is expected, not {function!r}")
+    return Chain(function, rows)
+
+
+def _recorded(operation, arguments, options):
+    for value in (*arguments, *options.values()):
+        for own in value if isinstance(value, (tuple, list)) else (value,):
+            if isinstance(own, (Image, Number)):
+                return own._recorder.call(operation, arguments, options)
+    return NotImplemented
+
+
+_hux.set_recorder((Image, Number), _recorded)
