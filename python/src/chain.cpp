@@ -51,7 +51,7 @@ struct Field {  // of what a measure gives
   Index offset;
 };
 
-constexpr int kZeros = -2, kAsSource = -3;
+constexpr int kZeros = -2;
 
 // A call, or without a function a copy of rows.
 struct Step {
@@ -60,9 +60,9 @@ struct Step {
   // step of both sources, S the size, x, y, z the results, h a list of all results, = a value that is given.
   std::string program;
   std::vector<Value> values;
-  std::vector<int> a, b, o;                      // several are planes
-  int mask = -1, offset = 0;                     // offset: bytes to the channel of the first source that is meant
-  int start = -1;                                // what the destination starts as: an image, kZeros, or kAsSource
+  std::vector<int> a, b, o;   // several are planes
+  int mask = -1, offset = 0;  // offset: bytes to the channel of the first source that is meant
+  int start = -1;             // what the destination starts as: an image, kZeros, or below as the source
   int left = 0, top = 0, right = 0, bottom = 0;  // how far around a pixel the first source is read
   bool all = false;                              // whether a copy needs the whole source first
   std::vector<Field> fields;
