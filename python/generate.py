@@ -552,6 +552,19 @@ def write_table(model, path):
     return index
 
 
+def traits(model):
+    """What is known of the operations beyond how they are called: for the fronts that divide images."""
+    resolved = rules.resolve(model.registry)
+    known = {}
+    for o in model.operations.values():
+        codes = (("".join(f["types"]), resolved[f["name"]]["team"]) for f in o.functions)
+        constant = o.rule["kind"] == "points" and any(o.second(f) for f in o.functions)
+        known[o.name] = o.rule | {
+            "sources": max(len(o.operands(f)) + bool(constant and o.second(f)) for f in o.functions), "constant": constant,
+            "running": sorted({code for code, team in codes if team or code in o.rule.get("running", ())})}
+    return known
+
+
 def write_python(model, index, path):
     """What the package needs: the functions, the members of the operations that Python runs, and these operations."""
     entries, wrappers = [], []
@@ -576,11 +589,11 @@ def write_python(model, index, path):
             f"{{{', '.join(f'{n!r}: {n}' for n in own)}}}, {{{', '.join(f'{n!r}: {n}' for n in keywords)}}})\n")
     inter = {w: v for w, v in model.enumerations["HuxiInterpolation"].items() if v > 0}
     results = {o.name: o.results for o in model.operations.values() if o.native and len(o.results) > 1}
-    own_rules = {o.name: o.rule for o in model.operations.values()}
-    out = ['"""Made by python/generate.py: what there is."""', "FUNCTIONS = {",
+    own_rules = traits(model)
+    out = ['"""Made by python/generate.py: what there is."""', "from typing import Any", "FUNCTIONS = {",
            *(f"    {name!r}: {number}," for name, number in index.items()), "}", f"INTERPOLATIONS = {inter!r}",
-           f"RESULTS = {results!r}", "RULES = {", *(f"    {name!r}: {rule!r}," for name, rule in own_rules.items()), "}",
-           "MEMBERS = {", *entries, "}", ""]
+           f"RESULTS = {results!r}", "RULES: dict[str, dict[str, Any]] = {",
+           *(f"    {name!r}: {rule!r}," for name, rule in own_rules.items()), "}", "MEMBERS = {", *entries, "}", ""]
     (path / "_table.py").write_text("\n".join(out))
     out = ['"""Made by python/generate.py: the operations that Python runs."""', "from . import _front", "", "",
            "\n\n".join(wrappers)]

@@ -27,20 +27,42 @@ class Seed:
         return f"hux.Seed({self.state})"
 
 
+def norm_name(several: bool, ord: int | str, relative: bool) -> str:
+    """The operation that norm() is short for."""
+    words = {1: "l1", 2: "l2", "inf": "inf", float("inf"): "inf"}
+    if ord not in words:
+        refuse("norm", f'ord is 1, 2 or "inf", not {ord!r}')
+    if relative and not several:
+        refuse("norm", "relative to a second image", TypeError)
+    return f"norm_{'rel_' if relative else 'diff_' if several else ''}{words[ord]}"
+
+
+def match_name(method: str, extent: str) -> str:
+    """The operation that match() is short for."""
+    names = {"ncc": ("cross_corr", "norm"), "ncc_level": ("cross_corr", "norm_level"), "sqdiff": ("sqr_distance", "norm")}
+    if method not in names:
+        refuse("match", f"method is one of {', '.join(map(repr, names))}, not {method!r}")
+    if extent not in ("valid", "same", "full"):
+        refuse("match", f'extent is "valid", "same" or "full", not {extent!r}')
+    first, last = names[method]
+    return f"{first}_{extent}_{last}"
+
+
+def convolve_name(extent: str) -> str:
+    """The operation that convolve() is short for."""
+    if extent not in ("valid", "full"):
+        refuse("convolve", f'extent is "valid" or "full", not {extent!r}')
+    return f"conv_{extent}"
+
+
 def norm(a: Any, b: Any = None, *, ord: int | str = 2, relative: bool = False, hint: str | None = None,
          alpha: str | None = None) -> Any:
     """The norm of an image, of the difference of two, or of that relative to the second: norm_l2, norm_diff_inf, ...
 
     ord is 1, 2 or "inf".
     """
-    words = {1: "l1", 2: "l2", "inf": "inf", float("inf"): "inf"}
-    if ord not in words:
-        refuse("norm", f'ord is 1, 2 or "inf", not {ord!r}')
-    if relative and b is None:
-        refuse("norm", "relative to a second image", TypeError)
-    name = f"norm_{'rel_' if relative else 'diff_' if b is not None else ''}{words[ord]}"
     options = {key: value for key, value in (("hint", hint), ("alpha", alpha)) if value is not None}
-    return _own[name](*((a,) if b is None else (a, b)), **options)
+    return _own[norm_name(b is not None, ord, relative)](*((a,) if b is None else (a, b)), **options)
 
 
 def match(a: Any, tpl: Any, *, method: str = "ncc", extent: str = "valid", alpha: str | None = None,
@@ -50,21 +72,13 @@ def match(a: Any, tpl: Any, *, method: str = "ncc", extent: str = "valid", alpha
     method  "ncc" normalised correlation, "ncc_level" the same about the means, "sqdiff" normalised squared distance
     extent  "valid" where the template lies within the image, "same", "full"
     """
-    names = {"ncc": ("cross_corr", "norm"), "ncc_level": ("cross_corr", "norm_level"), "sqdiff": ("sqr_distance", "norm")}
-    if method not in names:
-        refuse("match", f"method is one of {', '.join(map(repr, names))}, not {method!r}")
-    if extent not in ("valid", "same", "full"):
-        refuse("match", f'extent is "valid", "same" or "full", not {extent!r}')
-    first, last = names[method]
-    return _own[f"{first}_{extent}_{last}"](a, tpl, dtype=np.float32, alpha=alpha, out=out)
+    return _own[match_name(method, extent)](a, tpl, dtype=np.float32, alpha=alpha, out=out)
 
 
 def convolve(a: Any, b: Any, *, extent: str = "full", divisor: int | None = None, alpha: str | None = None,
              out: Any = None) -> NDArray[Any]:
     """The convolution of two images: conv_full, or by extent="valid" conv_valid."""
-    if extent not in ("valid", "full"):
-        refuse("convolve", f'extent is "valid" or "full", not {extent!r}')
-    return _own[f"conv_{extent}"](a, b, divisor, alpha=alpha, out=out)
+    return _own[convolve_name(extent)](a, b, divisor, alpha=alpha, out=out)
 
 
 def histogram(a: Any, levels: ArrayLike | None = None, *, bins: int | None = None, range: Any = None,
