@@ -39,7 +39,7 @@ from typing import Any
 import dask.array as da
 import numpy as np
 from dask.array.core import PerformanceWarning
-from dask.array.overlap import ensure_minimum_chunksize, overlap, trim_internal
+from dask.array.overlap import ensure_minimum_chunksize, overlap
 from dask.base import compute, tokenize
 from dask.delayed import Delayed
 from dask.highlevelgraph import HighLevelGraph
@@ -217,35 +217,52 @@ def _overlapped(a: da.Array, call: Callable[..., Any], reach: Sequence[int], cha
     """Blocks that see as far as a window reaches beyond them. border is "own" where the call frames what it is given,
     so that what it makes of the false edges is cut off, "wrap", or "valid" for the part that needs no border."""
     left, top, right, bottom = reach
-    depth = {}
-    for axis, (before, after) in enumerate(((top, bottom), (left, right))):
+    ways = (top, bottom), (left, right)
+    for axis, (before, after) in enumerate(ways):
         least = max(before, after) + 1  # also what a mirrored border looks at
         if len(a.chunks[axis]) > 1 and min(a.chunks[axis]) < least:
             a = a.rechunk({axis: ensure_minimum_chunksize(least, a.chunks[axis]) if least <= a.shape[axis] else -1})
-        depth[axis] = (before, after) if len(a.chunks[axis]) > 1 else (0, 0)
-    chunks = a.chunks[:2]
+    how = dict(call=call, counts=[0], **how)
     if border == "wrap":  # of equal depths before and after
         sides = max(top, bottom), max(left, right)
         wide = overlap(a, {0: sides[0], 1: sides[1]}, {0: "periodic", 1: "periodic"})
         task = partial(_inside, skip=(sides[0] - top, sides[1] - left), drop=(sides[0] - bottom, sides[1] - right))
-        return _blockwise(task, [wide], channels, dtype, chunks=chunks, call=call, counts=[0], **how)
-    none = {0: "none", 1: "none"}
-    wide = overlap(a, depth, none) if any(map(any, depth.values())) else a
-    if border == "own":
-        made = _blockwise(_on_blocks, [wide], channels, dtype, call=call, counts=[0], **how)
-        return trim_internal(made, depth, none) if wide is not a else made
-    sizes = [tuple(side - (before if i == 0 else 0) - (after if i == len(own) - 1 else 0) for i, side in enumerate(own))
-             for own, (before, after) in zip(chunks, ((top, bottom), (left, right)))]
-    return _blockwise(_on_blocks, [wide], channels, dtype, chunks=sizes, call=call, counts=[0], **how)
+        return _blockwise(task, [wide], channels, dtype, chunks=a.chunks[:2], **how)
+    edges = [np.cumsum((0, *own)).tolist() for own in a.chunks[:2]]
+
+    def spans(i: int, j: int) -> list[tuple[int, int]]:
+        return [(max(own[k] - before, 0), min(own[k + 1] + after, own[-1]))
+                for own, k, (before, after) in zip(edges, (i, j), ways)]
+
+    def rectangle(i: int, j: int) -> tuple[int, int, int, int]:
+        (y0, y1), (x0, x1) = spans(i, j)
+        return x0, y0, x1, y1
+
+    def task_of(i: int, j: int, _: Any) -> Callable[..., Any]:
+        if border == "valid":
+            return partial(_on_blocks, **how)
+        cuts = [(own[k] - low, high - own[k + 1]) for own, k, (low, high) in zip(edges, (i, j), spans(i, j))]
+        skip, drop = zip(*cuts)
+        return partial(_inside, skip=skip, drop=drop, **how)
+
+    chunks = a.chunks[:2]
+    if border == "valid":
+        chunks = tuple(tuple(side - (before if i == 0 else 0) - (after if i == len(own) - 1 else 0)
+                             for i, side in enumerate(own)) for own, (before, after) in zip(chunks, ways))
+    return _by_rectangles(getattr(call, "__name__", "window"), a, chunks, rectangle, task_of, (how, reach, border),
+                          channels=channels, dtype=dtype)
 
 
 def _by_rectangles(name: str, a: da.Array, chunks: Any, rectangle: Callable[..., Any], task: Callable[..., Any],
-                   token: Any, maps: Sequence[da.Array] = ()) -> da.Array:
+                   token: Any, maps: Sequence[da.Array] = (), channels: tuple[int, ...] | None = None,
+                   dtype: Any = None) -> da.Array:
     """An array whose block (i, j) is made by task(i, j, rectangle), of the rectangle(i, j) of the source and of blocks
     of maps. Of each block of the source, no more than that goes there."""
     edges = [np.cumsum((0, *own)).tolist() for own in a.chunks[:2]]
     key = f"hux-{name}-{tokenize(token, a.name, chunks, [block.name for block in maps])}"
     more = (0,) * (a.ndim - 2)
+    channels = a.shape[2:] if channels is None else channels
+    last = (0,) * len(channels)
     graph: dict[Any, Any] = {}
     for i in range(len(chunks[0])):
         for j in range(len(chunks[1])):
@@ -256,16 +273,19 @@ def _by_rectangles(name: str, a: da.Array, chunks: Any, rectangle: Callable[...,
                 for m in range(np.searchsorted(edges[1], x0, "right") - 1, np.searchsorted(edges[1], x1)):
                     place = tuple(slice(max(low, own[n]) - own[n], min(high, own[n + 1]) - own[n])
                                   for low, high, own, n in ((y0, y1, edges[0], k), (x0, x1, edges[1], m)))
-                    row.append((f"{key}-part", i, j, k, m))
-                    graph[row[-1]] = getitem, (a.name, k, m, *more), place
+                    block = (a.name, k, m, *more)
+                    if [(own.start, own.stop) for own in place] != [(0, a.chunks[0][k]), (0, a.chunks[1][m])]:
+                        graph[(f"{key}-part", i, j, k, m)] = getitem, block, place
+                        block = (f"{key}-part", i, j, k, m)
+                    row.append(block)
                 rows.append(row)
-            graph[(key, i, j, *more)] = (_of_rectangle, task(i, j, part), rows, *((block.name, i, j) for block in maps))
-    return _array(key, graph, (*chunks, *((side,) for side in a.shape[2:])), a.dtype, [a, *maps])
+            graph[(key, i, j, *last)] = (_of_rectangle, task(i, j, part), rows, *((block.name, i, j) for block in maps))
+    return _array(key, graph, (*chunks, *((side,) for side in channels)), dtype or a.dtype, [a, *maps])
 
 
 def _of_rectangle(call: Callable[..., Any], rows: Any, *maps: Any) -> Any:
     parts = [np.concatenate(row, 1) if len(row) > 1 else row[0] for row in rows]
-    return _run(call, np.concatenate(parts) if len(parts) > 1 else parts[0], *maps)
+    return call(np.concatenate(parts) if len(parts) > 1 else parts[0], *maps)
 
 
 def _total(name: str, images: Sequence[Any], task: Callable[..., Any], add: Callable[..., Any]) -> Delayed:
@@ -611,7 +631,7 @@ def _in_parts(name: str, a: da.Array, shape: Any, named: dict[str, Any], chunks:
             if right <= left or bottom <= top:
                 return partial(_zeros, shape=shape)
             options["dst_roi"] = left, top, right - left, bottom - top
-        return _Part(function, size, rectangle[:2], shape, place, options)
+        return partial(_run, _Part(function, size, rectangle[:2], shape, place, options))
 
     return _by_rectangles(name, a, chunks, lambda i, j: spans(i, j, _SLACK), task, (named, shape, beyond))
 
@@ -651,7 +671,7 @@ def _resized(name: str, a: da.Array, shape: Any, named: dict[str, Any], chunks: 
         shift = [starts[k] + steps[k] * places[1 - k][at] for k, at in ((0, j), (1, i))]
         options = {"x_fr": steps[0], "y_fr": steps[1], "x_shift": shift[0], "y_shift": shift[1],
                    "inter": named["inter"]}
-        return _Part(function, size, rectangle[:2], (chunks[0][i], chunks[1][j]), options=options)
+        return partial(_run, _Part(function, size, rectangle[:2], (chunks[0][i], chunks[1][j]), options=options))
 
     return _by_rectangles(name, a, chunks, span, task, (named, shape))
 
@@ -670,7 +690,7 @@ def _remapped(a: da.Array, maps: Sequence[da.Array], named: dict[str, Any]) -> d
         return left, top, right, bottom
 
     def task(i: int, j: int, rectangle: Any) -> Any:
-        return _Part(function, size, rectangle[:2], (chunks[0][i], chunks[1][j]), options=named)
+        return partial(_run, _Part(function, size, rectangle[:2], (chunks[0][i], chunks[1][j]), options=named))
 
     return _by_rectangles("remap", a, maps[0].chunks, span, task, named, maps)
 
@@ -706,21 +726,19 @@ def _two(name: str, arguments: Sequence[Any], options: dict[str, Any]) -> Any:
     a, b = (_image(name, source) for source in sources)
     kind = _kind(_operations[name], _pixels(a, 2, 2), _pixels(b), *own, **options)
     more = 1 if "full" in name else 0 if "same" in name else -1
-    if a.ndim > 1 and b.ndim > 1:
-        smaller = any(x < y for x, y in zip(a.shape, b.shape))
-        if smaller and RULES[name]["kind"] == "match":
-            _front.fail(name, "BadSize", "the template is larger than the image")
-        large, small = (b, a) if smaller and more < 0 else (a, b)
-        rows, columns = (x + more * (y - 1) for x, y in zip(large.shape[:2], small.shape[:2]))
-        if min(rows, columns) < 1:
-            _front.fail(name, "BadSize", "neither image lies within the other")
-        shape = rows, columns, *a.shape[2:]
-    else:
+    if a.ndim == 1 or b.ndim == 1:
         refuse(name, "images (H, W) or (H, W, C) are expected", TypeError)
-    dtype = kind.dtype
+    smaller = any(x < y for x, y in zip(a.shape, b.shape))
+    if smaller and RULES[name]["kind"] == "match":
+        _front.fail(name, "BadSize", "the template is larger than the image")
+    large, small = (b, a) if smaller and more < 0 else (a, b)
+    rows, columns = (x + more * (y - 1) for x, y in zip(large.shape[:2], small.shape[:2]))
+    if min(rows, columns) < 1:
+        _front.fail(name, "BadSize", "neither image lies within the other")
+    shape = rows, columns, *a.shape[2:]
     if not blockwise:
-        return _whole(name, _operations[name], [a, b], shape, dtype, own=own, options=options)
-    if a.ndim == 1 or b.nbytes > LARGE or "same" in name:
+        return _whole(name, _operations[name], [a, b], shape, kind.dtype, own=own, options=options)
+    if smaller or b.nbytes > LARGE or "same" in name:
         refuse(name, "works by blocks of images, of the full or the valid extent, with a small second image", TypeError)
     height, width = b.shape[0] - 1, b.shape[1] - 1
     if beyond is not None and any(x < y for x, y in zip(_overlap(name, beyond), (width, height))):
@@ -730,7 +748,7 @@ def _two(name: str, arguments: Sequence[Any], options: dict[str, Any]) -> Any:
             {axis: (sides[0] + more, *sides[1:-1], sides[-1] + more) if len(sides) > 1 else (sides[0] + 2 * more,)
              for axis, (sides, more) in enumerate(zip(a.chunks[:2], (height, width)))})
     valid = _operations[name.replace("full", "valid")]
-    return _overlapped(a, partial(_against, valid, b.compute()), (0, 0, width, height), tuple(shape[2:]), dtype,
+    return _overlapped(a, partial(_against, valid, b.compute()), (0, 0, width, height), tuple(shape[2:]), kind.dtype,
                        border="valid", own=own, options=options)
 
 
