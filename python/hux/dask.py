@@ -525,8 +525,8 @@ def _with_maps(a: Any, x_map: Any, y_map: Any, name: str, options: Any) -> Any:
 
 class _Part:
     """A call of a geometric function with a part of its source, the pixels from (x, y) on of an image of the size
-    (w, h), for the part of its result from place on. The function gets the addresses where the whole images would begin;
-    what it looks at must be there."""
+    (w, h), for the part of its result from place on. The function gets the addresses where the whole images would
+    begin; what it looks at must be there."""
 
     def __init__(self, function: str, size: Any, source: Any, shape: Any, place: Any = None,
                  options: Any = None) -> None:

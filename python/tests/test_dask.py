@@ -58,7 +58,8 @@ def some(random, members, count):
 
 
 def images(value):
-    return isinstance(value, np.ndarray) and value.ndim > 0 or isinstance(value, list) and isinstance(value[0], np.ndarray)
+    first = value[0] if isinstance(value, list) else value
+    return isinstance(first, np.ndarray) and first.ndim > 0
 
 
 @pytest.mark.parametrize("name", [n for n, r in RULES.items() if r["kind"] in ("points", "moves", "measure")])
@@ -106,7 +107,8 @@ def arguments_of(name, random):
     parameters = hd._signature(OPERATIONS[name]).parameters
     own = {}
     if "footprint" in parameters:
-        own["footprint"] = np.array([[random.randrange(2) for _ in range(random.randrange(1, 6))]] * random.randrange(1, 6))
+        row = [random.randrange(2) for _ in range(random.randrange(1, 6))]
+        own["footprint"] = np.array([row] * random.randrange(1, 6))
         own["footprint"].flat[0] = 1
     elif "kernel" in parameters:
         flat = name != "filter"
@@ -119,7 +121,7 @@ def arguments_of(name, random):
             own["mask_size"], own["noise"] = (random.randrange(2, 6), random.randrange(2, 6)), 0.02
         elif "row" in name or "column" in name:
             own["mask_size"] = random.randrange(2, 7)
-    size = own.get("mask_size") or (own["footprint"].shape[::-1] if "footprint" in own else np.shape(own.get("kernel"))[::-1])
+    size = own.get("mask_size") or np.shape(own.get("footprint", own.get("kernel")))[::-1]
     if "anchor" in parameters and random.random() < 0.7:
         one = "row" in name or "column" in name
         own["anchor"] = random.randrange(size if isinstance(size, int) else size[0]) if one else tuple(
@@ -171,15 +173,16 @@ def test_resizes_and_maps_by_rectangles(dtype, channels):
     random = Random(int(channels + np.dtype(dtype).num))
     a = pixels((83, 190, channels)[:3 if channels > 1 else 2], dtype, 1)
     for inter in ("nearest", "linear", "cubic", "lanczos"):
-        x, y, shifts = random.uniform(0.1, 2.5), random.uniform(0.1, 2.5), (random.uniform(-9, 9), random.uniform(-9, 9))
+        x, y = random.uniform(0.1, 2.5), random.uniform(0.1, 2.5)
+        shifts = random.uniform(-9, 9), random.uniform(-9, 9)
         shape = max(1, int(83 * y)), max(1, int(190 * x))
         more = {"dst_roi": (3, 2, shape[1] - 5, shape[0] - 4)} if shape[1] > 20 and shape[0] > 20 else {}
-        lazy = hd.resize_sqr_pixel(chunked(a, random), x, y, *shifts, inter=inter, shape=shape, **more)
-        assert equal(lazy, hux.resize_sqr_pixel(a, x, y, *shifts, inter=inter, shape=shape, **more)), (x, y, shifts, inter)
+        more |= {"inter": inter, "shape": shape}
+        lazy = hd.resize_sqr_pixel(chunked(a, random), x, y, *shifts, **more)
+        assert equal(lazy, hux.resize_sqr_pixel(a, x, y, *shifts, **more)), (x, y, shifts, more)
         generator = np.random.default_rng(channels)
         rows, columns = np.mgrid[:70, :95].astype(np.float32)
-        maps = [columns * 2.1 - 3 + generator.uniform(-2, 2, (70, 95)), rows * 1.3 - 2 + generator.uniform(-2, 2, (70, 95))]
-        maps = [one.astype(np.float32) for one in maps]
+        maps = [(one + generator.uniform(-2, 2, (70, 95))).astype(np.float32) for one in (columns * 2.1 - 3, rows * 1.3 - 2)]
         maps[0][5, 7] = np.nan
         if inter == "lanczos":  # not of maps
             continue
@@ -193,7 +196,8 @@ def test_whole_images_and_blocks():
     lazy, lazy_f = chunked(a, random), chunked(f, random)
     turn = [[0.99, 0.02, 1], [-0.02, 0.99, 2]]
     for name, arguments, options in (
-            ("resize", ((35, 31),), {"inter": "cubic"}), ("resize", (), {"x_factor": 0.5, "y_factor": 0.4, "inter": "super"}),
+            ("resize", ((35, 31),), {"inter": "cubic"}),
+            ("resize", (), {"x_factor": 0.5, "y_factor": 0.4, "inter": "super"}),
             ("warp_affine", (turn,), {"smooth_edge": True}), ("rotate", (30,), {"roi": (4, 4, 30, 30)}),
             ("copy_replicate_border", (3, 4), {})):
         assert equal(getattr(hd, name)(lazy, *arguments, **options), OPERATIONS[name](a, *arguments, **options)), name
@@ -215,8 +219,8 @@ def test_whole_images_and_blocks():
         if extent != "same":
             whole = hux.convolve(f, taps, extent=extent)
             assert equal(hd.convolve(lazy_f, taps, extent=extent), whole)
-            assert np.allclose(hd.convolve(lazy_f, taps, extent=extent, blockwise=True, overlap=(3, 4)).compute(), whole,
-                               rtol=1e-4, atol=1e-3)
+            parts = hd.convolve(lazy_f, taps, extent=extent, blockwise=True, overlap=(3, 4)).compute()
+            assert np.allclose(parts, whole, rtol=1e-4, atol=1e-3)
     for kind, other in ((hd.FFT, hux.FFT), (hd.DFT, hux.DFT), (hd.DCT, hux.DCT)):
         plan, own = kind((64, 128)), other((64, 128))
         spectrum = plan.forward(lazy_f)
@@ -261,7 +265,8 @@ def test_errors_come_at_the_call():
     a = da.zeros((40, 50), dtype=np.uint8, chunks=17)
     for call, error, text in (
             (lambda: hd.add(a, a.astype(np.int16)), TypeError, "no promotion"),
-            (lambda: hd.add(a, a[:9]), ValueError, "no broadcasting"), (lambda: hd.add(a, 1, out=a), TypeError, "no out="),
+            (lambda: hd.add(a, a[:9]), ValueError, "no broadcasting"),
+            (lambda: hd.add(a, 1, out=a), TypeError, "no out="),
             (lambda: hd.add(a, 1, nothing=1), TypeError, "no keyword"), (lambda: hd.div(a, 0), hux.DivByZeroError, ""),
             (lambda: hd.filter_gauss(a, "1x3"), hux.BadMaskSizeError, ""),
             (lambda: hd.filter_box(a, (60, 3), border=None), hux.BadSizeError, ""),
@@ -269,7 +274,8 @@ def test_errors_come_at_the_call():
             (lambda: hd.warp_affine(a, np.eye(2, 3), blockwise=True), TypeError, "overlap="),
             (lambda: hd.match(a, np.zeros((50, 9), np.uint8)), hux.BadSizeError, "larger"),
             (lambda: hd.FFT((8, 8)).forward(a.astype(np.float32)), ValueError, "arrays of"),
-            (lambda: hd.add(a[:0], a[:0]), hux.BadSizeError, ""), (lambda: hd.add("x", 1), TypeError, "an array is expected"),
+            (lambda: hd.add(a[:0], a[:0]), hux.BadSizeError, ""),
+            (lambda: hd.add("x", 1), TypeError, "an array is expected"),
             (lambda: hd.add(a[a > 0], 1), ValueError, "chunks must be known")):
         with pytest.raises(error, match=text):
             call()
