@@ -11,7 +11,7 @@ HUX_BEGIN_C
  * may grant fewer. Results do not depend on it, but for the last bits of the few functions whose comments say so. */
 extern HUX_CORE_API Hux32u threads_omp_of_n_hux;
 
-/* SetThreadCount, GetThreadCount: set and get that number.
+/* SetThreadCount, GetThreadCount: set and get the number of threads that a call may use.
  * They may be called at any time, while other threads call the library too: a call takes the number once. */
 HUX_CORE_API void huxSetThreadCount(Hux32u count);
 HUX_CORE_API Hux32u huxGetThreadCount(void);
