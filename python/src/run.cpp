@@ -284,9 +284,7 @@ bool Run::choose() {
     return true;
   }
   if (!member) member = inPlace;
-  if (op.family == Family::window)  // its source is framed first
-    return out.same(a) || !a.touches(out) ||
-           refuse(PyExc_ValueError, "out shares memory with the source, and is not the same array");
+  if (op.family == Family::window) return windowMayWrite();
   // Sources that share bytes with out without being it are copied.
   const Layout before = layoutOf(a), beforeSecond = layoutOf(b);
   if ((a.touches(out) && !packSource(a)) || (two() && b.touches(out) && !packSource(b))) return false;
@@ -296,6 +294,17 @@ bool Run::choose() {
   if (!look(source, destination)) return explain(source);
   member = apart ? apart : inPlace;
   return true;
+}
+
+// The source of a window is framed first, so out may be the source. What shares but a part of it is a slip.
+bool Run::windowMayWrite() {
+  View source, destination;
+  const bool copied = a.first.own || out.first.own;
+  if (copied && !(source.take(a.first.object, false, op.name) && destination.take(out.first.object, true, op.name)))
+    return false;
+  const View &s = copied ? source : a.first, &d = copied ? destination : out.first;
+  return d.same(s) || !s.touches(d) ||
+         refuse(PyExc_ValueError, "out shares memory with the source, and is not the same array");
 }
 
 bool Run::explain(Type source) {

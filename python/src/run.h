@@ -88,6 +88,7 @@ class Run {
   bool takeOut();
   bool choose();
   bool look(Type source, Type destination);
+  bool windowMayWrite();
   bool explain(Type source);
   bool takeOwn();
   bool takeOwn(const Parameter& parameter, const Values& values, PyObject* value, char* place);

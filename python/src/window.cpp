@@ -153,7 +153,7 @@ bool Run::takeWindow(const Parameter& parameter, PyObject* value, char*) {
     }
     case Kind::footprint:
       if (!numbers.take(value, "footprint", op.name)) return false;
-      if (!numbers.whole || numbers.axes != 2)
+      if (numbers.axes != 2)
         return refuse(PyExc_TypeError, "footprint is an array of two axes, 0 where a pixel does not count");
       taps = numbers.as(Type::t8u, "footprint", op.name);
       maskSize = {int(numbers.columns), int(numbers.rows)};

@@ -1,4 +1,5 @@
 """What is not computed pixel by pixel gives the bits of hux.c: windows, geometry, tables, blocks, matching, plans."""
+import inspect
 import pickle
 import threading
 
@@ -95,6 +96,52 @@ def test_windows(operation):
             own["kernel"] = own["kernel"].tolist()
         with hux.threads(1):
             check(operation, entry, [a], dict(own, border=border), values, out)
+
+
+def test_large_windows_and_questions():
+    """Of large images only the edges are framed; the bits are those of a frame around the whole."""
+    pads = {"replicate": "edge", "symmetric": "symmetric", "reflect101": "reflect", "wrap": "wrap", "constant": "constant"}
+    for k, operation in enumerate(cases("window")):
+        entry = c._functions[operation.members[k % len(operation.members)]]
+        a, (border, mode) = source_of(entry, shape=(241, 283)), list(pads.items())[k % 5]
+        own = {"dtype": DTYPES[entry["types"][-1]]} | ({"alpha": "keep"} if entry["layout"] == "AC4" else {})
+        names = [p["name"] for p in entry["parameters"]]
+        if "maskSize" in names:
+            own |= {"footprint": TAPS} if "pMask" in names else {"kernel": TAPS} if "pKernel" in names else {"mask_size": 5}
+        if "pKernel" in names:
+            own["kernel"] = np.abs(TAPS[0] if operation is not hux.filter else TAPS).astype(DTYPES[entry["types"][0]])
+        left, top, right, bottom = operation.reach(a, **own)
+        whole = np.pad(a, [(top, bottom), (left, right), (0, 0)][:a.ndim], mode)
+        result = operation(a, **own, border=border)
+        expected = operation(whole, **own, border=None)
+        assert result.tobytes() == expected.tobytes(), (operation, entry["name"], border)
+        assert operation.shape_of(a, **own, border=border) == (result.shape, result.dtype)
+    empty = np.broadcast_to(np.uint8(0), (10**6, 10**6, 3))  # no pixel is read
+    assert hux.resize.shape_of(empty, (5, 4)) == ((4, 5, 3), np.uint8) and hux.add.shape_of(empty, 1)[0] == empty.shape
+    assert hux.cross_corr_full_norm.shape_of(empty[:9, :9, 0], empty[:3, :2, 0]) == ((11, 10), np.float32)
+    a = pixels((40, 30), np.uint8, 1)
+    coeffs = [[0.9, 0.2, 3], [-0.1, 1.1, 2]]
+    part = hux.warp_affine.part((30, 40), (5, 10), (8, 16), a[10:, 5:], coeffs, roi=(0, 0, 30, 40), shape=(12, 11))
+    assert np.array_equal(part, hux.warp_affine(a, coeffs)[16:28, 8:19])
+    with pytest.raises(TypeError):
+        hux.add.reach(a, 1)
+    assert str(inspect.signature(hux.filter_box)).startswith("(a, /, mask_size, anchor=None, *, border='replicate'")
+
+
+def test_windows_refuse_what_shares_memory_with_their_source():
+    big = pixels((20, 30), np.uint8, 1)
+    for out in (big[1:11], big[:10, 1:21], big[9::-1, :20]):
+        with pytest.raises(ValueError, match="shares memory"):
+            hux.filter_box(big[:10, :out.shape[1]], 3, out=out)
+    for source, out in ((big[::2], big[1::2]), (big[:, :15], big[:, 15:])):  # neighbours share none
+        expected = hux.filter_box(source, 3)
+        assert np.array_equal(hux.filter_box(source, 3, out=out), expected)
+    x = pixels((9, 8, 4), np.uint8, 2)
+    rgb, alpha = np.array(x[..., :3]), x[..., 3].copy()
+    for call in (lambda **o: hux.add(rgb, 9, **o), lambda **o: hux.filter_max(rgb, 3, **o), lambda **o: hux.resize(rgb, **o)):
+        assert np.array_equal(call(out=x[..., :3]), call(**{"size": (8, 9)} if call.__code__.co_names[1] == "resize" else {}))
+        assert np.array_equal(x[..., 3], alpha)
+    assert np.array_equal(hux.filter_min(rgb[..., 0], 3, out=rgb[..., 2]), hux.filter_min(rgb[..., 0], 3))
 
 
 def test_windows_of_every_border_and_the_valid_region():
