@@ -9,6 +9,7 @@ import math
 import os.path
 import re
 import sys
+import textwrap
 import tomllib
 from collections import Counter
 from pathlib import Path
@@ -630,17 +631,28 @@ TYPES = "none t8u t8s t16u t16s t32u t32s t32f t64f t16sc t32sc t32fc t64fc".spl
 PLACES = "kNoLayout kC1 kC2 kC3 kC4 kAC4 kP3 kP4 kOneOf3 kOneOf4 kVector".split()
 
 
+def print_reached(model):
+    """As tools/cpp_front does."""
+    rows, reasons = {}, {}
+    for f in model.registry["functions"]:
+        row = rows.setdefault((f["header"], f["family"]), [0, 0])
+        row[0] += f["name"] not in model.unreached
+        row[1] += 1
+    for name, reason in model.unreached.items():
+        reasons.setdefault(reason, []).append(name)
+    print("Functions of the C library that the operations of Python reach (hux.c has all):\n")
+    for (header, family), (own, of) in rows.items():
+        print(f"  {header:18} {family:24}{own:6} of {of}")
+    print(f"  {'all':43}{sum(r[0] for r in rows.values()):6} of {sum(r[1] for r in rows.values())}\n")
+    for reason, names in reasons.items():
+        print("\n".join(textwrap.wrap(f"Not reached, since {reason}: {', '.join(names)}", 120, subsequent_indent="  ")))
+
+
 def main():
     registry = json.loads(Path(sys.argv[1]).read_text())
     model = Model(registry)
     if sys.argv[2] == "--reached":
-        all_of = Counter(f["family"] for f in registry["functions"])
-        missing = Counter(f["family"] for f in registry["functions"] if f["name"] in model.unreached)
-        for family, count in all_of.items():
-            print(f"{family:24}{count - missing[family]:6} of {count}")
-        print(f"{'all':24}{len(registry['functions']) - len(model.unreached):6} of {len(registry['functions'])}")
-        for reason in dict.fromkeys(model.unreached.values()):
-            print(f"Not reached, since {reason}: {sum(r == reason for r in model.unreached.values())}")
+        print_reached(model)
         return
     folder = Path(sys.argv[2])
     index = write_table(model, folder / "table.cpp")
