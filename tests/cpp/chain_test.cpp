@@ -3,35 +3,18 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "hux/hux.hpp"
+#include "noise.h"
 
 namespace {
 
 using hux::border;
+using hux::equal;
 using hux::image;
+using hux::noise;
 using hux::status;
 using u8 = std::uint8_t;
 using s16 = std::int16_t;
-
-template <class T, int C>
-image<T, C> noise(hux::extent size, unsigned seed) {
-  image<T, C> out(size);
-  std::mt19937 random(seed);
-  for (int y = 0; y < size.height; ++y)
-    for (int x = 0; x < size.width * C; ++x)
-      out.row(y)[x] =
-          std::is_same_v<T, float> ? static_cast<T>(int(random() % 20001) - 10000) / 7 : static_cast<T>(random());
-  return out;
-}
-
-template <class T, int C>
-bool equal(const image<T, C>& a, const image<T, C>& b) {
-  for (int y = 0; y < a.height(); ++y)
-    if (std::memcmp(a.row(y), b.row(y), sizeof(T) * std::size_t(C * a.width())) != 0) return false;
-  return true;
-}
 
 const hux::extent kSizes[] = {{1, 1}, {5, 2}, {33, 7}, {17, 64}, {70, 45}, {3, 120}};
 const hux::running kRuns[] = {{}, {.rows = 1}, {.threads = 2, .rows = 5}, {.threads = 3, .rows = 16}, {.threads = 2}};

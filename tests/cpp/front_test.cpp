@@ -2,41 +2,19 @@
 #include <gtest/gtest.h>
 
 #include <numeric>
-#include <random>
 
 #include "hux/hux.hpp"
+#include "noise.h"
 
 namespace {
 
+using hux::equal;
 using hux::image;
+using hux::noise;
 using hux::status;
 using hux::view;
 using u8 = std::uint8_t;
 using s16 = std::int16_t;
-
-// Any values, also for floats small ones.
-template <class T, int C>
-image<T, C> noise(int width, int height, unsigned seed) {
-  image<T, C> out(width, height);
-  std::mt19937 random(seed);
-  for (int y = 0; y < height; ++y)
-    for (int x = 0; x < width * hux::detail::elements_of(C); ++x) {
-      if constexpr (std::is_same_v<T, std::complex<float>>)
-        out.row(y)[x] = {float(random() % 100), float(random() % 100) - 50};
-      else
-        out.row(y)[x] = static_cast<T>(random() % 251);
-    }
-  return out;
-}
-
-template <class T, int C>
-bool equal(const image<T, C>& a, const image<T, C>& b) {
-  if (a.width() != b.width() || a.height() != b.height()) return false;
-  for (int y = 0; y < a.height(); ++y)
-    if (std::memcmp(a.row(y), b.row(y), sizeof(T) * std::size_t(hux::detail::elements_of(C) * a.width())) != 0)
-      return false;
-  return true;
-}
 
 TEST(Front, OperandsAreInTheUsualOrder) {
   const auto a = noise<u8, 3>(37, 5, 1), b = noise<u8, 3>(37, 5, 2);
