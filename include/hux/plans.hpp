@@ -60,69 +60,42 @@ int bytes_for(const auto* record) {
   return bytes;
 }
 
-// The tables of each kind of Fourier transform.
-template <class T>
-struct fft_tables {
-  using Record = HuxiFFTRecord;
-  static constexpr auto make = members::fft_init_alloc_r<T>;
-  static constexpr auto free = members::fft_free_r<T>;
-  static constexpr auto buffer_size = members::fft_get_buf_size_r<T>;
-  template <class D, int C, class S>
-  static constexpr auto forward = members::fft_fwd_r_to_pack<D, C, S>;
-  template <class D, int C, class S>
-  static constexpr auto forward_in_place = members::fft_fwd_r_to_pack_in_place<D, C, S>;
-  template <class D, int C, class S>
-  static constexpr auto inverse = members::fft_inv_pack_to_r<D, C, S>;
-  template <class D, int C, class S>
-  static constexpr auto inverse_in_place = members::fft_inv_pack_to_r_in_place<D, C, S>;
-};
-template <>
-struct fft_tables<std::complex<float>> {
-  using Record = HuxiFFTRecord;
-  using T = std::complex<float>;
-  static constexpr auto make = members::fft_init_alloc_c<T>;
-  static constexpr auto free = members::fft_free_c<T>;
-  static constexpr auto buffer_size = members::fft_get_buf_size_c<T>;
-  template <class D, int C, class S>
-  static constexpr auto forward = members::fft_fwd_c_to_c<D, C>;
-  template <class D, int C, class S>
-  static constexpr auto forward_in_place = members::fft_fwd_c_to_c_in_place<D, C>;
-  template <class D, int C, class S>
-  static constexpr auto inverse = members::fft_inv_c_to_c<D, C>;
-  template <class D, int C, class S>
-  static constexpr auto inverse_in_place = members::fft_inv_c_to_c_in_place<D, C>;
-};
-template <class T>
-struct dft_tables {
-  using Record = HuxiDFTRecord;
-  static constexpr auto make = members::dft_init_alloc_r<T>;
-  static constexpr auto free = members::dft_free_r<T>;
-  static constexpr auto buffer_size = members::dft_get_buf_size_r<T>;
-  template <class D, int C, class S>
-  static constexpr auto forward = members::dft_fwd_r_to_pack<D, C, S>;
-  template <class D, int C, class S>
-  static constexpr auto forward_in_place = members::dft_fwd_r_to_pack_in_place<D, C, S>;
-  template <class D, int C, class S>
-  static constexpr auto inverse = members::dft_inv_pack_to_r<D, C, S>;
-  template <class D, int C, class S>
-  static constexpr auto inverse_in_place = members::dft_inv_pack_to_r_in_place<D, C, S>;
-};
-template <>
-struct dft_tables<std::complex<float>> {
-  using Record = HuxiDFTRecord;
-  using T = std::complex<float>;
-  static constexpr auto make = members::dft_init_alloc_c<T>;
-  static constexpr auto free = members::dft_free_c<T>;
-  static constexpr auto buffer_size = members::dft_get_buf_size_c<T>;
-  template <class D, int C, class S>
-  static constexpr auto forward = members::dft_fwd_c_to_c<D, C>;
-  template <class D, int C, class S>
-  static constexpr auto forward_in_place = members::dft_fwd_c_to_c_in_place<D, C>;
-  template <class D, int C, class S>
-  static constexpr auto inverse = members::dft_inv_c_to_c<D, C>;
-  template <class D, int C, class S>
-  static constexpr auto inverse_in_place = members::dft_inv_c_to_c_in_place<D, C>;
-};
+// The tables of each kind of Fourier transform, of real images and of complex ones.
+#define HUX_FOURIER_TABLES(kind, record)                                                      \
+  template <class T>                                                                          \
+  struct kind##_tables {                                                                      \
+    using Record = record;                                                                    \
+    static constexpr auto make = members::kind##_init_alloc_r<T>;                             \
+    static constexpr auto free = members::kind##_free_r<T>;                                   \
+    static constexpr auto buffer_size = members::kind##_get_buf_size_r<T>;                    \
+    template <class D, int C, class S>                                                        \
+    static constexpr auto forward = members::kind##_fwd_r_to_pack<D, C, S>;                   \
+    template <class D, int C, class S>                                                        \
+    static constexpr auto forward_in_place = members::kind##_fwd_r_to_pack_in_place<D, C, S>; \
+    template <class D, int C, class S>                                                        \
+    static constexpr auto inverse = members::kind##_inv_pack_to_r<D, C, S>;                   \
+    template <class D, int C, class S>                                                        \
+    static constexpr auto inverse_in_place = members::kind##_inv_pack_to_r_in_place<D, C, S>; \
+  };                                                                                          \
+  template <>                                                                                 \
+  struct kind##_tables<std::complex<float>> {                                                 \
+    using Record = record;                                                                    \
+    using T = std::complex<float>;                                                            \
+    static constexpr auto make = members::kind##_init_alloc_c<T>;                             \
+    static constexpr auto free = members::kind##_free_c<T>;                                   \
+    static constexpr auto buffer_size = members::kind##_get_buf_size_c<T>;                    \
+    template <class D, int C, class S>                                                        \
+    static constexpr auto forward = members::kind##_fwd_c_to_c<D, C>;                         \
+    template <class D, int C, class S>                                                        \
+    static constexpr auto forward_in_place = members::kind##_fwd_c_to_c_in_place<D, C>;       \
+    template <class D, int C, class S>                                                        \
+    static constexpr auto inverse = members::kind##_inv_c_to_c<D, C>;                         \
+    template <class D, int C, class S>                                                        \
+    static constexpr auto inverse_in_place = members::kind##_inv_c_to_c_in_place<D, C>;       \
+  };
+HUX_FOURIER_TABLES(fft, HuxiFFTRecord)
+HUX_FOURIER_TABLES(dft, HuxiDFTRecord)
+#undef HUX_FOURIER_TABLES
 
 // The binary logarithm of a power of two, or what the callee refuses.
 inline int order_of(int length) {
