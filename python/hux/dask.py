@@ -339,10 +339,12 @@ def _points(name: str, arguments: Sequence[Any], options: dict[str, Any]) -> Any
         shape, chunks = options.pop("shape", None), options.pop("chunks", "auto")
         if shape is None:
             refuse(name, "takes onto=, or shape= and dtype=", TypeError)
-        kind = _kind(operation, *own, shape=tuple(shape), **options) if rule.get("placed") else \
-            _kind(operation, *own, shape=(1,) * min(len(shape), 2) + tuple(shape[2:]), **options)
+        shape = tuple(shape)
+        kind = _kind(operation, *own, shape=(1,) * len(shape[:2]) + shape[2:], **options)
         if rule.get("placed"):
-            return da.from_array(kind, chunks=-1)
+            task = partial(_run, operation, *own, shape=shape, **options)
+            key = f"hux-{name}-{tokenize(task)}"
+            return _array(key, {(key, *(0,) * len(shape)): (task,)}, tuple((side,) for side in shape), kind.dtype, [])
         onto = da.zeros(shape, dtype=kind.dtype, chunks=chunks)
         options.pop("dtype", None)
     first = _flat(images)[0] if images else None
