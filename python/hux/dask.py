@@ -145,7 +145,7 @@ def _image(name: str, a: Any, like: da.Array | None = None) -> Any:
         _front.fail(name, "BadSize", "an empty array")
     if like is not None and (a.shape[:2] != like.shape[:2] or (a.ndim == 1) != (like.ndim == 1)):
         refuse(name, "the sources differ in shape; there is no broadcasting")
-    chunks = like.chunks[:2] if like is not None else a.chunks[:2]
+    chunks = like.chunks[:2] if like is not None else [tuple(filter(None, sides)) for sides in a.chunks[:2]]
     return a.rechunk((*chunks, *((side,) for side in a.shape[2:])))
 
 
@@ -205,7 +205,7 @@ def _whole(name: str, call: Callable[..., Any], images: Sequence[Any], shape: Se
     size = sum(block.nbytes for block in blocks)
     if size > LARGE:
         warnings.warn(f"{name} takes the whole image, {size / 2**30:.1f} GiB, in one task", PerformanceWarning,
-                      stacklevel=5)
+                      stacklevel=4)
     task = partial(_on_blocks, call=call, counts=_counts(images), **how)
     key = f"hux-{name}-{tokenize(task, [block.name for block in blocks], tuple(shape))}"
     return _array(key, {(key, *(0,) * len(shape)): (task, *((block.name, *(0,) * block.ndim) for block in blocks))},

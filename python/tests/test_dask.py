@@ -279,8 +279,11 @@ def test_errors_come_at_the_call():
             (lambda: hd.add(a[a > 0], 1), ValueError, "chunks must be known")):
         with pytest.raises(error, match=text):
             call()
-    with pytest.warns(da.PerformanceWarning, match="in one task"):
+    with pytest.warns(da.PerformanceWarning, match="in one task") as caught:
         hd.rotate(da.zeros((2**15, 2**15, 3), dtype=np.uint8), 3)
+    assert caught[0].filename == __file__
+    some = da.concatenate([a[:0], a, a[:0]])  # chunks without rows
+    assert equal(hd.filter_gauss(some), hux.filter_gauss(np.zeros((40, 50), np.uint8)))
     assert pickle.loads(pickle.dumps(hd.add)) is hd.add and "however it is chunked" in hd.add.__doc__
     before = hux.get_num_threads()
     hd.add(a, 1).compute(scheduler="threads")
