@@ -711,7 +711,8 @@ def _borders(name: str, arguments: Sequence[Any], options: dict[str, Any]) -> An
     a = _image(name, source)
     named = _named(name, arguments, options)
     if a.ndim == 1:
-        return _borders(name, [a[None], *arguments[1:]], options)
+        made = _borders(name, [a[None], *arguments[1:]], options)
+        return made[0] if made.shape[0] == 1 else made
     kind = _kind(_operations[name], _pixels(a), *own, **options | {"shape": None})
     shape = (a.shape[0] - 1 + kind.shape[0], a.shape[1] - 1 + kind.shape[1]) if named["shape"] is None else \
         _front.rows_columns(name, named["shape"])
