@@ -5,7 +5,7 @@ import hux
 
 
 def images(a, b):
-    """Fresh names for an example to be run among: a, b, gray, noisy, shapes, mask, f as docs/site/examples.toml tells."""
+    """Fresh names for an example to be run among, as docs/site/examples.toml tells them."""
     height, width = a.shape[:2]
     y, x = np.mgrid[:height, :width]
     gray = hux.copy(a[..., 1])

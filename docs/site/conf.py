@@ -13,6 +13,7 @@ html_css_files = ["hux.css"]
 html_js_files = ["names-index.js", "names.js"]
 html_show_sourcelink = False
 html_copy_source = False
+html_show_copyright = False
 html_sidebars = {
     "**": ["sidebar/brand.html", "sidebar/names.html", "sidebar/scroll-start.html", "sidebar/navigation.html",
            "sidebar/scroll-end.html"]

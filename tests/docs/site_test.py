@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Looks at the reference site as a reader does: by its links, its examples and pictures, and, where there is chromium, in
-a browser without a window, on a phone's width, in the dark.
+"""Looks at the reference site as a reader does: by its links, its examples and pictures, and, where there is chromium,
+in a browser without a window, on a phone's width, in the dark.
 
   tests/docs/site_test.py FOLDER
 """
