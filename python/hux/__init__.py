@@ -16,8 +16,8 @@ import warnings as _warnings
 import numpy as _np
 
 from . import _front, _hux, _operations
-from ._front import complex_int16, complex_int32
 from ._chain import chain  # noqa: F401
+from ._front import complex_int16, complex_int32
 from ._hux import Operation  # noqa: F401
 from ._plans import DCT, DFT, FFT, WT, DeconvFFT, DeconvLR, Moments, moments  # noqa: F401
 from ._short import (Seed, convolve, get_num_threads, histogram, match, norm, pack_bits,  # noqa: F401

@@ -383,6 +383,29 @@ class _Plan:
             _report(status, _FUNCTION_NAMES[step.function], step.operation)
 
 
+class _Only:
+    """Of a function, the image that it gives at a place."""
+
+    def __init__(self, function, k):
+        self.function, self.k = function, k
+
+    def __call__(self, *images):
+        found = []
+        _Plan.walk(self.function(*images), lambda image: found.append(image), lambda number: None)
+        return found[self.k]
+
+
+class _Block:
+    """A chain for blocks, with the other arguments in their places."""
+
+    def __init__(self, chain, own):
+        self.chain, self.own = chain, own
+
+    def __call__(self, *blocks):
+        left = iter(blocks)
+        return self.chain(*(next(left) if own is None else own for own in self.own), threads=1)
+
+
 class Chain:
     """What hux.chain gives: a function of images."""
 
@@ -404,12 +427,45 @@ class Chain:
         out      an array for what the chain gives, or a tuple of them; else they are new
         threads  how many share the rows; hux.get_num_threads() of them where it is None
         """
+        if any(hasattr(image, "__dask_graph__") for image in images):
+            return self._blockwise(images, out)
         plan, arrays = self._plan(images)
         if plan is None:
             return self._function(*images)
         if threads is not None and threads < 1:
             refuse("chain", f"threads is a number above 0, not {threads!r}")
         return plan.run(arrays, out, threads or 0, self._rows)
+
+    def _blockwise(self, images: tuple[Any, ...], out: Any) -> Any:
+        """On dask arrays: block by block, each with the pixels around it that the chain reads."""
+        import dask.array as da
+        from dask.array.overlap import ensure_minimum_chunksize, overlap, trim_internal
+        arrays = [image for image in images if hasattr(image, "__dask_graph__")]
+        if out is not None or len(arrays) < sum(hasattr(image, "shape") for image in images):
+            refuse("chain", "takes dask arrays alone, if any, and no out= with them", TypeError)
+        first, plan = arrays[0], self._settle(images, arrays)
+        if plan.wraps:
+            refuse("chain", 'border="wrap" within a chain needs the whole image: compute() it before', TypeError)
+        if not plan.outputs or any(step.fields for step in plan.steps):
+            refuse("chain", "measures have no blocks: end the chain before them, and take those of hux.dask", TypeError)
+        left, top, right, bottom = plan.reach
+        rows = ensure_minimum_chunksize(max(top, bottom) + 1, first.chunks[0]) if top + bottom else first.chunks[0]
+        columns = ensure_minimum_chunksize(max(left, right) + 1, first.chunks[1]) if left + right else first.chunks[1]
+        blocks = [a.rechunk((rows, columns, *((-1,) * (a.ndim - 2)))) for a in arrays]
+
+        depth, none = {0: (top, bottom), 1: (left, right)}, {0: "none", 1: "none"}
+        wide = [overlap(a, depth, none) if any(plan.reach) else a for a in blocks]
+        own = tuple(None if hasattr(image, "__dask_graph__") else image for image in images)
+        places = [index for k, a in enumerate(wide) for index in (a, (0, 1, 10 + k)[:a.ndim])]
+
+        def made(k, dtype, shape):
+            channels = shape[2:]
+            whole = da.blockwise(_Block(Chain(_Only(self._function, k), self._rows), own), (0, 1, 2)[:len(shape)], *places,
+                                 new_axes={2: channels[0]} if channels else None, concatenate=True, align_arrays=False,
+                                 dtype=dtype, meta=np.empty((0,) * len(shape), dtype))
+            return trim_internal(whole, depth, none) if any(plan.reach) else whole
+        results = iter([made(k, dtype, shape) for k, (dtype, shape) in enumerate(plan.kinds)])
+        return plan.walk(plan.result, lambda image: next(results), lambda number: number)
 
     def reach(self, *images: Any) -> tuple[int, int, int, int]:
         """How far around a pixel such images are read for a pixel of what the chain gives: (left, top, right, bottom)."""
@@ -420,7 +476,8 @@ class Chain:
 
     def _plan(self, images: tuple[Any, ...]) -> tuple[Any, list[NDArray[Any]]]:
         """The plan for such images, and the arrays in their order; none for images of another chain."""
-        arrays, key = [], []
+        arrays: list[Any] = []
+        key: list[Any] = []
         for given in images:
             if type(given) is np.ndarray:
                 arrays.append(given)

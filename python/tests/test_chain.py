@@ -135,8 +135,8 @@ A = pixels((20, 30), np.uint8, 10)
     (lambda a: hux.match(a, a), TypeError, "cross_corr_valid_norm: is not local"),
     (lambda a: hux.mean(a), TypeError, "mean: is not local"),
     (lambda a: hux.sum(hux.convert(a, "float32")), TypeError, "sum: .* end the chain"),
-    (lambda a: hux.filter_box(hux.convert(a, "float32"), 3), TypeError, "filter_box: on float32 sums"),
-    (lambda a: hux.filter_box(a, (500, 500)), TypeError, "filter_box: on uint8 with such a mask sums"),
+    (lambda a: hux.filter_box(hux.convert(a, "float32"), 3), TypeError, "filter_box: on float32, by sums of floats"),
+    (lambda a: hux.filter_box(a, (500, 500)), TypeError, "filter_box: on uint8, by sums of floats"),
     (lambda a: hux.add(a, hux.sum(a)), TypeError, "add: a number that is known only when"),
     (lambda a: hux.add(a, A), TypeError, "add: an array is no image of the chain"),
     (lambda a: hux.not_(a, out=a), TypeError, "not_: no out= within a chain"),
@@ -197,3 +197,23 @@ def test_threads_and_pickles():
     for k in range(4):
         same(found[k], hux.not_(hux.filter_box(hux.add(images[k], k), 3)))
     same(pickle.loads(pickle.dumps(chain))(A), ~A)
+
+
+def test_dask_arrays():
+    da = pytest.importorskip("dask.array")
+    a, b = pixels((90, 70, 3), np.uint8, 11), pixels((90, 70), np.uint8, 12)
+
+    def function(a, b, level):
+        edges = hux.filter_box(hux.filter_sobel_horiz(hux.copy(a[..., 1])), (4, 7), border="symmetric")
+        return hux.filter_median(a, 5), hux.threshold_gt(hux.add(edges, b), level)
+
+    chain = hux.chain(function)
+    for chunks in ((90, 70), (31, 17), (4, 64)):
+        x, y = da.from_array(a, chunks=(*chunks, 3)), da.from_array(b, chunks=chunks)
+        got = chain(x, y, 50)
+        assert [image.shape for image in got] == [a.shape, b.shape]
+        same(tuple(image.compute(scheduler="threads") for image in got), chain(a, b, 50))
+    with pytest.raises(TypeError, match="measures have no blocks"):
+        hux.chain(hux.sum)(y)
+    with pytest.raises(TypeError, match="wrap"):
+        hux.chain(lambda a: hux.filter_box(a, 3, border="wrap"))(y)
