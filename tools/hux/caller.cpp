@@ -30,6 +30,12 @@ int sizeOf(Element element) {
   return 1;
 }
 
+// In single precision. Conversions of some machines take a NaN's sign away.
+Hux32f single(double number) {
+  if (!std::isnan(number)) return static_cast<Hux32f>(number);
+  return std::copysign(std::numeric_limits<Hux32f>::quiet_NaN(), std::signbit(number) ? -1.0f : 1.0f);
+}
+
 bool isFloat(Element element) { return element == Element::f32 || element == Element::f64; }
 
 // The least and the greatest of an integer type; of floats a range that is everyday.
@@ -74,10 +80,7 @@ void store(Element element, std::byte* at, double number) {
     case Element::s64:
       return put(static_cast<Hux64s>(number));
     case Element::f32:
-      // Conversions of some machines take a NaN's sign away.
-      return put(std::isnan(number)
-                     ? std::copysign(std::numeric_limits<Hux32f>::quiet_NaN(), std::signbit(number) ? -1.0f : 1.0f)
-                     : static_cast<Hux32f>(number));
+      return put(single(number));
     case Element::f64:
       return put(number);
     case Element::none:
@@ -348,13 +351,13 @@ Value Caller::valueOf(const Argument& argument, const double* n) {
       value.c32 = {whole(0), whole(1)};
       break;
     case 'E':
-      value.c32f = {static_cast<float>(n[0]), static_cast<float>(n[1])};
+      value.c32f = {single(n[0]), single(n[1])};
       break;
     case 'F':
       value.c64f = {n[0], n[1]};
       break;
     case 'f':
-      value.f = static_cast<float>(n[0]);
+      value.f = single(n[0]);
       break;
     case 'd':
       value.d = n[0];
