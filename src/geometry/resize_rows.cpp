@@ -17,6 +17,37 @@ void forStrips(const ResizePlane& p, Index columnsAtOnce, Strip strip) {
     strip(std::min(columnsAtOnce, p.x.count - done), walk, p.dst + done * p.format.pixelBytes());
 }
 
+// Images that caches do not hold.
+constexpr Index kLargeImage = 2 << 20;
+bool isLarge(const ResizePlane& p) { return p.y.image * p.rowBytes() >= kLargeImage; }
+
+// The taps of the destination's rows, one after the other. Whatever rows of a large source the following one needs in
+// addition are asked for while this one is computed.
+template <class Mode>
+class RowTaps {
+ public:
+  explicit RowTaps(const ResizePlane& p) : p_(p), large_(isLarge(p)), walk_(p.y), next_(Mode::tap(p.y, walk_.next())) {}
+
+  template <class Columns>
+  Tap next(const Columns& columns) {
+    const Tap tap = next_;
+    if (++row_ < p_.y.count) {
+      next_ = Mode::tap(p_.y, walk_.next());
+      const Index last = rowsOf<Mode>(p_.y, tap).back();
+      for (Index row : rowsOf<Mode>(p_.y, next_))
+        if (large_ && row > last) columns.fetch(p_.src + row * p_.srcStep);
+    }
+    return tap;
+  }
+
+ private:
+  const ResizePlane& p_;
+  bool large_;
+  Walk walk_;
+  Tap next_;
+  Index row_ = 0;
+};
+
 template <class T>
 void linearIntegers(const ResizePlane& p) {
   const Format& f = p.format;
@@ -30,17 +61,18 @@ void linearIntegers(const ResizePlane& p) {
       }
     }
     columns.finish(p.rowBytes());
+    const bool inside = columns.inside();
     LineCache<2, Hux16s> cache;
-    Walk rows(p.y);
+    RowTaps<Linear> rows(p);
     for (Index y = 0; y < p.y.count; ++y) {
-      const Tap tap = Linear::tap(p.y, rows.next());
+      const Tap tap = rows.next(columns);
       const auto lines = cache.rows(rowsOf<Linear>(p.y, tap),
                                     [&](Index row, Hux16s* line) { columns.along(p.src + row * p.srcStep, line); });
       auto* to = reinterpret_cast<Element<T>*>(dst + y * p.dstStep);
       if (f.touched < f.stride)
-        acrossPairs<3>(lines, q14Of(tap.fraction), to, n * f.stride);
+        acrossPairs<3>(lines, q14Of(tap.fraction), to, n * f.stride, inside);
       else
-        acrossPairs<4>(lines, q14Of(tap.fraction), to, n * f.stride);
+        acrossPairs<4>(lines, q14Of(tap.fraction), to, n * f.stride, inside);
     }
   });
 }
@@ -58,9 +90,9 @@ void floats(const ResizePlane& p) {
     }
     columns.finish(p.rowBytes());
     LineCache<Mode::taps, Hux32f> cache;
-    Walk rows(p.y);
+    RowTaps<Mode> rows(p);
     for (Index y = 0; y < p.y.count; ++y) {
-      const Tap tap = Mode::tap(p.y, rows.next());
+      const Tap tap = rows.next(columns);
       Mode::weigh(tap.fraction, weights);
       const auto lines = cache.rows(rowsOf<Mode>(p.y, tap),
                                     [&](Index row, Hux32f* line) { columns.along(p.src + row * p.srcStep, line); });
@@ -73,60 +105,49 @@ void floats(const ResizePlane& p) {
   });
 }
 
-// Whole pixels, by the bytes of them that move.
-template <std::size_t Bytes>
-void movePixels(const std::byte* row, const Index* offsets, std::byte* dst, Index pixelBytes, Index n) {
-  for (Index j = 0; j < n; ++j) std::memcpy(dst + j * pixelBytes, row + offsets[j], Bytes);
+// Whole pixels of so many bytes, of which the first `Moved` move. Those of twelve go in sixteen while another one
+// follows on both sides; the last of a row lies at `last`.
+template <std::size_t Moved, Index Bytes>
+void movePixels(const std::byte* row, const Index* offsets, std::byte* dst, Index n, Index last) {
+  Index j = 0;
+  if (Moved == 12 && Bytes == 12)
+    for (; j < n - 1 && offsets[j] < last; ++j) std::memcpy(dst + j * Bytes, row + offsets[j], 16);
+  for (; j < n; ++j) std::memcpy(dst + j * Bytes, row + offsets[j], Moved);
+}
+using MovePixels = void (*)(const std::byte*, const Index*, std::byte*, Index, Index);
+template <Index Size>
+MovePixels moveOf(const Format& f) {
+  return f.stride == 1    ? movePixels<Size, Size>
+         : f.stride == 3  ? movePixels<3 * Size, 3 * Size>
+         : f.touched == 3 ? movePixels<3 * Size, 4 * Size>
+                          : movePixels<4 * Size, 4 * Size>;
 }
 
 void nearest(const ResizePlane& p) {
   const Format& f = p.format;
   const Index pixelBytes = f.pixelBytes();
+  const bool large = isLarge(p);
+  const MovePixels move = f.elementBytes() == 1 ? moveOf<1>(f) : f.elementBytes() == 2 ? moveOf<2>(f) : moveOf<4>(f);
   forStrips(p, kStrip / f.stride, [&](Index n, Walk& walk, std::byte* dst) {
     Index offsets[kStrip];
     for (Index j = 0; j < n; ++j) offsets[j] = walk.nextNearest() * pixelBytes;
-    // Vectors hold whole bytes of neighbouring pixels; what is left of the last one, and pixels with a gap, go one by
-    // one.
-    const Index runs = f.touched < f.stride ? 0 : n * pixelBytes / kLaneBytes * kWindows;
+    // Vectors hold whole bytes of neighbouring pixels; what is left of the last one, large pixels and those with a gap
+    // go one by one.
+    const Index runs = f.touched < f.stride || pixelBytes >= 8 ? 0 : n * pixelBytes / kLaneBytes * kWindows;
     Windows windows;
-    windows.build<1, 1>(runs, p.rowBytes(), 0, [&](Index byte) {
+    windows.build<1, 1, 4>(runs, p.rowBytes(), 0, [&](Index byte) {
       const auto pixel = unsigned(byte) / unsigned(pixelBytes);
       return offsets[pixel] + Index(unsigned(byte) % unsigned(pixelBytes));
     });
     Walk rows(p.y);
+    Index at = rows.nextNearest();
     for (Index y = 0; y < p.y.count; ++y) {
-      const std::byte* row = p.src + rows.nextNearest() * p.srcStep;
+      const std::byte* row = p.src + at * p.srcStep;
+      if (y + 1 < p.y.count) at = rows.nextNearest();
+      if (large) fetchPiece(p.src + at * p.srcStep + offsets[0], offsets[n - 1] - offsets[0] + pixelBytes);
       std::byte* to = dst + y * p.dstStep;
-      const Index done = windows.copy(row, to, runs) / pixelBytes;
-      const auto move = [&]<std::size_t Bytes>(std::integral_constant<std::size_t, Bytes>) {
-        movePixels<Bytes>(row, offsets + done, to + done * pixelBytes, pixelBytes, n - done);
-      };
-      switch (f.touched * f.elementBytes()) {
-        case 1:
-          move(std::integral_constant<std::size_t, 1>{});
-          break;
-        case 2:
-          move(std::integral_constant<std::size_t, 2>{});
-          break;
-        case 3:
-          move(std::integral_constant<std::size_t, 3>{});
-          break;
-        case 4:
-          move(std::integral_constant<std::size_t, 4>{});
-          break;
-        case 6:
-          move(std::integral_constant<std::size_t, 6>{});
-          break;
-        case 8:
-          move(std::integral_constant<std::size_t, 8>{});
-          break;
-        case 12:
-          move(std::integral_constant<std::size_t, 12>{});
-          break;
-        case 16:
-          move(std::integral_constant<std::size_t, 16>{});
-          break;
-      }
+      const Index done = windows.copy(row, to) / pixelBytes;
+      move(row, offsets + done, to + done * pixelBytes, n - done, (p.x.image - 1) * pixelBytes);
     }
   });
 }
@@ -176,10 +197,7 @@ bool copies(const ResizePlane& p, bool nearest) {
   return true;
 }
 
-}  // namespace
-
-void resizePlane(const ResizePlane& p, HuxiInterpolation mode) {
-  if (copies(p, mode == huxiInterNearest)) return;
+void resizeBand(const ResizePlane& p, HuxiInterpolation mode) {
   if (mode == huxiInterNearest) return nearest(p);
   switch (p.format.type) {
     case ElementType::u8:
@@ -188,6 +206,24 @@ void resizePlane(const ResizePlane& p, HuxiInterpolation mode) {
       return resize<Hux16u>(p, mode);
     case ElementType::f32:
       return resize<Hux32f>(p, mode);
+  }
+}
+
+// Strips of a few rows at a time: of large images that are wider than a strip, so that the pages of rows are left only
+// when all strips have been there.
+constexpr Index kBandRows = 128;
+
+}  // namespace
+
+void resizePlane(const ResizePlane& p, HuxiInterpolation mode) {
+  if (copies(p, mode == huxiInterNearest)) return;
+  const bool inBands = isLarge(p) && p.x.count * p.format.stride > kStrip;
+  Walk rows(p.y);
+  ResizePlane band = p;
+  for (Index y = 0; y < p.y.count; y += band.y.count) {
+    band.y = rows.take(inBands ? std::min(kBandRows, p.y.count - y) : p.y.count);
+    band.dst = p.dst + y * p.dstStep;
+    resizeBand(band, mode);
   }
 }
 

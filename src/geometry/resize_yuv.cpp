@@ -49,12 +49,12 @@ void ownResizeYUY2nn(const Packed& p) {
     }
     const Index runs = 4 * n / kLaneBytes * kWindows;
     Windows windows;
-    windows.build<1, 1>(runs, 2 * p.srcWidth, 0, [&](Index byte) { return from[byte]; });
+    windows.build<1, 1, 4>(runs, 2 * p.srcWidth, 0, [&](Index byte) { return from[byte]; });
     Walk rows(p.rows);
     for (Index y = 0; y < p.rows.count; ++y) {
       const std::byte* row = p.src + rows.nextNearest() * p.srcStep;
       std::byte* to = dst + y * p.dstStep;
-      for (Index i = windows.copy(row, to, runs); i < 4 * n; ++i) to[i] = row[from[i]];
+      for (Index i = windows.copy(row, to); i < 4 * n; ++i) to[i] = row[from[i]];
     }
   });
 }
@@ -78,7 +78,7 @@ void ownResizeYUY2linear(const Packed& p) {
       const Tap tap = Linear::tap(p.rows, rows.next());
       const auto lines = cache.rows(rowsOf<Linear>(p.rows, tap),
                                     [&](Index row, Hux16s* line) { columns.along(p.src + row * p.srcStep, line); });
-      acrossPairs<4>(lines, q14Of(tap.fraction), reinterpret_cast<Element<Hux8u>*>(dst + y * p.dstStep), 4 * n);
+      acrossPairs<4>(lines, q14Of(tap.fraction), reinterpret_cast<Element<Hux8u>*>(dst + y * p.dstStep), 4 * n, true);
     }
   });
 }

@@ -54,6 +54,15 @@ class Walk {
     return {Index(whole + axis_.origin), at - whole};
   }
 
+  // The next n positions as an axis of their own; the walk goes on behind them.
+  Axis take(Index n) {
+    Axis part = axis_;
+    part.count = n;
+    (axis_.afresh ? part.origin : part.start) = at_;
+    for (Index i = 0; i < n; ++i) at_ += axis_.afresh ? 1 : axis_.step;
+    return part;
+  }
+
   // The source pixel that the next destination pixel copies.
   Index nextNearest() {
     if (!axis_.afresh) return next().whole;

@@ -74,6 +74,21 @@ V gatherLanes(const LaneType<V>* base, Lanes<Hux32s, lanesIn<V>> at) {
   return lanesOf<V>([&](int i) { return base[at[i]]; });
 }
 
+// Picks from windows of eight floats, each of four neighbouring samples and of those behind them.
+#if defined(__AVX2__)
+inline constexpr bool kPicksFloats = kLaneBytes == 32;
+#else
+inline constexpr bool kPicksFloats = false;
+#endif
+using FloatWindow = Lanes<Hux32f, 8>;
+inline FloatWindow pickFloats(FloatWindow v, Lanes<Hux32s, 8> pick) {
+#if defined(__AVX2__)
+  return FloatWindow(_mm256_permutevar8x32_ps(__m256(v), __m256i(pick)));
+#else
+  return lanesOf<FloatWindow>([&](int i) { return v[pick[i]]; });
+#endif
+}
+
 // The bytes of two words, each in a lane: those of the word at a from lane 0 on, those of the word at b from its byte
 // `From` on in lane 4 and behind, as far as the word goes. What the lanes behind it hold is left open.
 template <int From>
@@ -143,6 +158,38 @@ inline auto packBytes(Lanes<Hux16s, 8> a, Lanes<Hux16s, 8> b) {
   return Lanes<Hux8u, 16>(vqmovun_high_s16(vqmovun_s16(int16x8_t(a)), int16x8_t(b)));
 }
 #endif
+
+// Of signed 16-bit lanes the product, rounded, less 15 bits: (a b + 2^14) >> 15, for all but two lowest numbers.
+template <class V>
+V roundedProducts(V a, V b) {
+  return convert<Hux16s>((convert<Hux32s>(a) * convert<Hux32s>(b) + (1 << 14)) >> 15);
+}
+// Each two neighbouring bytes by two weights, which are the same for all and whose sums of products fit 16 bits.
+template <Hux8s First, Hux8s Second, class V>
+auto weighedPairs(V bytes) {
+  using Sums = Lanes<Hux16s, lanesIn<V> / 2>;
+  const auto words = bitsAs<Sums>(bytes);
+  return (words & 0xff) * First + (words >> 8 & 0xff) * Second;
+}
+#define HUX_WINDOW_PRODUCTS(Bytes, Register, prefix)                                                        \
+  inline auto roundedProducts(Lanes<Hux16s, Bytes / 2> a, Lanes<Hux16s, Bytes / 2> b) {                     \
+    return Lanes<Hux16s, Bytes / 2>(prefix##_mulhrs_epi16(Register(a), Register(b)));                       \
+  }                                                                                                         \
+  template <Hux8s First, Hux8s Second>                                                                      \
+  auto weighedPairs(Lanes<Hux8u, Bytes> bytes) {                                                            \
+    constexpr short weights = short(Hux8u(First) | Second * 256);                                           \
+    return Lanes<Hux16s, Bytes / 2>(prefix##_maddubs_epi16(Register(bytes), prefix##_set1_epi16(weights))); \
+  }
+#if defined(__AVX512BW__)
+HUX_WINDOW_PRODUCTS(64, __m512i, _mm512)
+#endif
+#if defined(__AVX2__)
+HUX_WINDOW_PRODUCTS(32, __m256i, _mm256)
+#endif
+#if defined(__SSSE3__)
+HUX_WINDOW_PRODUCTS(16, __m128i, _mm)
+#endif
+#undef HUX_WINDOW_PRODUCTS
 
 // Undoes the order that packing K vectors leaves: runs of 16 / K bytes, window by window.
 template <int K, class V>
