@@ -214,17 +214,32 @@ void transposeBlock(const std::byte* src, Index srcStep, std::byte* dst, Index d
 // fetches together.
 template <int Bytes>
 constexpr Index kLinePixels = (Bytes < 4 || kThirds<Bytes> ? 64 : 128) / (Bytes & -Bytes);
-template <int Bytes, bool PastCache>
-void transposeLines(const std::byte* src, Index srcStep, std::byte* dst, Index dstStep) {
-  using S = WideSquare<Bytes>;
+template <int Bytes>
+constexpr Index kTallPixels = kLinePixels<Bytes>*(Bytes > 6   ? 1
+                                                  : Bytes < 3 ? 4
+                                                              : 2);
+template <int Bytes, class S>
+void transposeLines(const std::byte* src, Index srcStep, std::byte* dst, Index dstStep, Index rows) {
   constexpr Index side = kLinePixels<Bytes>, step = side * Bytes;
-  alignas(64) std::byte kept[side * step + 16];
-  for (Index y = 0; y < side; ++y)
+  alignas(64) std::byte kept[kTallPixels<Bytes> * step + 16];
+  for (Index y = 0; y < rows; ++y)
     for (Index k = 0; k < step; k += Index(sizeof(WindowBytes)))
       storeLanes(kept + y * step + k, loadLanes<WindowBytes>(src + y * srcStep + k));
   for (Index x = 0; x < side; x += S::columns)
-    for (Index y = 0; y < side; y += S::rows)
-      S::template move<false, PastCache>(kept + y * step + x * Bytes, step, dst + x * dstStep + y * Bytes, dstStep);
+    for (Index y = 0; y < rows; y += S::rows)
+      S::template move<false, false>(kept + y * step + x * Bytes, step, dst + x * dstStep + y * Bytes, dstStep);
+}
+
+// The same past the cache, of so many rows that each row of the destination takes several lines one after the other:
+// memory is slow to write single ones.
+template <int Bytes, class S>
+void streamLines(const std::byte* src, Index srcStep, std::byte* dst, Index dstStep) {
+  constexpr Index side = kLinePixels<Bytes>, step = kTallPixels<Bytes> * Bytes;
+  alignas(64) std::byte turned[side * step];
+  transposeLines<Bytes, S>(src, srcStep, turned, step, kTallPixels<Bytes>);
+  for (Index x = 0; x < side; ++x)
+    for (Index k = 0; k < step; k += Index(sizeof(WindowBytes)))
+      simd::stream(dst + x * dstStep + k, loadLanes<WindowBytes>(turned + x * step + k));
 }
 
 // In tiles, so that the pages of both images are used well before they are left.
@@ -238,13 +253,16 @@ void transposeTiles(Plane<Bytes> src, Plane<Bytes> dst, Index width, Index top, 
   };
   if constexpr (simd::kBytes < 64 && (simd::kPermutes || !kThirds<Bytes>)) {
     // The last blocks may lie over those before them.
-    constexpr Index side = kLinePixels<Bytes>;
-    if (width >= side && bottom - top >= side)
+    constexpr Index side = kLinePixels<Bytes>, tall = PastCache ? kTallPixels<Bytes> : side;
+    if (width >= side && bottom - top >= tall)
       return forTiles(512, [=](Index left, Index above, Index right, Index below) {
-        for (Index nextY = above; nextY < below; nextY += side)
+        for (Index nextY = above; nextY < below; nextY += tall)
           for (Index nextX = left; nextX < right; nextX += side) {
-            const Index x = std::min(nextX, width - side), y = std::min(nextY, bottom - side);
-            transposeLines<Bytes, PastCache>(src.at(x, y), src.step, dst.at(y, x), dst.step);
+            const Index x = std::min(nextX, width - side), y = std::min(nextY, bottom - tall);
+            if constexpr (PastCache)
+              streamLines<Bytes, WideSquare<Bytes>>(src.at(x, y), src.step, dst.at(y, x), dst.step);
+            else
+              transposeLines<Bytes, WideSquare<Bytes>>(src.at(x, y), src.step, dst.at(y, x), dst.step, side);
           }
       });
   }
@@ -258,7 +276,8 @@ void transposeTiles(Plane<Bytes> src, Plane<Bytes> dst, Index width, Index top, 
 template <int Bytes>
 void transposeImage(Plane<Bytes> src, Plane<Bytes> dst, Index width, Index height, bool streaming) {
   constexpr Index rows = simd::kBytes < 64 ? kLinePixels<Bytes> : WideSquare<Bytes>::rows;
-  const bool vectors = dst.step % 64 == 0 && width >= rows && width * Bytes >= 16 && height >= 2 * rows;
+  const bool vectors =
+      dst.step % 64 == 0 && width >= rows && width * Bytes >= 16 && height >= 2 * std::max(rows, kTallPixels<Bytes>);
   const Index head = streaming && vectors ? simd::pixelsToBoundary(dst.first, Bytes, 64) : -1;
   if (head < 0) return transposeTiles<Bytes, false>(src, dst, width, 0, height);
   const Index end = head + (height - head) / rows * rows;
