@@ -1,5 +1,6 @@
 """The programs in examples/python run, and draw; and what the reference site shows of Python runs as it stands there."""
 import os
+import re
 import subprocess
 import sys
 import tomllib
