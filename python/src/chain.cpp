@@ -294,8 +294,10 @@ class Share {
       fixed = bytes;
     }
     fixed -= 32 * row;
-    rows_ = std::clamp<Index>((cacheBytes() / 2 - fixed) / std::max<Index>(row, 1), 4, 4096);
-    if (rows_ >= 16) rows_ = rows_ / 8 * 8;
+    // Windows start anew with each band, which is no gain on few rows, also where more of them leave this cache.
+    const bool windows =
+        std::any_of(chain_.steps.begin(), chain_.steps.end(), [](const Step& step) { return step.top + step.bottom; });
+    rows_ = std::clamp<Index>((cacheBytes() / 2 - fixed) / std::max<Index>(row, 1), windows ? 32 : 8, 4096) / 8 * 8;
   }
 
   // Places what is kept one after another, and what lives within a band where nothing else lives at that time.
@@ -737,7 +739,7 @@ PyObject* runChain(PyObject*, PyObject* arguments) {
     all = all || (step.all && !chain->images[std::size_t(step.a[0])].input);
   }
   const Index most =
-      std::min(height / std::max<Index>(8, 4 * seam), height * width * Index(chain->steps.size()) / (Index(1) << 18));
+      std::min(height / std::max<Index>(8, 4 * seam), height * width * Index(chain->steps.size()) / (Index(1) << 20));
   const Index team = all ? 1 : std::clamp<Index>(std::min<Index>(threads, 1024), 1, std::max<Index>(most, 1));
   std::vector<int> statuses(chain->steps.size());
   std::vector<std::vector<char>> totals(chain->steps.size());
