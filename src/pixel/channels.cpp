@@ -2,7 +2,6 @@
 #include "core/stamp.h"
 #include "huxi_pixel.h"
 #include "lanes/planes.h"
-#include "lanes/windows.h"
 #include "workers/move.h"
 
 namespace hux {
@@ -105,17 +104,6 @@ class Shuffles {
   return i;
 }
 
-// Two pixels of three 32-bit elements at a time, where a permutation takes eight: the last two of these are written
-// anew with the next pixel. The number of pixels moved; at least one is left.
-template <class W>
-Index swapInWindows(const Element<W>* src, Element<W>* dst, Index n, ChannelOrder order) {
-  Lanes<Hux32s, 8> pick = {0, 0, 0, 3, 3, 3, 6, 7};
-  for (int c = 0; c < 3; ++c) pick[c] += order.from[c], pick[c + 3] += order.from[c];
-  Index i = 0;
-  for (; i + 3 <= n; i += 2) storeLanes(dst + 3 * i, pickFloats(loadLanes<FloatWindow>(src + 3 * i), pick));
-  return i;
-}
-
 template <class L, class W>
 void swapRow(const Element<W>* src, Element<W>* dst, Index n, const Shuffles<L, W>& shuffles, ChannelOrder order,
              bool streaming) {
@@ -124,8 +112,6 @@ void swapRow(const Element<W>* src, Element<W>* dst, Index n, const Shuffles<L, 
   const auto move = [&]<typename S::Mode M>(std::integral_constant<typename S::Mode, M>, Index left) {
     shuffles.template move<M>(src + i * L::channels, dst + i * L::channels, left);
   };
-  if constexpr (kPicksFloats && L::channels == 3 && sizeof(W) == 4)
-    if (src != dst) i = swapInWindows<W>(src, dst, n, order);
   if constexpr (simd::kPermutes && (S::whole || simd::kMasks)) {
     const std::integral_constant<typename S::Mode, S::Part> part;
     if constexpr (S::whole && simd::kStreams && simd::kMasks) {
