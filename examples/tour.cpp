@@ -35,7 +35,7 @@ void run(const std::string& images, const std::string& results) {
     throw std::runtime_error("the photographs in " + images + " are not those of the tour");
   std::printf("hux %s\n", huxiGetLibVersion()->versionText);
   std::vector<Step> steps;
-  for (const auto room : {pixelSteps(), filterSteps(), transformSteps(), geometrySteps()})
+  for (const auto room : {pixelSteps(), filterSteps(), transformSteps(), geometrySteps(), chainSteps()})
     steps.insert(steps.end(), room.begin(), room.end());
   Sheet sheet("a tour of hux", int(steps.size()));
   int number = 0;

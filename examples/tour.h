@@ -43,5 +43,6 @@ std::span<const Step> pixelSteps();
 std::span<const Step> filterSteps();
 std::span<const Step> transformSteps();
 std::span<const Step> geometrySteps();
+std::span<const Step> chainSteps();
 
 }  // namespace tour

@@ -1,9 +1,10 @@
-// How a chain runs: steps over bands of rows. Not for use by itself; see chain.hpp.
+// How a chain is kept and run: its steps, the plan made of them, and the plan's run over bands of rows. Not for use by
+// itself; see chain.hpp.
 #ifndef HUX_RUN_HPP
 #define HUX_RUN_HPP
 
 #include <algorithm>
-#include <functional>
+#include <optional>
 #include <system_error>
 #include <thread>
 #include <vector>
@@ -16,6 +17,26 @@ namespace hux {
 template <class T, int C>
 struct node {
   int index = -1;
+  int part = 0;  // the plane or the channel that is meant, where it is one of several
+
+  // One channel of several, the first three of four, a plane of several: no pixels are moved.
+  node<T, one_of<C>> channel(int number) const requires(C == 3 || C == 4) {
+    if (number < 0 || number >= C) throw std::out_of_range("hux::node::channel: no such channel");
+    return {index, number};
+  }
+  node<T, ac4> colors() const requires(C == 4) { return {index}; }
+  node<T, 1> plane(int number) const requires(C > 200) {
+    if (number < 0 || number >= C - 200) throw std::out_of_range("hux::node::plane: no such plane");
+    return {index, number};
+  }
+  template <int D>
+  requires(C == 4 && D == ac4) operator node<T, D>() const { return {index}; }
+};
+
+// A number, or several, that a chain measures.
+template <class V>
+struct number {
+  int index = -1;
 };
 
 struct running {
@@ -25,294 +46,822 @@ struct running {
 
 namespace detail {
 
-// Rows of an image while a chain runs: the rows from first on, at data.
+// What a node of a layout is to a call: a view or planes.
+template <class T, int C>
+struct image_of_layout {
+  using type = view<T, C>;
+};
+template <class T, int C>
+requires(C > 200) struct image_of_layout<T, C> {
+  using type = planes<T, C - 200>;
+};
+template <class T, int C>
+using image_of = typename image_of_layout<T, C>::type;
+
+constexpr int planes_of(int layout) { return layout > 200 ? layout - 200 : 1; }
+// Bytes from one pixel of a plane to the next, and how many of them are processed.
+template <class T, int C>
+inline constexpr int pixel_bytes = static_cast<int>(sizeof(T)) * (C > 200 ? 1 : elements_of(C));
+template <class T, int C>
+inline constexpr int own_bytes = static_cast<int>(sizeof(T)) * (C > 200 ? 1 : channels_of(C));
+
+// Rows of an image while a chain runs.
 struct band {
-  void* data = nullptr;
+  std::byte* data[4] = {};  // by plane
   int step = 0;
   extent size = {};
 
   template <class T, int C>
-  operator view<T, C>() const {
-    return view<T, C>(static_cast<T*>(data), step, size);
+  image_of<T, C> as() const {
+    if constexpr (C > 200) {
+      std::array<T*, C - 200> at;
+      for (std::size_t p = 0; p < at.size(); ++p) at[p] = reinterpret_cast<T*>(data[p]);
+      return planes<T, C - 200>(at, step, size);
+    } else {
+      return view<T, C>(reinterpret_cast<T*>(data[0]), step, size);
+    }
   }
+};
+
+// What a step does to a band: a function of its sources and destination. It is kept as bytes, so that recording a call
+// takes no memory of its own.
+class work {
+ public:
+  work() = default;
+  template <class F>
+  explicit work(const F& call)
+      : call_(
+            [](const void* kept, const band* in, const band& out) { return (*static_cast<const F*>(kept))(in, out); }) {
+    static_assert(sizeof(F) <= sizeof kept_ && std::is_trivially_copyable_v<F>);
+    new (kept_) F(call);
+  }
+  status operator()(const band* in, const band& out) const { return call_(kept_, in, out); }
+
+ private:
+  status (*call_)(const void*, const band*, const band&) = nullptr;
+  alignas(16) std::byte kept_[160];
+};
+
+// Numbers that a step measures, band by band.
+class tally {
+ public:
+  tally() = default;
+  tally(const tally&) = default;
+  virtual ~tally() = default;
+  virtual tally* another() const = 0;  // which has measured nothing; null where there is no memory
+  virtual void clear() = 0;
+  virtual status add(const band* in, int row) = 0;  // the next band, which begins at a row of the image
+  virtual void join(const tally& next) = 0;         // what was measured of rows that follow
+  virtual void give(extent size) = 0;               // writes the numbers where they are wanted
+};
+
+// What a call reads: a value of the chain, or a plane or channel of it.
+struct part_of_value {
+  int value = -1;
+  int plane = 0, offset = 0;  // in bytes
 };
 
 // One call of a chain.
 struct step {
   const char* name = "";
-  std::vector<int> sources;
-  int destination = 0;
+  part_of_value sources[4];
+  int count = 0;
+  int destination = -1;   // a value, or none
+  int measured = -1;      // a tally, or none
   bool windowed = false;  // the first source is framed
   reach around = {};
   border rule = border::replicate;
-  std::vector<std::byte> value;  // a pixel of a constant border
-  std::function<status(const band* sources, band destination)> call;
+  std::byte outside[80] = {};  // a pixel of a constant border
+  detail::work work;
 };
 
 // A value of a chain: an input of the caller's, or what a step makes.
 struct value {
-  int pixel = 0;  // bytes
-  const void* input = nullptr;
-  int input_step = 0;
-  void* output = nullptr;  // where it goes, or null
-  int output_step = 0;
+  int layout = 1, planes = 1;
+  int pixel = 0, own = 0;  // bytes from pixel to pixel, and how many of them are processed
+  bool input = false, output = false;
+  std::byte* in[4] = {};
+  std::byte* out[4] = {};
+  int in_step = 0, out_step = 0;
 };
 
-// How many rows of each value are needed: ahead of the rows of a band, kept behind them, and before a share of rows.
-struct needs {
-  int ahead = 0, behind = 0, before = 0;
+// How many bytes two images of one size share: those of rows at the same place at most, or others too.
+enum class shared { nothing, rows, more };
+struct spread {
+  const std::byte* data;
+  int step, pixel, own;
+};
+inline shared sharing(const spread& a, const spread& b, extent size) {
+  const std::int64_t height = size.height - 1, d = b.data - a.data;
+  const std::int64_t length_a = std::int64_t{a.pixel} * (size.width - 1) + a.own,
+                     length_b = std::int64_t{b.pixel} * (size.width - 1) + b.own;
+  const std::int64_t span_a = a.step * height, span_b = b.step * height;
+  if (std::max<std::int64_t>(span_a, 0) + length_a <= d + std::min<std::int64_t>(span_b, 0) ||
+      d + std::max<std::int64_t>(span_b, 0) + length_b <= std::min<std::int64_t>(span_a, 0))
+    return shared::nothing;
+  if (height == 0) return shared::rows;
+  const std::int64_t step = a.step < 0 ? -std::int64_t{a.step} : a.step;
+  if (a.step != b.step || length_a > step || length_b > step) return shared::more;
+  // Row i + k of b begins d + k * step behind row i of a.
+  shared found = shared::nothing;
+  const std::int64_t near = -d / a.step;
+  for (std::int64_t k = near - 1; k <= near + 1; ++k) {
+    const std::int64_t behind = d + k * a.step;
+    if (k < -height || k > height || behind >= length_a || behind <= -length_b) continue;
+    // Channels of one image lie beside each other.
+    const std::int64_t within = ((behind % a.pixel) + a.pixel) % a.pixel;
+    if (a.pixel == b.pixel && within >= a.own && within + b.own <= a.pixel) continue;
+    if (k != 0) return shared::more;
+    found = shared::rows;
+  }
+  return found;
+}
+
+// Where rows of a value stand while a chain runs: in the caller's image, or in memory of the chain's. There they
+// stand one after the other, with those around them that windows read: a ring of which the turn takes the rows still
+// needed along, so that every call sees rows at one distance.
+struct store {
+  enum place_type { in_input, in_output, in_ring, for_band };
+
+  int value = 0;
+  place_type place = in_ring;
+  int ahead = 0, behind = INT_MIN, before = 0;   // rows needed: of a band, kept before it, before a share of rows
+  int left = 0, top = 0, right = 0, bottom = 0;  // what lies around the image
+  const step* frame = nullptr;                   // whose border that is
+  std::int64_t row = 0, pitch = 0;               // bytes of a row, and of those of all planes
+  int rows = 0;                                  // that there is memory for
+  std::size_t at = 0;
+  int input = -1;            // of which input these are copies
+  bool caught = false;       // an input whose rows an output overwrites
+  std::size_t seams_at = 0;  // copies of the rows that other threads may have overwritten
+  int last_task = -1;
 };
 
-class runner {
+// One thing to do for a band: a step, or a copy of rows from one store to another.
+struct task {
+  int step = -1;
+  int sources[4] = {};
+  int to = -1;
+};
+
+class plan {
  public:
-  runner(const std::vector<value>& values, const std::vector<step>& steps, extent size)
-      : values_(values), steps_(steps), size_(size), needs_(values.size()) {
-    for (std::size_t i = steps.size(); i-- > 0;) {
-      const needs& own = needs_[static_cast<std::size_t>(steps[i].destination)];
-      for (std::size_t k = 0; k < steps[i].sources.size(); ++k) {
-        needs& source = needs_[static_cast<std::size_t>(steps[i].sources[k])];
-        // Mirrored borders take as many rows inside of the image as a window takes outside, and one more.
-        const bool framed = steps[i].windowed && k == 0;
-        const std::int64_t above = framed ? std::max<std::int64_t>({steps[i].around.top, 0}) : 0;
-        const std::int64_t below = framed ? std::max<std::int64_t>({steps[i].around.bottom, 0}) : 0;
-        // A wrapped one takes rows of the other end of the image.
-        const bool all = framed && steps[i].rule == border::wrap && above + below > 0;
-        const std::int64_t most = all ? size.height : std::max(above, below) + (framed ? 1 : 0);
-        const int far = static_cast<int>(std::min<std::int64_t>(most, size.height));
-        source.ahead = std::min(std::max(source.ahead, own.ahead + far), size.height);
-        source.behind = std::min(std::max(source.behind, all ? far : far - own.ahead), size.height);
-        source.before = std::min(std::max(source.before, own.before + far), size.height);
+  // Lays out the work on bands of so many rows, or of as many as the cache holds.
+  status make(const std::vector<value>& values, const std::vector<step>& steps, extent size, int rows) {
+    values_ = values.data(), steps_ = steps.data(), size_ = size;
+    stores_.clear(), tasks_.clear();
+    stores_.reserve(values.size() + steps.size());
+    tasks_.reserve(2 * steps.size() + values.size());
+    if (!place(values)) return status::bad_arg;
+    for (std::size_t s = 0; s < steps.size(); ++s)
+      if (!take(static_cast<int>(s))) return status::bad_arg;
+    for (std::size_t t = tasks_.size(); t-- > 0;) need(tasks_[t], static_cast<int>(t));
+    return lay_out(rows);
+  }
+
+  int rows() const { return rows_; }
+  std::size_t bytes() const { return bytes_; }
+  // Whether a call comes behind one that writes to an image of the caller's, and could fail when that is done.
+  bool checked_ahead() const { return first_output_ < tasks_.size(); }
+
+  // What one thread has of its own.
+  struct share {
+    std::byte* memory = nullptr;
+    std::vector<int> first, next;  // the rows of each store
+    std::vector<status> statuses;  // of the steps
+    std::vector<std::unique_ptr<tally>> tallies;
+    status end = status::ok;
+    int from = 0, until = 0;
+  };
+  void begin(share& own, int from, int until) const {
+    own.from = from, own.until = until;
+    own.first.resize(stores_.size()), own.next.resize(stores_.size());
+    for (std::size_t i = 0; i < stores_.size(); ++i) {
+      const int start = std::max(0, from - stores_[i].before);
+      own.next[i] = start;
+      own.first[i] = start == 0 ? -stores_[i].top : start;
+    }
+  }
+
+  // Has every call look at its arguments, on a row that no one sees.
+  status check(share& own) const {
+    for (const task& t : tasks_) {
+      if (t.step < 0) continue;
+      const step& call = steps_[t.step];
+      band in[4], out;
+      for (int k = 0; k < call.count; ++k) in[k] = blank(own, t.sources[k], call.sources[k]);
+      if (t.to >= 0) out = stores_[at(t.to)].place == store::in_output ? unseen(own, t.to) : blank(own, t.to, {});
+      const status found = call.measured >= 0 ? own.tallies[at(call.measured)]->add(in, 0) : call.work(in, out);
+      if (call.measured >= 0) own.tallies[at(call.measured)]->clear();
+      if (static_cast<int>(found) < 0) {
+        own.statuses[at(t.step)] = found;
+        return found;
       }
     }
+    return status::ok;
   }
 
-  // Rows to a band, such that what lives at once takes half of a second-level cache.
-  int rows() const {
-    std::int64_t row = 1, fixed = 0;
-    for (std::size_t i = 0; i < values_.size(); ++i) {
-      const std::int64_t bytes = std::int64_t{values_[i].pixel} * size_.width;
-      row += bytes;
-      if (!values_[i].input) fixed += bytes * (needs_[i].ahead + needs_[i].behind);
+  // Saves rows of inputs that other threads are about to overwrite.
+  void save_seams(share& own) const {
+    for (std::size_t i = 0; i < stores_.size(); ++i) {
+      const store& s = stores_[i];
+      if (!s.caught) continue;
+      std::byte* to = own.memory + s.seams_at;
+      auto save = [&](int y) {
+        for (int p = 0; p < planes(s); ++p, to += s.row) std::memcpy(to, input_row(s, y, p), length(s));
+      };
+      for (int y = std::max(0, own.from - s.before); y < own.from; ++y) save(y);
+      for (int y = own.until; y < std::min(size_.height, own.until + s.ahead); ++y) save(y);
     }
-    return static_cast<int>(std::clamp<std::int64_t>((kCache - fixed) / row, 8, 4096));
   }
 
-  // Runs the rows from first to last; with outputs of a check, rows that the caller does not see.
-  status run(int first, int last, int rows, bool check, std::vector<status>& statuses) const {
-    std::vector<buffer> buffers(values_.size());
-    for (std::size_t i = 0; i < values_.size(); ++i) {
-      if (values_[i].input) continue;
-      if (values_[i].output && !check && needs_[i].before == 0 && needs_[i].ahead == 0) continue;  // made in its place
-      buffer& own = buffers[i];
-      own.row = (std::int64_t{values_[i].pixel} * size_.width + 63) / 64 * 64;
-      if (own.row > INT_MAX) return status::no_mem;
-      own.rows = std::min(size_.height, rows + needs_[i].ahead + needs_[i].behind + needs_[i].before);
-      own.pixels = memory(static_cast<std::size_t>(own.row * own.rows));
-      if (!own.pixels) return status::no_mem;
-    }
-    for (std::size_t i = 0; i < values_.size(); ++i)
-      buffers[i].first = buffers[i].next = std::max(0, first - needs_[i].before);
-    std::vector<frame_of_band> frames(steps_.size());
-    std::vector<band> sources;
-    for (int y = first; y < last; y += rows) {
-      const int end = std::min(last, y + rows);
-      for (std::size_t s = 0; s < steps_.size(); ++s) {
-        const step& own = steps_[s];
-        const std::size_t to = static_cast<std::size_t>(own.destination);
-        buffer& made = buffers[to];
-        const int from = made.next, until = std::min(size_.height, end + needs_[to].ahead);
-        if (from >= until) continue;
-        if (made.pixels) slide(made, std::max(0, y - needs_[to].behind), until);
-        sources.clear();
-        for (std::size_t k = 0; k < own.sources.size(); ++k) {
-          const std::size_t source = static_cast<std::size_t>(own.sources[k]);
-          if (own.windowed && k == 0) {
-            band framed;
-            if (status failed = frames[s].make(*this, own, source, buffers, from, until, framed); failed != status::ok)
-              return failed;
-            sources.push_back(framed);
-          } else {
-            sources.push_back({const_cast<std::byte*>(row_of(source, buffers, from)),
-                               step_of(source, buffers),
-                               {size_.width, until - from}});
+  status run(share& own) const {
+    for (int y = own.from; y < own.until; y += rows_) {
+      const int end = std::min(own.until, y + rows_);
+      for (const task& t : tasks_) {
+        int from = y, until = end;
+        if (t.to >= 0) {
+          const store& s = stores_[at(t.to)];
+          from = own.next[at(t.to)];
+          until = std::min(size_.height, end + s.ahead);
+          if (from >= until) continue;
+          if (s.place == store::for_band) own.first[at(t.to)] = from;
+          if (s.place == store::in_ring) turn(own, t.to, y, until);
+        }
+        if (t.step < 0) {
+          copy(own, t, from, until);
+        } else {
+          const step& call = steps_[t.step];
+          band in[4];
+          for (int k = 0; k < call.count; ++k) in[k] = rows_of(own, t.sources[k], call.sources[k], from, until);
+          const status found = call.measured >= 0
+                                   ? own.tallies[at(call.measured)]->add(in, from)
+                                   : call.work(in, t.to < 0 ? band() : rows_of(own, t.to, {}, from, until));
+          if (found != status::ok) {
+            status& kept = own.statuses[at(t.step)];
+            if (kept == status::ok || static_cast<int>(found) < 0) kept = found;
+            if (static_cast<int>(found) < 0) return found;
           }
         }
-        std::byte* at =
-            made.pixels ? const_cast<std::byte*>(row_of(to, buffers, from))
-                        : static_cast<std::byte*>(values_[to].output) + std::ptrdiff_t{values_[to].output_step} * from;
-        const int step = made.pixels ? static_cast<int>(made.row) : values_[to].output_step;
-        const status result = own.call(sources.data(), {at, step, {size_.width, until - from}});
-        if (result != status::ok && statuses[s] == status::ok) statuses[s] = result;
-        if (static_cast<int>(result) < 0) return result;
-        made.next = until;
-        if (made.pixels && values_[to].output && !check) {
-          const int low = std::max(from, first), high = std::min(until, last);
-          for (int row = low; row < high; ++row)
-            std::memcpy(static_cast<std::byte*>(values_[to].output) + std::ptrdiff_t{values_[to].output_step} * row,
-                        row_of(to, buffers, row),
-                        static_cast<std::size_t>(values_[to].pixel) * static_cast<std::size_t>(size_.width));
-        }
+        if (t.to < 0) continue;
+        own.next[at(t.to)] = until;
+        if (stores_[at(t.to)].frame) surround(own, t.to, from, until);
+        if (t.step >= 0) hand_out(own, t.to, std::max(from, own.from), std::min(until, own.until));
       }
     }
     return status::ok;
   }
 
  private:
-  static constexpr std::int64_t kCache = 512 << 10;
+  static constexpr std::int64_t kCache = 256 << 10;
+  static constexpr std::size_t at(int index) { return static_cast<std::size_t>(index); }
 
-  // Rows first to next of a value; pixels is null where they stand in the caller's image.
-  struct buffer {
-    memory pixels;
-    std::int64_t row = 0;
-    int rows = 0, first = 0, next = 0;
-  };
-
-  const std::byte* row_of(std::size_t value, const std::vector<buffer>& buffers, int y) const {
-    const buffer& own = buffers[value];
-    if (own.pixels) return own.pixels.data() + own.row * (y - own.first);
-    if (values_[value].input)
-      return static_cast<const std::byte*>(values_[value].input) + std::ptrdiff_t{values_[value].input_step} * y;
-    return static_cast<const std::byte*>(values_[value].output) + std::ptrdiff_t{values_[value].output_step} * y;
-  }
-  int step_of(std::size_t value, const std::vector<buffer>& buffers) const {
-    if (buffers[value].pixels) return static_cast<int>(buffers[value].row);
-    return values_[value].input ? values_[value].input_step : values_[value].output_step;
+  const value& value_of(const store& s) const { return values_[s.value]; }
+  int planes(const store& s) const { return value_of(s).planes; }
+  // Bytes of a row of pixels; what lies behind the last one's processed elements may not be there.
+  std::size_t length(const store& s) const {
+    const value& own = value_of(s);
+    return static_cast<std::size_t>(std::int64_t{own.pixel} * (size_.width - 1) + own.own);
   }
 
-  // Moves the rows that are still needed to the front where those to come would not fit.
-  static void slide(buffer& own, int keep, int until) {
-    if (until - own.first <= own.rows) return;
-    keep = std::min(keep, own.next);
-    std::memmove(own.pixels.data(), own.pixels.data() + own.row * (keep - own.first),
-                 static_cast<std::size_t>(own.row * (own.next - keep)));
-    own.first = keep;
-  }
+  // The making.
 
-  // A band with what lies around it, made from rows of a value and, at the edges of the image, from the border.
-  class frame_of_band {
-   public:
-    status make(const runner& chain, const step& own, std::size_t source, const std::vector<buffer>& buffers, int from,
-                int until, band& out) {
-      const std::int64_t left = std::max<std::int64_t>(own.around.left, 0),
-                         right = std::max<std::int64_t>(own.around.right, 0);
-      const std::int64_t top = std::max<std::int64_t>(own.around.top, 0),
-                         bottom = std::max<std::int64_t>(own.around.bottom, 0);
-      const int pixel = chain.values_[source].pixel, width = chain.size_.width;
-      const std::int64_t row = (left + width + right) * pixel, rows = top + (until - from) + bottom;
-      if (row > INT_MAX || rows > INT_MAX) return status::no_mem;
-      if (row * rows > bytes_) {
-        pixels_ = memory(static_cast<std::size_t>(row * rows));
-        if (!pixels_) return status::no_mem;
-        bytes_ = row * rows;
-      }
-      for (std::int64_t y = 0; y < rows; ++y) {
-        const int taken = inside(from - top + y, chain.size_.height, own.rule);
-        std::byte* to = pixels_.data() + y * row;
-        const std::byte* in = taken < 0 ? nullptr : chain.row_of(source, buffers, taken);
-        auto put = [&](std::int64_t x) {
-          const int column = in ? inside(x - left, width, own.rule) : -1;
-          std::memcpy(to + x * pixel, column < 0 ? own.value.data() : in + std::ptrdiff_t{column} * pixel,
-                      static_cast<std::size_t>(pixel));
-        };
-        for (std::int64_t x = 0; x < left; ++x) put(x);
-        if (in)
-          std::memcpy(to + left * pixel, in, static_cast<std::size_t>(pixel) * static_cast<std::size_t>(width));
-        else
-          for (std::int64_t x = left; x < left + width; ++x) put(x);
-        for (std::int64_t x = left + width; x < left + width + right; ++x) put(x);
-      }
-      out = {pixels_.data() + top * row + left * pixel, static_cast<int>(row), {width, until - from}};
-      return status::ok;
+  spread of_input(const value& v, int plane) const { return {v.in[plane], v.in_step, v.pixel, v.own}; }
+  spread of_output(const value& v, int plane) const { return {v.out[plane], v.out_step, v.pixel, v.own}; }
+
+  // A store for each value. Inputs that share rows with an output are copied before those are written; false where
+  // images share more than that, or outputs anything.
+  bool place(const std::vector<value>& values) {
+    for (std::size_t i = 0; i < values.size(); ++i) {
+      store own;
+      own.value = static_cast<int>(i);
+      own.place = values[i].input ? store::in_input : store::in_ring;
+      stores_.push_back(own);
     }
+    here_.resize(values.size());
+    for (std::size_t i = 0; i < values.size(); ++i) here_[i] = static_cast<int>(i);
+    for (std::size_t o = 0; o < values.size(); ++o) {
+      if (!values[o].output) continue;
+      for (int p = 0; p < values[o].planes; ++p) {
+        const spread own = of_output(values[o], p);
+        for (std::size_t k = 0; k < values.size(); ++k)
+          for (int q = 0; q < values[k].planes; ++q) {
+            if (values[k].input) {
+              const shared found = sharing(own, of_input(values[k], q), size_);
+              if (found == shared::more) return false;
+              if (found == shared::rows && here_[k] == static_cast<int>(k)) catch_input(static_cast<int>(k));
+            }
+            if (values[k].output && (k > o || (k == o && q > p)) &&
+                sharing(own, of_output(values[k], q), size_) != shared::nothing)
+              return false;
+          }
+      }
+    }
+    return true;
+  }
+  void catch_input(int input) {
+    store own;
+    own.value = own.input = input;
+    own.caught = true;
+    tasks_.push_back({-1, {input}, static_cast<int>(stores_.size())});
+    here_[at(input)] = static_cast<int>(stores_.size());
+    stores_.push_back(own);
+  }
 
-   private:
-    memory pixels_;
-    std::int64_t bytes_ = 0;
+  // The tasks of a step.
+  bool take(int index) {
+    const step& own = steps_[index];
+    task made;
+    made.step = index;
+    made.to = own.destination;
+    for (int k = 0; k < own.count; ++k) made.sources[k] = here_[at(own.sources[k].value)];
+    if (own.windowed && own.rule == border::surroundings) {
+      if (stores_[at(made.sources[0])].place != store::in_input) return false;
+    } else if (own.windowed &&
+               (own.around.left > 0 || own.around.top > 0 || own.around.right > 0 || own.around.bottom > 0)) {
+      made.sources[0] = framed(own, made.sources[0]);
+    }
+    tasks_.push_back(made);
+    return true;
+  }
+  static int within(std::int64_t reach) { return static_cast<int>(std::clamp<std::int64_t>(reach, 0, INT_MAX / 4)); }
+
+  // The store from which a window reads: it has the border that the step asks for.
+  int framed(const step& own, int source) {
+    const int value = stores_[at(source)].value;
+    int found = -1;
+    for (std::size_t i = 0; i < stores_.size() && found < 0; ++i) {
+      const store& other = stores_[i];
+      if (other.value == value && other.place == store::in_ring && other.frame && other.frame->rule == own.rule &&
+          std::memcmp(other.frame->outside, own.outside, sizeof own.outside) == 0)
+        found = static_cast<int>(i);
+    }
+    if (found < 0) {
+      const store& bare = stores_[at(source)];
+      if (bare.place == store::in_ring && !bare.frame) {
+        found = source;
+      } else {
+        store copy;
+        copy.value = value;
+        if (bare.place == store::in_input) copy.input = value;
+        found = static_cast<int>(stores_.size());
+        stores_.push_back(copy);
+        tasks_.push_back({-1, {source}, found});
+      }
+    }
+    store& to = stores_[at(found)];
+    to.frame = &own;
+    to.left = std::max(to.left, within(own.around.left));
+    to.top = std::max(to.top, within(own.around.top));
+    to.right = std::max(to.right, within(own.around.right));
+    to.bottom = std::max(to.bottom, within(own.around.bottom));
+    return found;
+  }
+
+  // What a task needs of its sources; those behind it have told what they need of it.
+  void need(const task& t, int index) {
+    const store none;
+    const store& own = t.to >= 0 ? stores_[at(t.to)] : none;
+    const int count = t.step < 0 ? 1 : steps_[t.step].count;
+    for (int k = 0; k < count; ++k) {
+      store& source = stores_[at(t.sources[k])];
+      source.last_task = std::max(source.last_task, index);
+      int above = 0, below = 0, mirrored = 0;
+      bool all = false;
+      if (t.step >= 0 && k == 0 && source.frame && steps_[t.step].windowed) {
+        const step& call = steps_[t.step];
+        above = within(call.around.top), below = within(call.around.bottom);
+        // Mirrors show rows inside of the image for those outside, and wrapped images those of the other end, which an
+        // input has at hand.
+        if (call.rule == border::symmetric || call.rule == border::reflect101) mirrored = std::max(above, below);
+        all = call.rule == border::wrap && above + below > 0 && (source.input < 0 || source.caught);
+      }
+      const auto most = [&](std::int64_t rows) {
+        return all ? size_.height : static_cast<int>(std::min<std::int64_t>(rows, size_.height));
+      };
+      source.ahead = std::max({source.ahead, most(std::int64_t{own.ahead} + below), most(mirrored)});
+      source.before = std::max({source.before, most(std::int64_t{own.before} + above), most(mirrored)});
+      source.behind = std::max(source.behind, all ? size_.height : std::min(above - own.ahead, size_.height));
+    }
+  }
+
+  // Memory for the stores.
+  status lay_out(int rows) {
+    std::int64_t per_row = 1, fixed = 0;
+    bool windows = false;
+    first_output_ = tasks_.size();
+    for (std::size_t i = 0; i < stores_.size(); ++i) {
+      store& own = stores_[i];
+      const value& v = value_of(own);
+      own.behind = std::max(own.behind, -own.ahead);
+      const bool plain = own.ahead == 0 && own.behind == 0 && own.before == 0 && !own.frame;
+      if (own.place == store::in_ring && plain && own.input < 0) {
+        if (v.output)
+          own.place = store::in_output;
+        else if (v.own == v.pixel)
+          own.place = store::for_band;  // what is not processed stays 0 where it has a place
+      }
+      const std::int64_t pixels = std::int64_t{own.left} + size_.width + own.right;
+      own.row = (pixels * v.pixel + 63) / 64 * 64;
+      own.pitch = own.row * v.planes;
+      if (own.pitch > INT_MAX) return status::no_mem;
+      if (own.place == store::in_ring)
+        fixed += own.pitch * (std::int64_t{own.ahead} + own.behind + own.top + own.bottom), windows = true;
+      if (own.place != store::for_band) per_row += own.pitch;
+    }
+    for (std::size_t t = 0; t < tasks_.size(); ++t)
+      if (first_output_ == tasks_.size() && tasks_[t].step >= 0 && tasks_[t].to >= 0 &&
+          value_of(stores_[at(tasks_[t].to)]).output)
+        first_output_ = t + 1;
+    // Stores for a band alone take turns.
+    slots_.clear();
+    for (std::size_t t = 0; t < tasks_.size(); ++t) {
+      if (tasks_[t].to < 0) continue;
+      store& own = stores_[at(tasks_[t].to)];
+      if (own.place != store::for_band) continue;
+      auto slot =
+          std::find_if(slots_.begin(), slots_.end(), [&](const auto& s) { return s.until < static_cast<int>(t); });
+      if (slot == slots_.end()) slot = slots_.insert(slots_.end(), {0, 0, 0});
+      slot->until = std::max(own.last_task, static_cast<int>(t));
+      slot->pitch = std::max(slot->pitch, own.pitch);
+      own.at = static_cast<std::size_t>(slot - slots_.begin());
+    }
+    for (const auto& slot : slots_) per_row += slot.pitch;
+    rows_ =
+        rows > 0 ? rows : static_cast<int>(std::clamp<std::int64_t>((kCache - fixed) / per_row, windows ? 8 : 1, 4096));
+    rows_ = std::min(rows_, size_.height);
+    std::int64_t bytes = 0;
+    const auto taken = [&](std::int64_t more) {
+      const std::int64_t begin = bytes;
+      bytes += more;
+      return static_cast<std::size_t>(begin);
+    };
+    for (auto& slot : slots_) slot.at = taken(slot.pitch * rows_);
+    std::int64_t unseen = 0;
+    for (store& own : stores_) {
+      if (own.place == store::for_band) own.at = slots_[own.at].at;
+      if (own.place == store::in_output) unseen = std::max(unseen, own.pitch);
+      if (own.place != store::in_ring) continue;
+      const std::int64_t kept = std::int64_t{own.ahead} + own.behind;
+      const std::int64_t most =
+          std::max(std::int64_t{own.top} + own.before + rows_ + own.ahead, kept + std::max<std::int64_t>(rows_, kept)) +
+          own.bottom;
+      const std::int64_t limit = std::int64_t{size_.height} + own.top + own.bottom;
+      if (limit > INT_MAX) return status::no_mem;
+      own.rows = static_cast<int>(std::min(most, limit));
+      if (own.pitch * own.rows > PTRDIFF_MAX / 4 - bytes) return status::no_mem;
+      own.at = taken(own.pitch * own.rows);
+      if (own.caught) own.seams_at = taken(own.pitch * (std::int64_t{own.before} + own.ahead));
+    }
+    if (checked_ahead()) unseen_at_ = taken(unseen);
+    bytes_ = static_cast<std::size_t>(bytes);
+    return status::ok;
+  }
+
+  // The run.
+
+  std::byte* ring_row(const share& own, int index, int y) const {
+    const store& s = stores_[at(index)];
+    return own.memory + s.at + s.pitch * (y - own.first[at(index)]) + std::ptrdiff_t{s.left} * value_of(s).pixel;
+  }
+  const std::byte* input_row(const store& s, int y, int plane) const {
+    return value_of(s).in[plane] + std::ptrdiff_t{value_of(s).in_step} * y;
+  }
+
+  // Rows of a store, or of a plane or channel of it.
+  band rows_of(const share& own, int index, const part_of_value& part, int from, int until) const {
+    const store& s = stores_[at(index)];
+    const value& v = value_of(s);
+    band out;
+    out.size = {size_.width, until - from};
+    if (s.place == store::in_input || s.place == store::in_output) {
+      const bool read = s.place == store::in_input;
+      out.step = read ? v.in_step : v.out_step;
+      for (int p = 0; p < v.planes; ++p) out.data[p] = (read ? v.in[p] : v.out[p]) + std::ptrdiff_t{out.step} * from;
+    } else {
+      out.step = static_cast<int>(s.pitch);
+      std::byte* first = ring_row(own, index, from);
+      for (int p = 0; p < v.planes; ++p) out.data[p] = first + s.row * p;
+    }
+    if (part.plane > 0) out.data[0] = out.data[part.plane];
+    out.data[0] += part.offset;
+    return out;
+  }
+  band blank(const share& own, int index, const part_of_value& part) const {
+    const store& s = stores_[at(index)];
+    const int row = s.place == store::in_ring    ? own.first[at(index)] + s.top
+                    : s.place == store::for_band ? own.first[at(index)]
+                                                 : 0;
+    return rows_of(own, index, part, row, row + 1);
+  }
+  band unseen(const share& own, int index) const {
+    const store& s = stores_[at(index)];
+    band out = rows_of(own, index, {}, 0, 1);
+    for (int p = 0; p < planes(s); ++p) out.data[p] = own.memory + unseen_at_ + s.row * p;
+    return out;
+  }
+
+  // Makes room for rows: those that are still needed go to the start.
+  void turn(share& own, int index, int y, int until) const {
+    const store& s = stores_[at(index)];
+    int& first = own.first[at(index)];
+    const int next = own.next[at(index)];
+    if (until + (until == size_.height ? s.bottom : 0) - first <= s.rows) return;
+    const int keep = std::clamp(y - s.behind, first, next);
+    std::byte* start = own.memory + s.at;
+    std::memmove(start, start + s.pitch * (keep - first), static_cast<std::size_t>(s.pitch * (next - keep)));
+    first = keep;
+  }
+
+  // Rows of an input, or of a store with another frame.
+  void copy(const share& own, const task& t, int from, int until) const {
+    const store& s = stores_[at(t.to)];
+    const int start = std::max(0, own.from - s.before), kept = own.from - start;
+    for (int y = from; y < until; ++y) {
+      std::byte* to = ring_row(own, t.to, y);
+      const bool elsewhere = s.caught && (y < own.from || y >= own.until);
+      const std::byte* seam =
+          elsewhere ? own.memory + s.seams_at + s.pitch * (y < own.from ? y - start : kept + y - own.until) : nullptr;
+      for (int p = 0; p < planes(s); ++p) {
+        const std::byte* row = elsewhere      ? seam + s.row * p
+                               : s.input >= 0 ? input_row(s, y, p)
+                                              : ring_row(own, t.sources[0], y) + stores_[at(t.sources[0])].row * p;
+        std::memcpy(to + s.row * p, row, length(s));
+      }
+    }
+  }
+
+  // What lies around the rows from..until, and above and below the image where they reach its ends.
+  void surround(const share& own, int index, int from, int until) const {
+    const store& s = stores_[at(index)];
+    for (int y = from; y < until; ++y) sides(s, ring_row(own, index, y));
+    if (from == 0)
+      for (int y = -s.top; y < 0; ++y) outside(own, index, y);
+    if (until == size_.height)
+      for (int y = until; y < until + s.bottom; ++y) outside(own, index, y);
+  }
+  void sides(const store& s, std::byte* row) const {
+    const std::size_t pixel = static_cast<std::size_t>(value_of(s).pixel);
+    for (int p = 0; p < planes(s); ++p, row += s.row) {
+      const auto put = [&](int x) {
+        const int taken = inside(x, size_.width, s.frame->rule);
+        std::memcpy(row + std::ptrdiff_t{x} * value_of(s).pixel,
+                    taken < 0 ? s.frame->outside : row + std::ptrdiff_t{taken} * value_of(s).pixel, pixel);
+      };
+      for (int x = -s.left; x < 0; ++x) put(x);
+      for (int x = size_.width; x < size_.width + s.right; ++x) put(x);
+    }
+  }
+  void outside(const share& own, int index, int y) const {
+    const store& s = stores_[at(index)];
+    const int pixel = value_of(s).pixel, taken = inside(y, size_.height, s.frame->rule);
+    std::byte* row = ring_row(own, index, y) - std::ptrdiff_t{s.left} * pixel;
+    if (taken < 0) {
+      const int count = s.left + size_.width + s.right;
+      for (int p = 0; p < planes(s); ++p)
+        for (int x = 0; x < count; ++x)
+          std::memcpy(row + s.row * p + std::ptrdiff_t{x} * pixel, s.frame->outside, static_cast<std::size_t>(pixel));
+    } else if (s.input >= 0 && !s.caught) {
+      for (int p = 0; p < planes(s); ++p)
+        std::memcpy(row + s.row * p + std::ptrdiff_t{s.left} * pixel, input_row(s, taken, p), length(s));
+      sides(s, row + std::ptrdiff_t{s.left} * pixel);
+    } else {
+      std::memcpy(row, ring_row(own, index, taken) - std::ptrdiff_t{s.left} * pixel, static_cast<std::size_t>(s.pitch));
+    }
+  }
+
+  // Rows of a ring that the caller wants as well.
+  void hand_out(const share& own, int index, int from, int until) const {
+    const store& s = stores_[at(index)];
+    const value& v = value_of(s);
+    if (!v.output || s.place != store::in_ring) return;
+    for (int y = from; y < until; ++y)
+      for (int p = 0; p < v.planes; ++p) {
+        std::byte* to = v.out[p] + std::ptrdiff_t{v.out_step} * y;
+        const std::byte* row = ring_row(own, index, y) + s.row * p;
+        if (v.own == v.pixel)
+          std::memcpy(to, row, length(s));
+        else
+          for (int x = 0; x < size_.width; ++x, to += v.pixel, row += v.pixel)
+            std::memcpy(to, row, static_cast<std::size_t>(v.own));
+      }
+  }
+
+  struct slot {
+    int until;
+    std::int64_t pitch;
+    std::size_t at;
   };
 
-  const std::vector<value>& values_;
-  const std::vector<step>& steps_;
-  extent size_;
-  std::vector<needs> needs_;
+  const value* values_ = nullptr;
+  const step* steps_ = nullptr;
+  extent size_ = {};
+  std::vector<store> stores_;
+  std::vector<task> tasks_;
+  std::vector<int> here_;  // by value, where to read it
+  std::vector<slot> slots_;
+  int rows_ = 1;
+  std::size_t bytes_ = 0, unseen_at_ = 0, first_output_ = 0;
+};
+
+// Numbers of type V: Call measures those of a band, Join takes them up, Finish makes of them what is given.
+template <class V, class Part, class Call, class Join, class Finish>
+class tally_of : public tally {
+ public:
+  tally_of(const Call& call, const Join& join, const Finish& finish) : call_(call), join_(join), finish_(finish) {}
+
+  V* to = nullptr;
+
+  tally* another() const override {
+    auto* made = new (std::nothrow) tally_of(*this);
+    if (made) made->clear();
+    return made;
+  }
+  void clear() override { all_.reset(); }
+  status add(const band* in, int row) override {
+    result<Part> found = call_(in);
+    if (static_cast<int>(found.status) >= 0) take(found.value, row);
+    return found.status;
+  }
+  void join(const tally& next) override {
+    if (const auto& other = static_cast<const tally_of&>(next); other.all_) take(*other.all_, 0);
+  }
+  void give(extent size) override {
+    if (to && all_) *to = finish_(*all_, size);
+  }
+
+ private:
+  void take(const Part& part, int row) {
+    if (all_)
+      join_(*all_, part, row);
+    else
+      all_ = part, join_.first(*all_, row);
+  }
+
+  Call call_;
+  Join join_;
+  Finish finish_;
+  std::optional<Part> all_;
 };
 
 // What chains of any calls have: see chain.hpp.
 class chain_base {
  public:
+  chain_base() { values_.reserve(8), steps_.reserve(8); }
+  chain_base(chain_base&&) = default;
+  chain_base& operator=(chain_base&&) = default;
+
   // An image that the chain reads; it is to be there when the chain runs. All images of a chain have one size.
   template <readable V, class T = value_type_of<V>, int C = layout_of<V>>
-  requires(C > 0 && C <= 4) node<T, C> input(const V& image) {
+  node<T, C> input(const V& image) {
     const view<const T, C> pixels = image;
-    sized(pixels.size());
-    if (!pixels.data()) refuse(status::null_ptr, "input");
-    return {added({static_cast<int>(sizeof(T)) * C, pixels.data(), pixels.step(), nullptr, 0})};
+    return taken<T, C>(pixels.size(), pixels.step(), std::array{pixels.data()});
+  }
+  template <readable_planes V, class T = value_type_of<V>, int C = layout_of<V>>
+  node<T, C> input(const V& image) {
+    std::array<const T*, C - 200> at;
+    for (std::size_t p = 0; p < at.size(); ++p) at[p] = image.data()[p];
+    return taken<T, C>(image.size(), image.step(), at);
   }
 
-  // Where an image of the chain goes. It must share no byte with an input, nor with another output.
+  // Where an image of the chain goes. It may be the same array as an input; otherwise it must share no byte with one,
+  // nor with another output.
   template <class T, int C>
-  void output(node<T, C> from, view<T, C> to) {
-    sized(to.size());
-    if (!to.data()) refuse(status::null_ptr, "output");
-    int index = from.index;
-    if (values_[static_cast<std::size_t>(index)].input || values_[static_cast<std::size_t>(index)].output) {
-      constexpr std::size_t kPixel = sizeof(T) * C;
-      index = recorded<T, C>("output", {index}, [](const band* in, band out) {
-                for (int y = 0; y < out.size.height; ++y)
-                  std::memcpy(static_cast<std::byte*>(out.data) + std::ptrdiff_t{out.step} * y,
-                              static_cast<const std::byte*>(in->data) + std::ptrdiff_t{in->step} * y,
-                              kPixel * static_cast<std::size_t>(out.size.width));
-                return status::ok;
-              }).index;
-    }
-    values_[static_cast<std::size_t>(index)].output = to.data();
-    values_[static_cast<std::size_t>(index)].output_step = to.step();
+  void output(node<T, C> from, std::type_identity_t<view<T, C>> to) requires(C < 200) {
+    given(from, to.size(), to.step(), std::array{to.data()});
+  }
+  template <class T, int C>
+  void output(node<T, C> from, std::type_identity_t<planes<T, C - 200>> to) requires(C > 200) {
+    given(from, to.size(), to.step(), to.data());
+  }
+
+  // Where a number goes; it is written when all else is done.
+  template <class V>
+  void output(number<V> from, std::type_identity_t<V>& to) {
+    planned_ = false;
+    giving_[static_cast<std::size_t>(from.index)](*tallies_[static_cast<std::size_t>(from.index)], &to);
   }
 
   // Runs the calls on bands of rows, each thread on a share of its own. Throws hux::error, naming the call, with the
-  // status of the first call that fails; no output has been written then, unless memory ran out on the way. Returns the
-  // first warning.
-  status run(const running& options = {}) const {
+  // status of the first call that fails; no output has been written then, unless memory ran out within a call. Returns
+  // the first warning. Memory is kept for the next run: one thread at a time may run a chain.
+  status run(const running& options = {}) {
     const char* name = "chain::run";
     const status out = try_run(options, name);
     if (static_cast<int>(out) < 0) throw error(out, name);
     return out;
   }
-  [[nodiscard]] status try_run(const running& options = {}) const {
+  [[nodiscard]] status try_run(const running& options = {}) {
     const char* name = "";
     return try_run(options, name);
   }
 
  protected:
   template <class T, int C>
-  node<T, C> recorded(const char* name, std::vector<int> sources, std::function<status(const band*, band)> call) {
-    const int made = added({static_cast<int>(sizeof(T)) * C, nullptr, 0, nullptr, 0});
-    steps_.push_back({name, std::move(sources), made, false, {}, border::replicate, {}, std::move(call)});
-    return {made};
+  static part_of_value part(node<T, C> from) {
+    if constexpr (C > 100 && C < 200) return {from.index, 0, from.part * static_cast<int>(sizeof(T))};
+    return {from.index, from.part, 0};
+  }
+
+  // A call that makes an image.
+  template <class T, int C, std::size_t N>
+  node<T, C> recorded(const char* name, const part_of_value (&sources)[N], const work& call) {
+    const int index = added(value_of<T, C>());
+    step& own = steps_.emplace_back();
+    own.name = name;
+    std::copy_n(sources, N, own.sources);
+    own.count = N;
+    own.destination = index;
+    own.work = call;
+    return {index};
   }
   // A window over the first source.
-  template <class T, int C, class S, int CS>
-  node<T, C> recorded(const char* name, std::vector<int> sources, std::function<status(const band*, band)> call,
-                      reach around, border rule, const constant<S, CS>& border_value) {
-    if (rule == border::surroundings) refuse(status::bad_arg, name);
-    const node<T, C> made = recorded<T, C>(name, std::move(sources), std::move(call));
+  template <class T, int C, std::size_t N, class S, int CS>
+  node<T, C> recorded(const char* name, const part_of_value (&sources)[N], const work& call, reach around, border rule,
+                      const constant<S, CS>& border_value) {
+    if (rule == border::surroundings && !values_[static_cast<std::size_t>(sources[0].value)].input)
+      refuse(status::bad_arg, name);
+    const node<T, C> made = recorded<T, C>(name, sources, call);
     step& own = steps_.back();
     own.windowed = true;
     own.around = around;
     own.rule = rule;
-    const auto* bytes = reinterpret_cast<const std::byte*>(border_value.data());
-    own.value.assign(bytes, bytes + sizeof(S) * CS);
+    const pixel<S, CS> value(border_value);
+    static_assert(sizeof value.elements <= sizeof own.outside);
+    if (rule == border::constant) std::memcpy(own.outside, value.elements, sizeof value.elements);
     return made;
+  }
+  // A call that reads and writes the fourth channel of images that have colours and alpha.
+  template <class T, int C, std::size_t N>
+  node<T, C> recorded_with_alpha(const char* name, const part_of_value (&sources)[N], const work& call) {
+    const node<T, C> made = recorded<T, C>(name, sources, call);
+    if constexpr (C == ac4) {
+      for (const part_of_value& source : sources) alpha_of(source.value);
+      alpha_of(made.index);
+    }
+    return made;
+  }
+  // A call that measures: see tally_of.
+  template <class V, class Part, std::size_t N, class Call, class Join, class Finish>
+  number<V> measured(const char* name, const part_of_value (&sources)[N], const Call& call, const Join& join,
+                     const Finish& finish) {
+    return tallied<V>(name, sources, std::make_unique<tally_of<V, Part, Call, Join, Finish>>(call, join, finish));
+  }
+  template <class V, std::size_t N, class Tally>
+  number<V> tallied(const char* name, const part_of_value (&sources)[N], std::unique_ptr<Tally> own) {
+    step& made = steps_.emplace_back();
+    made.name = name;
+    std::copy_n(sources, N, made.sources);
+    made.count = N;
+    made.measured = static_cast<int>(tallies_.size());
+    tallies_.push_back(std::move(own));
+    giving_.push_back([](tally& from, void* to) { static_cast<Tally&>(from).to = static_cast<V*>(to); });
+    planned_ = false;
+    return {made.measured};
   }
 
  private:
+  template <class T, int C, std::size_t N>
+  node<T, C> taken(extent size, int step, const std::array<const T*, N>& data) {
+    sized(size);
+    value own = value_of<T, C>();
+    own.input = true;
+    own.in_step = step;
+    for (std::size_t p = 0; p < N; ++p) {
+      if (!data[p]) refuse(status::null_ptr, "input");
+      own.in[p] = reinterpret_cast<std::byte*>(const_cast<T*>(data[p]));
+    }
+    return {added(own)};
+  }
+  template <class T, int C, std::size_t N>
+  void given(node<T, C> from, extent size, int step, const std::array<T*, N>& data) {
+    sized(size);
+    for (T* plane : data)
+      if (!plane) refuse(status::null_ptr, "output");
+    const value& known = values_[static_cast<std::size_t>(from.index)];
+    if (known.input || known.output || known.layout != C)
+      from = recorded<T, C>("output", {part(from)}, copying<T, C>());
+    value& own = values_[static_cast<std::size_t>(from.index)];
+    own.output = true;
+    own.out_step = step;
+    for (std::size_t p = 0; p < N; ++p) own.out[p] = reinterpret_cast<std::byte*>(data[p]);
+    planned_ = false;
+  }
+
+  template <class T, int C>
+  static value value_of() {
+    value own;
+    own.layout = C, own.planes = planes_of(C);
+    own.pixel = pixel_bytes<T, C>, own.own = own_bytes<T, C>;
+    return own;
+  }
   int added(const value& own) {
+    planned_ = false;
     values_.push_back(own);
     return static_cast<int>(values_.size()) - 1;
   }
-  void refuse(status code, const char* name) {
-    if (refused_ != status::ok) return;
-    refused_ = code;
-    refused_by_ = name;
+  void alpha_of(int index) {
+    values_[static_cast<std::size_t>(index)].own = values_[static_cast<std::size_t>(index)].pixel;
   }
   void sized(extent size) {
     if (size.width < 1 || size.height < 1 || (sized_ && !equal(size, size_))) refuse(status::bad_size, "chain");
@@ -320,96 +869,140 @@ class chain_base {
     sized_ = true;
   }
 
-  // Whether an output shares bytes with another image of the caller's.
-  bool overlapping() const {
-    auto ends = [&](const void* data, int step, int pixel) {
-      const auto* first = static_cast<const std::byte*>(data);
-      const auto* last = first + std::ptrdiff_t{step} * (size_.height - 1);
-      return std::pair(std::min(first, last), std::max(first, last) + std::ptrdiff_t{pixel} * size_.width);
-    };
-    for (std::size_t i = 0; i < values_.size(); ++i) {
-      if (!values_[i].output) continue;
-      const auto own = ends(values_[i].output, values_[i].output_step, values_[i].pixel);
-      for (std::size_t k = 0; k < values_.size(); ++k) {
-        const value& other = values_[k];
-        const void* data = other.input ? other.input : k < i ? other.output : nullptr;
-        if (!data) continue;
-        const auto theirs = ends(data, other.input ? other.input_step : other.output_step, other.pixel);
-        if (own.first < theirs.second && theirs.first < own.second) return true;
-      }
-    }
-    return false;
+ protected:
+  void refuse(status code, const char* name) {
+    if (refused_ != status::ok) return;
+    refused_ = code;
+    refused_by_ = name;
+  }
+  // The processed elements of each pixel.
+  template <class T, int C>
+  static work copying() {
+    return work([](const band* in, const band& out) {
+      constexpr std::size_t kOwn = own_bytes<T, C>;
+      constexpr std::ptrdiff_t kPixel = pixel_bytes<T, C>;
+      for (int p = 0; p < planes_of(C); ++p)
+        for (int y = 0; y < out.size.height; ++y) {
+          std::byte* to = out.data[p] + std::ptrdiff_t{out.step} * y;
+          const std::byte* from = in->data[p] + std::ptrdiff_t{in->step} * y;
+          if constexpr (kOwn == kPixel)
+            std::memcpy(to, from, kOwn * static_cast<std::size_t>(out.size.width));
+          else
+            for (int x = 0; x < out.size.width; ++x, to += kPixel, from += kPixel) std::memcpy(to, from, kOwn);
+        }
+      return status::ok;
+    });
   }
 
-  status try_run(const running& options, const char*& name) const try {
+ private:
+  // The plan and what each thread has, unless they are there.
+  status prepare(const running& options, const char*& name) {
+    if (planned_ && options.rows == planned_for_.rows && options.threads == planned_for_.threads) return status::ok;
+    planned_ = false;
+    if (const status made = plan_.make(values_, steps_, size_, std::max(0, options.rows)); made != status::ok) {
+      name = "chain::output";
+      return made;
+    }
+    const int team =
+        std::clamp(options.threads, 1, std::max(1, size_.height / std::max(1, std::min(plan_.rows(), 16))));
+    shares_.resize(static_cast<std::size_t>(team));
+    const std::size_t bytes = (plan_.bytes() + 63) / 64 * 64;
+    memory_.clear();
+    for (auto& own : shares_) {
+      own.statuses.resize(steps_.size());
+      own.tallies.clear();
+      // Owned before the lists grow, which may fail.
+      for (const auto& one : tallies_) {
+        std::unique_ptr<tally> made(one->another());
+        if (!made) return status::no_mem;
+        own.tallies.push_back(std::move(made));
+      }
+      if (bytes == 0) continue;
+      std::unique_ptr<std::byte[]> made(new (std::nothrow) std::byte[bytes + 64]());
+      if (!made) return status::no_mem;
+      memory_.push_back(std::move(made));
+      own.memory = memory_.back().get() + (64 - reinterpret_cast<std::uintptr_t>(memory_.back().get()) % 64) % 64;
+    }
+    planned_ = true;
+    planned_for_ = options;
+    return status::ok;
+  }
+
+  status try_run(const running& options, const char*& name) try {
     if (refused_ != status::ok) {
       name = refused_by_;
       return refused_;
     }
     if (steps_.empty()) return status::ok;
-    if (overlapping()) {
-      name = "chain::output";
-      return status::bad_arg;
+    if (const status made = prepare(options, name); made != status::ok) return made;
+    const auto team = static_cast<int>(shares_.size());
+    for (int i = 0; i < team; ++i) {
+      auto& own = shares_[static_cast<std::size_t>(i)];
+      plan_.begin(own, static_cast<int>(std::int64_t{size_.height} * i / team),
+                  static_cast<int>(std::int64_t{size_.height} * (i + 1) / team));
+      std::fill(own.statuses.begin(), own.statuses.end(), status::ok);
+      for (const auto& one : own.tallies) one->clear();
+      own.end = status::ok;
     }
-    const runner own(values_, steps_, size_);
-    auto first = [&](const std::vector<status>& statuses, bool errors) {
-      for (std::size_t i = 0; i < statuses.size(); ++i)
-        if (errors ? static_cast<int>(statuses[i]) < 0 : statuses[i] != status::ok) {
-          name = steps_[i].name;
-          return statuses[i];
-        }
-      return status::ok;
-    };
-    // What a call refuses, it refuses on any rows. These are seen by no one.
-    std::vector<status> statuses(steps_.size());
-    const status checked = own.run(0, 1, 1, true, statuses);
-    if (const status failed = first(statuses, true); failed != status::ok) return failed;
-    if (checked != status::ok) return checked;
-
-    const int rows = options.rows > 0 ? options.rows : own.rows();
-    const int team = std::clamp(options.threads, 1, std::max(1, size_.height / std::max(1, std::min(rows, 16))));
-    std::vector<std::vector<status>> shares(static_cast<std::size_t>(team), std::vector<status>(steps_.size()));
-    std::vector<status> ends(static_cast<std::size_t>(team));
-    auto share = [&](int i) {
-      const auto from = static_cast<int>(std::int64_t{size_.height} * i / team);
-      const auto until = static_cast<int>(std::int64_t{size_.height} * (i + 1) / team);
-      auto at = static_cast<std::size_t>(i);
-      try {
-        ends[at] = own.run(from, until, rows, false, shares[at]);
-      } catch (const std::bad_alloc&) {
-        ends[at] = status::no_mem;
-      }
-    };
-    {
+    // A call that fails does so before it writes. Where one comes behind an output, all are asked ahead of the work.
+    plan::share& front = shares_.front();
+    if (plan_.checked_ahead())
+      if (const status failed = plan_.check(front); failed != status::ok) return first(front, name, true);
+    if (team == 1) {
+      front.end = plan_.run(front);
+    } else {
+      for (auto& own : shares_) plan_.save_seams(own);
       std::vector<std::jthread> others;
       others.reserve(static_cast<std::size_t>(team));
-      for (int i = 1; i < team; ++i) try {
-          others.emplace_back(share, i);
+      for (std::size_t i = 1; i < shares_.size(); ++i) {
+        auto work = [this, i] { shares_[i].end = plan_.run(shares_[i]); };
+        try {
+          others.emplace_back(work);
         } catch (const std::system_error&) {
-          share(i);
+          work();
         }
-      share(0);
+      }
+      front.end = plan_.run(front);
     }
-    for (std::size_t s = 0; s < steps_.size(); ++s) {
-      statuses[s] = status::ok;
-      for (const auto& found : shares)
-        if (statuses[s] == status::ok || static_cast<int>(found[s]) < 0)
-          if (found[s] != status::ok) statuses[s] = found[s];
+    for (std::size_t i = 1; i < shares_.size(); ++i)
+      for (std::size_t s = 0; s < steps_.size(); ++s) {
+        const status other = shares_[i].statuses[s];
+        status& kept = front.statuses[s];
+        if (other != status::ok && (kept == status::ok || (static_cast<int>(other) < 0 && static_cast<int>(kept) > 0)))
+          kept = other;
+      }
+    if (const status failed = first(front, name, true); failed != status::ok) return failed;
+    for (std::size_t t = 0; t < tallies_.size(); ++t) {
+      for (std::size_t i = 1; i < shares_.size(); ++i) front.tallies[t]->join(*shares_[i].tallies[t]);
+      front.tallies[t]->give(size_);
     }
-    if (const status failed = first(statuses, true); failed != status::ok) return failed;
-    for (const status end : ends)
-      if (end != status::ok) return end;
-    return first(statuses, false);
+    return first(front, name, false);
   } catch (const std::bad_alloc&) {
     return status::no_mem;
+  }
+  // The first status of the steps that is an error, or that is not ok.
+  status first(const plan::share& own, const char*& name, bool errors) const {
+    for (std::size_t i = 0; i < own.statuses.size(); ++i)
+      if (errors ? static_cast<int>(own.statuses[i]) < 0 : own.statuses[i] != status::ok) {
+        name = steps_[i].name;
+        return own.statuses[i];
+      }
+    return status::ok;
   }
 
   std::vector<value> values_;
   std::vector<step> steps_;
+  std::vector<std::unique_ptr<tally>> tallies_;
+  std::vector<void (*)(tally&, void*)> giving_;
   extent size_ = {};
   bool sized_ = false;
   status refused_ = status::ok;
   const char* refused_by_ = "";
+  plan plan_;
+  bool planned_ = false;
+  running planned_for_;
+  std::vector<plan::share> shares_;
+  std::vector<std::unique_ptr<std::byte[]>> memory_;
 };
 
 }  // namespace detail

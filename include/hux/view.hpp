@@ -29,6 +29,8 @@ inline constexpr int ac4 = -4;  // four elements to a pixel, of which the fourth
 inline constexpr int ac1 = -1;  // a plane of alpha
 template <int C>
 inline constexpr int one_of = 100 + C;  // one channel of C interleaved ones
+template <int N>
+inline constexpr int planar = 200 + N;  // N planes
 
 namespace detail {
 

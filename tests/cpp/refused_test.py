@@ -7,6 +7,7 @@ import unittest
 
 COMPILER, INCLUDE = sys.argv[1:3]
 
+CHAIN = '#include "hux/chain.hpp"\n'  # for statements that begin with it
 START = """
 #include "hux/hux.hpp"
 hux::image<std::uint8_t, 3> bytes(4, 4);
@@ -18,8 +19,9 @@ hux::image<float, 1> floats(4, 4);
 
 class Refused(unittest.TestCase):
     def compiled(self, statement):
+        start = CHAIN * statement.startswith("hux::chain") + START
         run = subprocess.run([COMPILER, "-std=c++20", "-fsyntax-only", "-I", INCLUDE, "-x", "c++", "-"],
-                             input=f"{START}void f() {{ {statement} }}\n", capture_output=True, text=True)
+                             input=f"{start}void f() {{ {statement} }}\n", capture_output=True, text=True)
         return run.returncode, run.stderr
 
     def refuses(self, statement, *words):
@@ -48,6 +50,15 @@ class Refused(unittest.TestCase):
         code, text = self.compiled("hux::nothrow::add(bytes, bytes, bytes); hux::nothrow::sum(bytes);")
         self.assertEqual(code, 0, text)
         self.assertEqual(len(re.findall(r"warning: ignoring return", text)), 2, text)
+
+    def test_what_chains_do_not_hold(self):
+        chain = "hux::chain c; auto b = c.input(bytes); auto f = c.input(floats); "
+        code, text = self.compiled(chain + "c.filter_box(b, {5, 5}); (void)c.sum(b); (void)c.filter_min(f, {3, 3});")
+        self.assertEqual(code, 0, text)
+        self.refuses(chain + "c.transpose(b);", "hux::chain::transpose: .*end the chain there.*call hux::transpose")
+        self.refuses(chain + "(void)c.sum(f);", "hux::chain::sum: of floats, the order of pixels tells.*call hux::sum")
+        self.refuses(chain + "c.filter_box(f, {5, 5});", "hux::chain::filter_box: .*run on from row to row")
+        self.refuses(chain + "(void)c.norm_l2(b);", "hux::chain::norm_l2: ")
 
 
 if __name__ == "__main__":
