@@ -379,17 +379,19 @@ class FloatColumns {
     return inPairs_;
   }
   void pairs(const std::byte* row, Hux32f* line) const {
-    if constexpr (kBetweenFloats && kPicksFloats)
+    if constexpr (kBetweenFloats && kPicksFloats) {
+      using Window = std::conditional_t<kBetweenFloats, FloatWindow, Floats>;  // looked at where there are any
       for (Index e = 0; e < elements_; e += 8) {
         const auto window = [&](Index e) {
           return pickFloats(loadLanes<FloatWindow>(row + windowAt_[e / 4]),
                             loadLanes<Lanes<Hux32s, 8>>(inWindow_ + 2 * e));
         };
-        const FloatWindow a = window(e), b = window(e + 4);
+        const Window a = window(e), b = window(e + 4);
         const Floats p[2] = {__builtin_shufflevector(a, b, 0, 1, 2, 3, 8, 9, 10, 11),
                              __builtin_shufflevector(a, b, 4, 5, 6, 7, 12, 13, 14, 15)};
         storeLanes(line + e, combined(p, e));
       }
+    }
   }
 
   // Linear mode, three channels: two pixels at a time in four lanes each, of which the last is overwritten by what
