@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <cstdlib>
 #include <new>
 #include <random>
 
@@ -13,16 +12,20 @@
 
 namespace {
 
-// Allocations of the tests' own, counted in bytes, of which one can be told to fail. They are not inlined, where a
-// compiler would see memory of operator new go to free.
+// Allocations of the tests' own, counted in bytes, of which one can be told to fail. They go past the count of the
+// library's, and are not inlined, where a compiler would see memory of operator new go to free.
 std::atomic<std::int64_t> taken = 0, until_failure = -1;
 
 }  // namespace
 
+extern "C" {
+void* __real_malloc(std::size_t bytes);
+void __real_free(void* block);
+}
 [[gnu::noinline]] void* operator new(std::size_t bytes) {
   taken += std::int64_t(bytes);
   if (until_failure >= 0 && until_failure-- == 0) throw std::bad_alloc();
-  if (void* made = std::malloc(bytes ? bytes : 1)) return made;
+  if (void* made = __real_malloc(bytes ? bytes : 1)) return made;
   throw std::bad_alloc();
 }
 [[gnu::noinline]] void* operator new(std::size_t bytes, const std::nothrow_t&) noexcept try {
@@ -34,10 +37,10 @@ std::atomic<std::int64_t> taken = 0, until_failure = -1;
 [[gnu::noinline]] void* operator new[](std::size_t bytes, const std::nothrow_t&) noexcept {
   return operator new(bytes, std::nothrow);
 }
-[[gnu::noinline]] void operator delete[](void* at) noexcept { std::free(at); }
-[[gnu::noinline]] void operator delete[](void* at, std::size_t) noexcept { std::free(at); }
-[[gnu::noinline]] void operator delete(void* at) noexcept { std::free(at); }
-[[gnu::noinline]] void operator delete(void* at, std::size_t) noexcept { std::free(at); }
+[[gnu::noinline]] void operator delete[](void* at) noexcept { __real_free(at); }
+[[gnu::noinline]] void operator delete[](void* at, std::size_t) noexcept { __real_free(at); }
+[[gnu::noinline]] void operator delete(void* at) noexcept { __real_free(at); }
+[[gnu::noinline]] void operator delete(void* at, std::size_t) noexcept { __real_free(at); }
 
 namespace {
 
