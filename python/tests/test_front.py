@@ -116,6 +116,10 @@ def test_large_windows_and_questions():
         expected = operation(whole, **own, border=None)
         assert result.tobytes() == expected.tobytes(), (operation, entry["name"], border)
         assert operation.shape_of(a, **own, border=border) == (result.shape, result.dtype)
+    # Sums of bytes beyond what floats hold exactly run on along the rows of a call.
+    bright = pixels((1000, 900), np.uint8, 1) | np.uint8(192)
+    whole = np.pad(bright, [(200, 199), (200, 199)], "edge")
+    assert (hux.filter_box(bright, (400, 400)) == hux.filter_box(whole, (400, 400), border=None)).all()
     empty = np.broadcast_to(np.uint8(0), (10**6, 10**6, 3))  # no pixel is read
     assert hux.resize.shape_of(empty, (5, 4)) == ((4, 5, 3), np.uint8) and hux.add.shape_of(empty, 1)[0] == empty.shape
     assert hux.cross_corr_full_norm.shape_of(empty[:9, :9, 0], empty[:3, :2, 0]) == ((11, 10), np.float32)
