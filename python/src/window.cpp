@@ -234,7 +234,8 @@ bool Run::findWork() {
 Value Run::callWindow(Value* values) {
   const Function& function = kFunctions[member->function];
   const View& image = a.first;
-  const Py_ssize_t size = kTypeSizes[int(image.type)] * (image.layout == kAC4 ? 4 : image.channels);
+  const Py_ssize_t element = kTypeSizes[int(image.type)];
+  const Py_ssize_t size = element * (image.layout == kAC4 ? 4 : image.channels);
   const Py_ssize_t outSize = kTypeSizes[int(out.first.type)] * (out.first.layout == kAC4 ? 4 : out.first.channels);
   // All functions of windows begin with the source, the destination, and the size of it.
   auto run = [&](const char* source, Py_ssize_t step, Py_ssize_t x, Py_ssize_t y, Py_ssize_t columns, Py_ssize_t rows) {
@@ -259,7 +260,6 @@ Value Run::callWindow(Value* values) {
     return run(whole.get() + top * step + left * size, step, x, y, columns, rows);
   };
   // Windows of bytes or words whose sums go beyond what floats hold exactly: such sums run on along the rows of a call.
-  const Py_ssize_t element = kTypeSizes[int(image.type)];
   const bool rounds = element < 4 && (left + right + 2) * (top + bottom + 1) > (1 << 24) / (element == 1 ? 255 : 65535);
   const bool pieces = member->local && !rounds && !same && width * height > 4 * kKeepLock &&
                       width > 2 * (left + right) && height > 2 * (top + bottom);
