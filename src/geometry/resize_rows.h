@@ -366,14 +366,16 @@ class FloatColumns {
   // Linear mode, one channel: the two samples of each of four elements from one window of eight floats. False where
   // they lie farther apart.
   bool findPairs() {
-    inPairs_ = kBetweenFloats && kPicksFloats && pixelBytes_ == 4 && pixels_ >= 8;
-    for (Index e = 0; inPairs_ && e < elements_; e += 4) {
-      const Index low = std::min(first_[e], pixels_ - 8);
-      windowAt_[e / 4] = low * 4;
-      for (Index i = 0; i < 4; ++i) {
-        const Index in = first_[e + i] - low;
-        if (in > 6) inPairs_ = false;
-        inWindow_[2 * e + i] = Hux32s(in), inWindow_[2 * e + i + 4] = Hux32s(in + 1);
+    if constexpr (kBetweenFloats && kPicksFloats) {
+      inPairs_ = pixelBytes_ == 4 && pixels_ >= 8;
+      for (Index e = 0; inPairs_ && e < elements_; e += 4) {
+        const Index low = std::min(first_[e], pixels_ - 8);
+        windowAt_[e / 4] = low * 4;
+        for (Index i = 0; i < 4; ++i) {
+          const Index in = first_[e + i] - low;
+          if (in > 6) inPairs_ = false;
+          inWindow_[2 * e + i] = Hux32s(in), inWindow_[2 * e + i + 4] = Hux32s(in + 1);
+        }
       }
     }
     return inPairs_;

@@ -110,7 +110,7 @@ template <int C>
 void columnsToParted(const Hux32f* taps, int count, const Element<Hux32f>* top, Index step, Index pixels,
                      PartedLine<C> line) {
   if constexpr (C == 1) {
-    V before;
+    V before = {};
     alongColumns(taps, count, top, step, pixels, [&](Index i, auto v) {
       if constexpr (sizeof v == sizeof(Hux32f)) {
         *line.at(i) = v;
