@@ -5,6 +5,7 @@
 
 #include <type_traits>
 
+#include "core/fetch.h"
 #include "core/rows.h"
 #include "geometry/image.h"
 #include "geometry/taps.h"
@@ -105,12 +106,6 @@ class Windows {
   Index at_[kMostLanes];
   alignas(64) Hux8u pick_[2 * kMostLanes * kWindowBytes];
 };
-
-// Asks for a piece of a row ahead of its use: a strip takes a short piece of every row, too short for the machine to
-// foresee where the next one goes on.
-inline void fetchPiece(const std::byte* p, Index bytes) {
-  for (Index i = 0; i < bytes; i += 64) __builtin_prefetch(p + i);
-}
 
 // The last lines that were made, by the numbers of their rows: from one row of the destination to the next most stay.
 template <int K, class B>

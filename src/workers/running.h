@@ -11,6 +11,7 @@
 #include <array>
 #include <bit>
 
+#include "core/fetch.h"
 #include "core/rows.h"
 #include "core/window.h"
 #include "lanes/row_lanes.h"
@@ -134,12 +135,6 @@ inline constexpr int kOrderedPiece = (N == 3   ? 6
                                      kOrderedLanes;
 template <int N>
 using OrderedLines = Hux32f[kRowsInOrder<N>][kOrderedPiece<N>];
-
-// Asks for the next piece of a row, from p on: so many rows side by side are more than the machine foresees.
-template <class T>
-void fetchPiece(const Element<T>* p, Index elements) {
-  for (Index i = 0; i < elements; i += 64 / Index(sizeof(T))) __builtin_prefetch(p + i);
-}
 
 // What windowSumsInOrder needs of work memory, in floats: a power of two of columns of its rows.
 template <int N>
