@@ -16,19 +16,20 @@ void ownhuxiFilterMedianSqr(Window<T> window, Index neighbour, Element<T>* dst, 
   constexpr int lanes = laneCount<T>;
   constexpr Index strip = 1024 / sizeof(T);
   using V = Lanes<T, lanes>;
-  T sorted[side][strip + kWidestMargin + lanes];
+  constexpr Index step = (strip + kWidestMargin + 2 * lanes - 1) / lanes * lanes;
+  alignas(64) T sorted[side][step];
   const auto sortColumns = [sorted = &sorted](const auto& rows, Index i) {
     Sorted<V, side> column;
-    for (std::size_t j = 0; j < side; ++j) column[j] = loadLanes<V>(rows[j] + i);
+    unrolled<side>([&](auto j) HUX_INLINE { column[j] = loadLanes<V>(rows[j] + i); });
     if constexpr (side == 3)
       ownsort3(column[0], column[1], column[2]);
     else
       ownsort5(column[0], column[1], column[2], column[3], column[4]);
-    for (std::size_t j = 0; j < side; ++j) storeLanes((*sorted)[j] + i, column[j]);
+    unrolled<side>([&](auto j) HUX_INLINE { storeLanes((*sorted)[j] + i, column[j]); });
   };
   const auto columnAt = [sorted = &sorted](Index i) {
     Sorted<V, side> column;
-    for (std::size_t j = 0; j < side; ++j) column[j] = loadLanes<V>((*sorted)[j] + i);
+    unrolled<side>([&](auto j) HUX_INLINE { column[j] = loadLanes<V>((*sorted)[j] + i); });
     return column;
   };
   const auto median = [=](Index i) {
