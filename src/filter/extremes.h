@@ -9,9 +9,11 @@
 #include <bit>
 #include <limits>
 
+#include "core/fetch.h"
 #include "core/ring.h"
 #include "filter/vector_rows.h"
 #include "lanes/lanes_count.h"
+#include "lanes/unrolled.h"
 
 namespace hux {
 
@@ -158,7 +160,7 @@ struct Groups {
     return v;
   }
   static void keep(T* p, const Group& v) {
-    for (std::size_t u = 0; u < vectors; ++u) storeLanes(p + u * lanes, v[u]);
+    unrolled<vectors>([&](auto u) HUX_INLINE { storeLanes(p + u * lanes, v[u]); });
   }
   static Group pick(const Group& kept, const Group& candidate) {
     Group v;
@@ -278,6 +280,7 @@ class ExtremeRows {
       for (V& one : v) one = finish(one);
       put(dst, v);
     };
+    for (Index r = 0; r < rows; ++r) fetchPiece(line_[r] + i + kGroup, kGroup);
     Index k = height - 1;
     auto v = G::load(window[k] + i);
     for (; k >= rows; --k) v = G::pick(G::load(window[k - 1] + i), v);

@@ -97,6 +97,8 @@ class PieceRows {
   bool compute(Index row, Index, Line line, Finish finish) {
     const Index height = shape_.mask.height;
     for (; filled_ < row + height; ++filled_) fill(filled_);
+    fetchPiece(top_[filled_], count_ + (shape_.mask.width - 1) * shape_.neighbour);
+    fetchPiece(line(row + 1), count_);
     if (std::is_floating_point_v<T> && std::find(holdsNaN_, holdsNaN_ + height, true) != holdsNaN_ + height)
       return false;
     const int pieces = shape_.pieces->count();
