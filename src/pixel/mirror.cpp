@@ -81,28 +81,30 @@ struct Group {
   }
 };
 
-// Reverses two vectors of lanes at a time and returns how many pixels these were: the lanes come last one first, and
-// are reversed in themselves. For pixels of a power of two bytes, where vectors have several lanes but no wider
-// permutations.
+// Two vectors of lanes, reversed: the lanes come last one first, and are reversed in themselves. For pixels of a power
+// of two bytes, where vectors have several lanes but no wider permutations.
 template <class L, class W>
-Index reverseLanes(const Element<W>* src, Element<W>* dst, Index n) {
-  constexpr int bytes = L::channels * int(sizeof(W)), vector = int(sizeof(simd::Quads));
-  constexpr Index pixels = 2 * vector / bytes;
+struct LaneGroup {
+  static constexpr bool serves =
+      L::processed == L::channels && L::channels != 3 && simd::kBytes == 16 && kLaneBytes == 32;
+  static constexpr int bytes = L::channels * int(sizeof(W)), vector = int(sizeof(simd::Quads));
+  static constexpr Index pixels = 2 * vector / bytes;
   static constexpr auto pick = [] {
     std::array<Hux8u, vector> all{};
     for (int j = 0; j < vector; ++j) all[std::size_t(j)] = Hux8u((16 / bytes - 1 - j % 16 / bytes) * bytes + j % bytes);
     return all;
   }();
-  const auto reversed = loadLanes<WindowBytes>(pick.data());
-  Index i = 0;
-  for (; i + pixels <= n; i += pixels) {
-    const auto* from = reinterpret_cast<const std::byte*>(src + (n - i - pixels) * L::channels);
-    auto* to = reinterpret_cast<std::byte*>(dst + i * L::channels);
-    storeLanes(to, pickBytes(simd::loadQuads<simd::Quads>(from + 2 * vector - 16, -16), reversed));
-    storeLanes(to + vector, pickBytes(simd::loadQuads<simd::Quads>(from + vector - 16, -16), reversed));
+
+  WindowBytes low, high;
+
+  void loadReversed(const Element<W>* src) {
+    const auto* from = reinterpret_cast<const std::byte*>(src);
+    const auto order = loadLanes<WindowBytes>(pick.data());
+    low = pickBytes(simd::loadQuads<simd::Quads>(from + 2 * vector - 16, -16), order);
+    high = pickBytes(simd::loadQuads<simd::Quads>(from + vector - 16, -16), order);
   }
-  return i;
-}
+  void store(Element<W>* dst) const { storeLanes(dst, low), storeLanes(advance(dst, vector), high); }
+};
 
 // dst[i] = src[n - 1 - i], pixel by pixel.
 template <class L, class W>
@@ -110,8 +112,14 @@ void reverseRow(const Element<W>* src, Element<W>* dst, Index n, bool streaming)
   using G = Group<L, W>;
   Index i = 0;
   if constexpr (G::vectorised) {
-    if constexpr (G::whole && L::channels != 3 && simd::kBytes == 16 && sizeof(simd::Quads) == 32)
-      i = reverseLanes<L, W>(src, dst, n);
+    using Lane = LaneGroup<L, W>;
+    if constexpr (Lane::serves) {
+      Lane group;
+      for (; i + Lane::pixels <= n; i += Lane::pixels) {
+        group.loadReversed(src + (n - i - Lane::pixels) * L::channels);
+        group.store(dst + i * L::channels);
+      }
+    }
     G group;
     // The group of source pixels that go to `at` and behind.
     const auto source = [=](Index at) { return src + (n - at - G::pixels) * L::channels; };
@@ -146,6 +154,15 @@ void exchangeReversed(Element<W>* a, Element<W>* b, Index n, Index pairs) {
   using G = Group<L, W>;
   Index i = 0;
   if constexpr (G::vectorised) {
+    using Lane = LaneGroup<L, W>;
+    if constexpr (Lane::serves) {
+      Lane left, right;
+      for (; i + Lane::pixels <= pairs; i += Lane::pixels) {
+        auto *atA = a + i * L::channels, *atB = b + (n - i - Lane::pixels) * L::channels;
+        left.loadReversed(atA), right.loadReversed(atB);
+        left.store(atB), right.store(atA);
+      }
+    }
     G left, right;
     const auto atA = [&] { return a + i * L::channels; };
     const auto atB = [&] { return b + (n - i - G::pixels) * L::channels; };
