@@ -13,7 +13,6 @@
 #include "core/ring.h"
 #include "filter/vector_rows.h"
 #include "lanes/lanes_count.h"
-#include "lanes/unrolled.h"
 
 namespace hux {
 
@@ -159,9 +158,7 @@ struct Groups {
     for (std::size_t u = 0; u < vectors; ++u) v[u] = loadLanes<V>(p + u * lanes);
     return v;
   }
-  static void keep(T* p, const Group& v) {
-    unrolled<vectors>([&](auto u) HUX_INLINE { storeLanes(p + u * lanes, v[u]); });
-  }
+  static void keep(T* p, const Group& v) { storeLanes(p, v); }
   static Group pick(const Group& kept, const Group& candidate) {
     Group v;
     for (std::size_t u = 0; u < vectors; ++u) v[u] = Pick()(kept[u], candidate[u]);
