@@ -39,6 +39,19 @@ inline WindowBytes loadWindows(const std::byte* row, const Index* at) {
 #endif
 }
 
+// Window w of the vector goes to p + w * step, one after the other: what two of them write is the later one's.
+template <bool PastCache = false>
+void storeWindows(std::byte* p, Index step, WindowBytes v) {
+  for (int w = 0; w < kWindows; ++w) {
+    simd::Quad window;
+    std::memcpy(&window, reinterpret_cast<const std::byte*>(&v) + w * kWindowBytes, sizeof window);
+    if constexpr (PastCache)
+      simd::stream(p + w * step, window);
+    else
+      std::memcpy(p + w * step, &window, sizeof window);
+  }
+}
+
 // Byte j of each window of the result is the one that the lowest four bits of pick[j] tell of that window, or 0 where
 // the pick has its top bit set.
 inline WindowBytes pickBytes(WindowBytes windows, WindowBytes pick) {
@@ -54,6 +67,17 @@ inline WindowBytes pickBytes(WindowBytes windows, WindowBytes pick) {
   WindowBytes v{};
   for (int j = 0; j < kLaneBytes; ++j) v[j] = pick[j] & 0x80 ? 0 : windows[j / 16 * 16 + pick[j] % 16];
   return v;
+#endif
+}
+
+// Bytes of b where those of `second` have their top bit set, else of a.
+inline WindowBytes eitherBytes(WindowBytes a, WindowBytes b, WindowBytes second) {
+#if defined(__AVX2__) && !(defined(__AVX512BW__) && defined(__AVX512VL__) && defined(__AVX512DQ__))
+  return WindowBytes(_mm256_blendv_epi8(__m256i(a), __m256i(b), __m256i(second)));
+#elif defined(__SSE4_1__) && !defined(__AVX2__)
+  return WindowBytes(_mm_blendv_epi8(__m128i(a), __m128i(b), __m128i(second)));
+#else
+  return second >= 0x80 ? b : a;
 #endif
 }
 

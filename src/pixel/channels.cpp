@@ -2,6 +2,7 @@
 #include "core/stamp.h"
 #include "huxi_pixel.h"
 #include "lanes/planes.h"
+#include "lanes/windows.h"
 #include "workers/move.h"
 
 namespace hux {
@@ -89,6 +90,24 @@ class Shuffles {
   simd::PermuteBy permute_[vectors];
 };
 
+// Pixels of four elements where no store has a mask: as many as fill a vector, whose colours are stored. Returns the
+// number of pixels moved, which the last one is not one of: its alpha is not read.
+template <class W>
+Index swapColours(const Element<W>* src, Element<W>* dst, Index n, ChannelOrder order) {
+  constexpr Index pixels = kLaneBytes / Index(4 * sizeof(W));
+  WindowBytes pick{};
+  for (int j = 0; j < kLaneBytes; ++j) {
+    const int channel = j / int(sizeof(W)) % 4, from = channel < 3 ? order.from[channel] : channel;
+    pick[j] = Hux8u(j % 16 + (from - channel) * int(sizeof(W)));
+  }
+  Index i = 0;
+  for (; i + pixels < n; i += pixels) {
+    const WindowBytes v = pickBytes(loadLanes<WindowBytes>(src + i * 4), pick);
+    storeColours<3>(dst + i * 4, bitsAs<Lanes<W, int(4 * pixels)>>(v));
+  }
+  return i;
+}
+
 // Groups of pixels by way of planes, as long as the groups are whole; the number of pixels moved. Pays for bytes.
 [[maybe_unused]] Index swapByPlanes(const Element<Hux8u>* src, Element<Hux8u>* dst, Index n, ChannelOrder order) {
   constexpr Index group = simd::kBytes;
@@ -105,6 +124,38 @@ class Shuffles {
 }
 
 template <class L, class W>
+void swapEach(const Element<W>* src, Element<W>* dst, Index first, Index n, ChannelOrder order) {
+  for (Index i = first; i < n; ++i) {
+    const Element<W>* from = src + i * L::channels;
+    Element<W>* to = dst + i * L::channels;
+    const W a = from[order.from[0]], b = from[order.from[1]], c = from[order.from[2]];
+    to[0] = a, to[1] = b, to[2] = c;
+  }
+}
+
+// Groups of pixels of three elements; the number of pixels moved.
+template <class W>
+Index swapThirds(const Element<W>* src, Element<W>* dst, Index n, ChannelOrder order, bool streaming) {
+  constexpr Index group = kLaneBytes / Index(sizeof(W)), step = 3 * kWindowBytes;
+  const simd::ThirdsInOrder<int(sizeof(W))> inOrder(order.from);
+  const auto groups = [&]<bool PastCache>(std::bool_constant<PastCache>, Index i) {
+    for (; i + group <= n; i += group) {
+      const auto* from = reinterpret_cast<const std::byte*>(src + 3 * i);
+      auto* to = reinterpret_cast<std::byte*>(dst + 3 * i);
+      WindowBytes v[3];
+      for (int k = 0; k < 3; ++k) v[k] = simd::loadQuads<WindowBytes>(from + k * kWindowBytes, step);
+      inOrder(v);
+      for (int k = 0; k < 3; ++k) storeWindows<PastCache>(to + k * kWindowBytes, step, v[k]);
+    }
+    return i;
+  };
+  const Index head = streaming ? simd::pixelsToBoundary(dst, 3 * int(sizeof(W))) : -1;
+  if (head < 0 || head > n) return groups(std::false_type{}, 0);
+  swapEach<C3>(src, dst, 0, head, order);
+  return groups(std::true_type{}, head);
+}
+
+template <class L, class W>
 void swapRow(const Element<W>* src, Element<W>* dst, Index n, const Shuffles<L, W>& shuffles, ChannelOrder order,
              bool streaming) {
   using S = Shuffles<L, W>;
@@ -112,7 +163,12 @@ void swapRow(const Element<W>* src, Element<W>* dst, Index n, const Shuffles<L, 
   const auto move = [&]<typename S::Mode M>(std::integral_constant<typename S::Mode, M>, Index left) {
     shuffles.template move<M>(src + i * L::channels, dst + i * L::channels, left);
   };
-  if constexpr (simd::kPermutes && (S::whole || simd::kMasks)) {
+  if constexpr (kPicks && !simd::kMasks) {
+    if constexpr (L::channels == 3)
+      i = swapThirds<W>(src, dst, n, order, streaming);
+    else
+      i = swapColours<W>(src, dst, n, order);
+  } else if constexpr (simd::kPermutes && (S::whole || simd::kMasks)) {
     const std::integral_constant<typename S::Mode, S::Part> part;
     if constexpr (S::whole && simd::kStreams && simd::kMasks) {
       const Index head = streaming ? simd::pixelsToBoundary(dst, S::pixelBytes) : -1;
@@ -130,12 +186,7 @@ void swapRow(const Element<W>* src, Element<W>* dst, Index n, const Shuffles<L, 
   } else if constexpr (!simd::kPermutes && L::channels == 3 && sizeof(W) == 1) {
     i = swapByPlanes(src, dst, n, order);
   }
-  for (; i < n; ++i) {
-    const Element<W>* from = src + i * L::channels;
-    Element<W>* to = dst + i * L::channels;
-    const W a = from[order.from[0]], b = from[order.from[1]], c = from[order.from[2]];
-    to[0] = a, to[1] = b, to[2] = c;
-  }
+  swapEach<L>(src, dst, i, n, order);
 }
 
 template <class L, class T>

@@ -147,32 +147,44 @@ void moveApart(const SrcRow& src, const DstRow& dst, Index first, Index n) {
   for (; first < n; ++first) one(first);
 }
 
-// Whole pixels to planes, from planes, or each from one element, where bytes are not permuted freely.
+// Whole pixels to planes, from planes, or each from one element, where bytes are permuted within 16 of them at most.
 template <class Src, class Dst, int Taken>
 inline constexpr bool kByPlanes = false;
 template <int N>
-inline constexpr bool kByPlanes<Interleaved<N>, Planar<N>, N> = N == 3 || N == 4;
+inline constexpr bool kByPlanes<Interleaved<N>, Planar<N>, N> = (N == 3 || N == 4) && simd::kBytes == 16;
 template <int N>
-inline constexpr bool kByPlanes<Planar<N>, Interleaved<N>, N> = N == 3 || N == 4;
+inline constexpr bool kByPlanes<Planar<N>, Interleaved<N>, N> = (N == 3 || N == 4) && simd::kBytes == 16;
 template <int N>
-inline constexpr bool kByPlanes<Repeated, Interleaved<N>, N> = N == 3 || N == 4;
+inline constexpr bool kByPlanes<Repeated, Interleaved<N>, N> = (N == 3 || N == 4) && !simd::kPermutes;
 
-// Moves groups of them, as long as those are whole, and returns the number of pixels moved.
+// Moves groups of them, as long as those are whole, and returns the number of pixels moved. The first pixels, up to a
+// boundary, go one by one where the others are streamed.
 template <class W, class Src, class Dst, int Taken, class SrcRow, class DstRow>
-Index moveByPlanes(const SrcRow& src, const DstRow& dst, Index n) {
+Index moveByPlanes(const SrcRow& src, const DstRow& dst, Index n, bool streaming) {
   constexpr int bytes = sizeof(W);
-  constexpr Index group = simd::kBytes / bytes;
-  Index i = 0;
-  for (; i + group <= n; i += group) {
-    simd::Vec v[Taken];
-    for (int k = 0; k < Taken; ++k) v[k] = simd::load(Src::vectorAt(src, i, Src::vectors == 1 ? 0 : k));
-    if constexpr (std::is_same_v<Dst, Planar<Taken>>)
-      simd::toPlanes<bytes>(v);
-    else
-      simd::fromPlanes<bytes>(v);
-    for (int k = 0; k < Taken; ++k) simd::store(Dst::vectorAt(dst, i, k), v[k]);
-  }
-  return i;
+  constexpr Index group = kLaneBytes / bytes;
+  // Window w of vector k: of planes they follow each other, of pixels a group of 16 bytes for each channel does.
+  const auto groups = [&]<bool PastCache>(std::bool_constant<PastCache>, Index i) {
+    for (; i + group <= n; i += group) {
+      WindowBytes v[Taken];
+      for (int k = 0; k < Taken; ++k) {
+        const auto* from = reinterpret_cast<const std::byte*>(Src::vectorAt(src, i, Src::vectors == 1 ? 0 : k));
+        v[k] = simd::loadQuads<WindowBytes>(from, Src::stride * kWindowBytes);
+      }
+      if constexpr (std::is_same_v<Dst, Planar<Taken>>)
+        simd::toPlanes<bytes>(v);
+      else
+        simd::fromPlanes<bytes>(v);
+      for (int k = 0; k < Taken; ++k)
+        storeWindows<PastCache>(reinterpret_cast<std::byte*>(Dst::vectorAt(dst, i, k)), Dst::stride * kWindowBytes,
+                                v[k]);
+    }
+    return i;
+  };
+  const Index head = streaming ? Dst::toBoundary(dst) : -1;
+  if (head < 0 || head > n) return groups(std::false_type{}, 0);
+  moveApart<Src, Dst, Taken>(src, dst, 0, head);
+  return groups(std::true_type{}, head);
 }
 
 // Moves `Taken` elements of each of n pixels of type W. Destinations of which every byte is written can be streamed.
@@ -183,7 +195,8 @@ void moveRow(SrcRow src, DstRow dst, Index n, bool streaming = false) {
   constexpr auto outs = std::make_index_sequence<Dst::vectors>{};
   constexpr bool whole = detail::writesAll<Src, Dst, bytes, Taken>(outs);
   Index i = 0;
-  if constexpr (simd::kPermutes && (whole || simd::kMasks)) {
+  constexpr bool byPlanes = kByPlanes<Src, Dst, Taken> && !simd::kMasks;
+  if constexpr (simd::kPermutes && !byPlanes && (whole || simd::kMasks)) {
     if (apart<Src, Dst>(src, dst, n, bytes)) {
       enum Mode { Whole, Stream, Part };
       const auto moveGroup = [&]<Mode M, std::size_t... Out>(std::integral_constant<Mode, M>, Index left,
@@ -229,7 +242,7 @@ void moveRow(SrcRow src, DstRow dst, Index n, bool streaming = false) {
       }
     }
   } else if (apart<Src, Dst>(src, dst, n, bytes)) {
-    if constexpr (!simd::kPermutes && kByPlanes<Src, Dst, Taken>) i = moveByPlanes<W, Src, Dst, Taken>(src, dst, n);
+    if constexpr (byPlanes) i = moveByPlanes<W, Src, Dst, Taken>(src, dst, n, streaming);
     return moveApart<Src, Dst, Taken>(src, dst, i, n);
   }
   moveEach<Src, Dst, Taken>(src, dst, i, n);
