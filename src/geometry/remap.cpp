@@ -1,4 +1,5 @@
 // Remap: every pixel of the destination from a place in the source that two maps tell.
+#include "core/fetch.h"
 #include "core/stamp.h"
 #include "geometry/warp.h"
 #include "huxi_geometry.h"
@@ -6,19 +7,23 @@
 namespace hux {
 namespace {
 
-// Positions from a table for each coordinate.
+// Positions from a table for each coordinate. Neighbouring rows mostly come from the same pages of the source.
 struct TableMap {
-  static constexpr int rows = 1;
+  static constexpr int rows = 8;
   static constexpr bool straight = false;
   Rows<const Hux32f> xMap, yMap;
   Index row = 0;
-  const Element<Hux32f>*x = nullptr, *y = nullptr;
+  int started = 0;
+  const Element<Hux32f>*x[rows] = {}, *y[rows] = {};
 
-  void start(int, Index) { x = xMap.row(row), y = yMap.row(row), ++row; }
+  void start(int r, Index) { x[r] = xMap.row(row), y[r] = yMap.row(row), ++row, started = r + 1; }
   void fill(Positions (&block)[rows], Index n) {
-    for (Index k = 0; k < n; ++k) block[0].x[k] = x[k];
-    for (Index k = 0; k < n; ++k) block[0].y[k] = y[k];
-    x += n, y += n;
+    for (int r = 0; r < started; ++r) {
+      fetchPiece(x[r] + n, n), fetchPiece(y[r] + n, n);
+      for (Index k = 0; k < n; ++k) block[r].x[k] = x[r][k];
+      for (Index k = 0; k < n; ++k) block[r].y[k] = y[r][k];
+      x[r] += n, y[r] += n;
+    }
   }
 };
 
