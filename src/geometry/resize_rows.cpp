@@ -22,22 +22,27 @@ constexpr Index kLargeImage = 2 << 20;
 bool isLarge(const ResizePlane& p) { return p.y.image * p.rowBytes() >= kLargeImage; }
 
 // The taps of the destination's rows, one after the other. Whatever rows of a large source the following one needs in
-// addition are asked for while this one is computed.
+// addition are to be asked for while this one is computed.
 template <class Mode>
 class RowTaps {
  public:
   explicit RowTaps(const ResizePlane& p) : p_(p), large_(isLarge(p)), walk_(p.y), next_(Mode::tap(p.y, walk_.next())) {}
 
-  template <class Columns>
-  Tap next(const Columns& columns) {
+  Tap next() {
     const Tap tap = next_;
+    ahead_ = end_ = 0;
     if (++row_ < p_.y.count) {
       next_ = Mode::tap(p_.y, walk_.next());
-      const Index last = rowsOf<Mode>(p_.y, tap).back();
-      for (Index row : rowsOf<Mode>(p_.y, next_))
-        if (large_ && row > last) columns.fetch(p_.src + row * p_.srcStep);
+      if (large_) ahead_ = rowsOf<Mode>(p_.y, tap).back() + 1, end_ = rowsOf<Mode>(p_.y, next_).back() + 1;
+      ahead_ = std::max(ahead_, end_ - Mode::taps);
     }
     return tap;
+  }
+  // A row to be asked for, each time another one, as long as there are any.
+  const std::byte* ahead() { return ahead_ < end_ ? p_.src + ahead_++ * p_.srcStep : nullptr; }
+  template <class Columns>
+  void fetchAll(const Columns& columns) {
+    while (const std::byte* row = ahead()) columns.fetch(row);
   }
 
  private:
@@ -45,7 +50,7 @@ class RowTaps {
   bool large_;
   Walk walk_;
   Tap next_;
-  Index row_ = 0;
+  Index row_ = 0, ahead_ = 0, end_ = 0;
 };
 
 template <class T>
@@ -65,7 +70,8 @@ void linearIntegers(const ResizePlane& p) {
     LineCache<2, Hux16s> cache;
     RowTaps<Linear> rows(p);
     for (Index y = 0; y < p.y.count; ++y) {
-      const Tap tap = rows.next(columns);
+      const Tap tap = rows.next();
+      rows.fetchAll(columns);
       const auto lines = cache.rows(rowsOf<Linear>(p.y, tap),
                                     [&](Index row, Hux16s* line) { columns.along(p.src + row * p.srcStep, line); });
       auto* to = reinterpret_cast<Element<T>*>(dst + y * p.dstStep);
@@ -92,10 +98,12 @@ void floats(const ResizePlane& p) {
     LineCache<Mode::taps, Hux32f> cache;
     RowTaps<Mode> rows(p);
     for (Index y = 0; y < p.y.count; ++y) {
-      const Tap tap = rows.next(columns);
+      const Tap tap = rows.next();
       Mode::weigh(tap.fraction, weights);
-      const auto lines = cache.rows(rowsOf<Mode>(p.y, tap),
-                                    [&](Index row, Hux32f* line) { columns.along(p.src + row * p.srcStep, line); });
+      const auto lines = cache.rows(rowsOf<Mode>(p.y, tap), [&](Index row, Hux32f* line) {
+        columns.along(p.src + row * p.srcStep, line, rows.ahead());
+      });
+      rows.fetchAll(columns);
       auto* to = reinterpret_cast<Element<T>*>(dst + y * p.dstStep);
       if (f.touched < f.stride)
         acrossFloats<3, Mode>(lines, weights, to, n * f.stride);

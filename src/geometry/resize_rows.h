@@ -330,10 +330,13 @@ class FloatColumns {
                                          [&](Index e) { return offset_[e]; });
   }
 
-  void along(const std::byte* row, Hux32f* line) const {
-    if (inPairs_) return pairs(row, line);
+  // Where there is a row `ahead`, its bytes are asked for one after the other meanwhile: so many at once as a row has
+  // are more than the machine waits for without a halt.
+  void along(const std::byte* row, Hux32f* line, const std::byte* ahead) const {
+    if (ahead == nullptr) ahead = row;
+    if (inPairs_) return pairs(row, line, ahead);
     if (inPixels_ > 0) {
-      wholePixels(row, line);
+      wholePixels(row, line, ahead);
       return gather(row, line, inPixels_ / kLanes * kLanes, elements_,
                     [&](Index e, Index k) { return offset_[e] + k * pixelBytes_; });
     }
@@ -341,12 +344,14 @@ class FloatColumns {
       return std::clamp(first_[e] + k, Index(0), pixels_ - 1) * pixelBytes_ + inPixel_[e];
     };
     gather(row, line, 0, begin_, clamped);
-    if (windows_.perLane() == 1)
-      pick<1>(row, line);
-    else if (windows_.perLane() == 2)
-      pick<2>(row, line);
-    else
+    if (windows_.perLane() == 1) {
+      pick<1>(row, line, ahead);
+    } else if (windows_.perLane() == 2) {
+      pick<2>(row, line, ahead);
+    } else {
+      fetch(ahead);
       gather(row, line, begin_, end_, [&](Index e, Index k) { return offset_[e] + k * pixelBytes_; });
+    }
     gather(row, line, end_, elements_, clamped);
   }
   // Asks for what a row's line is made of.
@@ -375,7 +380,7 @@ class FloatColumns {
     }
     return inPairs_;
   }
-  void pairs(const std::byte* row, Hux32f* line) const {
+  void pairs(const std::byte* row, Hux32f* line, const std::byte* ahead) const {
     if constexpr (kBetweenFloats && kPicksFloats) {
       using Window = std::conditional_t<kBetweenFloats, FloatWindow, Floats>;  // looked at where there are any
       for (Index e = 0; e < elements_; e += 8) {
@@ -383,6 +388,7 @@ class FloatColumns {
           return pickFloats(loadLanes<FloatWindow>(row + windowAt_[e / 4]),
                             loadLanes<Lanes<Hux32s, 8>>(inWindow_ + 2 * e));
         };
+        __builtin_prefetch(ahead + windowAt_[e / 4]);
         const Window a = window(e), b = window(e + 4);
         const Floats p[2] = {__builtin_shufflevector(a, b, 0, 1, 2, 3, 8, 9, 10, 11),
                              __builtin_shufflevector(a, b, 4, 5, 6, 7, 12, 13, 14, 15)};
@@ -398,12 +404,13 @@ class FloatColumns {
       if (pixelBytes_ == 12)
         while (inPixels_ + 9 <= elements_ && first_[inPixels_ + 3] + 2 < pixels_) inPixels_ += 6;
   }
-  void wholePixels(const std::byte* row, Hux32f* line) const {
+  void wholePixels(const std::byte* row, Hux32f* line, const std::byte* ahead) const {
     if constexpr (kBetweenFloats) {
       using Four = Lanes<Hux32f, 4>;
       using Eight = Lanes<Hux32f, 8>;
       const auto join = [](Four a, Four b) { return __builtin_shufflevector(a, b, 0, 1, 2, 3, 4, 5, 6, 7); };
       for (Index e = 0, n = inPixels_; e < n; e += 6) {
+        __builtin_prefetch(ahead + offset_[e]);
         const std::byte *a = row + offset_[e], *b = row + offset_[e + 3];
         const Eight p[2] = {join(loadLanes<Four>(a), loadLanes<Four>(b)),
                             join(loadLanes<Four>(a + 12), loadLanes<Four>(b + 12))};
@@ -422,8 +429,9 @@ class FloatColumns {
     return Mode::along(p, w);
   }
   template <int PerLane>
-  void pick(const std::byte* row, Hux32f* line) const {
+  void pick(const std::byte* row, Hux32f* line, const std::byte* ahead) const {
     for (Index e = begin_; e < end_; e += kLanes) {
+      __builtin_prefetch(ahead + offset_[e]);
       Floats p[Mode::taps];
       for (int k = 0; k < Mode::taps; ++k) {
         const WindowBytes bytes = windows_.pick<PerLane>(row + k * pixelBytes_, e / 4);
