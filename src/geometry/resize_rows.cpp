@@ -71,9 +71,10 @@ void linearIntegers(const ResizePlane& p) {
     RowTaps<Linear> rows(p);
     for (Index y = 0; y < p.y.count; ++y) {
       const Tap tap = rows.next();
+      const auto lines = cache.rows(rowsOf<Linear>(p.y, tap), [&](Index row, Hux16s* line) {
+        columns.along(p.src + row * p.srcStep, line, rows.ahead());
+      });
       rows.fetchAll(columns);
-      const auto lines = cache.rows(rowsOf<Linear>(p.y, tap),
-                                    [&](Index row, Hux16s* line) { columns.along(p.src + row * p.srcStep, line); });
       auto* to = reinterpret_cast<Element<T>*>(dst + y * p.dstStep);
       if (f.touched < f.stride)
         acrossPairs<3>(lines, q14Of(tap.fraction), to, n * f.stride, inside);

@@ -196,8 +196,12 @@ class PairColumns {
     }
   }
 
-  void along(const std::byte* row, Hux16s* line) const {
-    if (windows_.perLane() != 0) return inLanes(row, line);
+  // Where there is a row `ahead`, its bytes are asked for one after the other meanwhile: so many at once as a row has
+  // are more than the machine waits for without a halt.
+  void along(const std::byte* row, Hux16s* line, const std::byte* ahead = nullptr) const {
+    if (ahead == nullptr) ahead = row;
+    if (windows_.perLane() != 0) return inLanes(row, line, ahead);
+    fetch(ahead);
     const auto pixel = [&](Index at) { return Hux32s(*reinterpret_cast<const Element<T>*>(row + at)) - Rule::middle; };
     for (Index e = 0; e < elements_; ++e) {
       const Hux32s sum = q14_[e] * pixel(second_[e]) + (16384 - q14_[e]) * pixel(first_[e]);
@@ -219,27 +223,30 @@ class PairColumns {
     const Index in = lane % (2 * kWindows);
     return lane - in + in % kWindows * 2 + in / kWindows;
   }
-  void inLanes(const std::byte* row, Hux16s* line) const {
+  void inLanes(const std::byte* row, Hux16s* line, const std::byte* ahead) const {
     if constexpr (size == 1) {
       windows_.forVectors(row, [&](Index lane, WindowBytes pairs) {
         const Index e = lane * perLane;
+        __builtin_prefetch(ahead + first_[e]);
         const LineWords between = roundedProducts(weighedPairs<64, -64>(pairs), loadLanes<LineWords>(weights_ + e));
         storeLanes(line + e, weighedPairs<64, 0>(pairs) + between);
       });
     } else if (windows_.perLane() == 1) {
-      pick<1>(row, line);
+      pick<1>(row, line, ahead);
     } else {
-      pick<2>(row, line);
+      pick<2>(row, line, ahead);
     }
   }
   template <int PerLane>
-  void pick(const std::byte* row, Hux16s* line) const {
+  void pick(const std::byte* row, Hux16s* line, const std::byte* ahead) const {
     const auto part = [&](Index lane) {
       const LineWords pixels = bitsAs<LineWords>(windows_.pick<PerLane>(row, lane)) ^ Hux16s(-Rule::middle);
       return (pairProducts(pixels, loadLanes<LineWords>(weights_ + lane * 8)) + Rule::alongHalf) >> Rule::alongShift;
     };
-    for (Index lane = 0; lane < elements_ / perLane; lane += 2 * kWindows)
+    for (Index lane = 0; lane < elements_ / perLane; lane += 2 * kWindows) {
+      __builtin_prefetch(ahead + first_[lane * perLane]);
       storeLanes(line + lane * perLane, packWords(part(lane), part(lane + kWindows)));
+    }
   }
 
   Index elements_ = 0;
@@ -330,8 +337,7 @@ class FloatColumns {
                                          [&](Index e) { return offset_[e]; });
   }
 
-  // Where there is a row `ahead`, its bytes are asked for one after the other meanwhile: so many at once as a row has
-  // are more than the machine waits for without a halt.
+  // Asks for the bytes of a row `ahead` meanwhile.
   void along(const std::byte* row, Hux32f* line, const std::byte* ahead) const {
     if (ahead == nullptr) ahead = row;
     if (inPairs_) return pairs(row, line, ahead);
