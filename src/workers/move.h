@@ -141,6 +141,10 @@ void moveApart(const SrcRow& src, const DstRow& dst, Index first, Index n) {
     else
       for (int c = 0; c < Taken; ++c) Dst::at(dst, i, c) = Src::at(src, i, c);
   };
+  // Colours of bytes, which leave in two parts, come by vectors; the last pixel's alpha is not read.
+  if constexpr (together && Taken == 3 && Src::stride == 4 && Dst::stride == 4 && sizeof(Dst::at(dst, 0, 0)) == 1)
+    for (constexpr Index pixels = kLaneBytes / 4; first + pixels < n; first += pixels)
+      storeColours<3>(&Dst::at(dst, first, 0), loadLanes<WindowBytes>(&Src::at(src, first, 0)));
   constexpr Index many = 8;
   for (; first + many <= n; first += many)
     for (Index i = 0; i < many; ++i) one(first + i);
