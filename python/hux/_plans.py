@@ -283,6 +283,12 @@ class WT(_Plan):
         layout = f"{image.layout}R"
         return self._contexts[way, layout], layout
 
+    def _reach(self, way: str) -> tuple[int, int]:
+        """Rows and columns, of a sub-band for the inverse, that are read before and after an image."""
+        low, anchor_low, high, anchor_high = self._taps[way]
+        before, after = max(low - anchor_low, high - anchor_high) - 1, max(anchor_low, anchor_high)
+        return (before, max(after - 1, 0)) if way == "Fwd" else (before // 2, (after + 1) // 2)
+
     def forward(self, a: Any, *, border: str = "wrap") -> tuple[NDArray[Any], ...]:
         """The approximation, and the details in x, in y, and in both."""
         name = "WT.forward"
@@ -290,8 +296,7 @@ class WT(_Plan):
         context, layout = self._context("Fwd", name, image)
         if image.height % 2 or image.width % 2:
             refuse(name, "the sides are even")
-        low, anchor_low, high, anchor_high = self._taps["Fwd"]
-        ahead, behind = max(low - anchor_low, high - anchor_high), max(anchor_low, anchor_high)
+        ahead, behind = self._reach("Fwd")
         whole, source = framed(name, image.a, (ahead, ahead, behind, behind), border)
         shape = (image.height // 2, image.width // 2, *image.a.shape[2:])
         bands = tuple(np.empty(shape, np.float32) for _ in range(4))
@@ -310,8 +315,7 @@ class WT(_Plan):
         context, layout = self._context("Inv", name, images[0])
         if any(i.code != "32f" for i in images):
             refuse(name, "sub-bands are float32", TypeError)
-        low, anchor_low, high, anchor_high = self._taps["Inv"]
-        ahead, behind = max(low, high), max(anchor_low, anchor_high) + 1
+        ahead, behind = self._reach("Inv")
         frames = [framed(name, i.a, (ahead, ahead, behind, behind), border) for i in images]
         first = images[0]
         target = Out(name, out, first, (2 * first.height, 2 * first.width), first.dtype, first.channels)

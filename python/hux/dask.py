@@ -14,8 +14,8 @@ thread of the library; the scheduler runs several tasks at once.
 
 Which results have the bits of one call on the whole image:
 
-- pointwise operations, moves, look-up tables, windows, 8x8 transforms, resize_sqr_pixel, remap, and measures of
-  integers: they do, however the image is chunked. The docstrings say which elements are excepted: those whose window
+- pointwise operations, moves, look-up tables, windows, wavelets, 8x8 transforms, resize_sqr_pixel, remap, and measures
+  of integers: they do, however the image is chunked. The docstrings say which elements are excepted: those whose window
   sums run on in floats from row to row.
 - other resizes and warps, matching, convolution, deconvolution, transforms, and what depends on the place of a pixel:
   they do, since they run as one task on the whole image, with a warning where that is large. blockwise=True has most
@@ -213,9 +213,10 @@ def _whole(name: str, call: Callable[..., Any], images: Sequence[Any], shape: Se
 
 
 def _overlapped(a: da.Array, call: Callable[..., Any], reach: Sequence[int], channels: tuple[int, ...], dtype: Any, *,
-                border: str, **how: Any) -> da.Array:
+                border: str, scaled: Callable[[int], int] | None = None, **how: Any) -> da.Array:
     """Blocks that see as far as a window reaches beyond them. border is "own" where the call frames what it is given,
-    so that what it makes of the false edges is cut off, "wrap", or "valid" for the part that needs no border."""
+    so that what it makes of the false edges is cut off, "wrap", or "valid" for the part that needs no border. Where the
+    sides of a result are others than its source's, scaled tells them; such a call frames what it is given always."""
     left, top, right, bottom = reach
     ways = (top, bottom), (left, right)
     for axis, (before, after) in enumerate(ways):
@@ -226,8 +227,12 @@ def _overlapped(a: da.Array, call: Callable[..., Any], reach: Sequence[int], cha
     if border == "wrap":  # of equal depths before and after
         sides = max(top, bottom), max(left, right)
         wide = overlap(a, {0: sides[0], 1: sides[1]}, {0: "periodic", 1: "periodic"})
-        task = partial(_inside, skip=(sides[0] - top, sides[1] - left), drop=(sides[0] - bottom, sides[1] - right))
-        return _blockwise(task, [wide], channels, dtype, chunks=a.chunks[:2], **how)
+        if scaled:
+            skip = drop = scaled(sides[0]), scaled(sides[1])
+        else:
+            skip, drop = (sides[0] - top, sides[1] - left), (sides[0] - bottom, sides[1] - right)
+        return _blockwise(partial(_inside, skip=skip, drop=drop), [wide], channels, dtype,
+                          chunks=_scaled(a.chunks[:2], scaled), **how)
     edges = [np.cumsum((0, *own)).tolist() for own in a.chunks[:2]]
 
     def spans(i: int, j: int) -> list[tuple[int, int]]:
@@ -242,15 +247,19 @@ def _overlapped(a: da.Array, call: Callable[..., Any], reach: Sequence[int], cha
         if border == "valid":
             return partial(_on_blocks, **how)
         cuts = [(own[k] - low, high - own[k + 1]) for own, k, (low, high) in zip(edges, (i, j), spans(i, j))]
-        skip, drop = zip(*cuts)
+        skip, drop = zip(*_scaled(cuts, scaled))
         return partial(_inside, skip=skip, drop=drop, **how)
 
-    chunks = a.chunks[:2]
+    chunks = _scaled(a.chunks[:2], scaled)
     if border == "valid":
         chunks = tuple(tuple(side - (before if i == 0 else 0) - (after if i == len(own) - 1 else 0)
                              for i, side in enumerate(own)) for own, (before, after) in zip(chunks, ways))
     return _by_rectangles(getattr(call, "__name__", "window"), a, chunks, rectangle, task_of, (how, reach, border),
                           channels=channels, dtype=dtype)
+
+
+def _scaled(sides: Sequence[Sequence[int]], scaled: Callable[[int], int] | None) -> tuple[tuple[int, ...], ...]:
+    return tuple(tuple(map(scaled, own) if scaled else own) for own in sides)
 
 
 def _by_rectangles(name: str, a: da.Array, chunks: Any, rectangle: Callable[..., Any], task: Callable[..., Any],
@@ -1133,6 +1142,70 @@ class DCT(_Transform):
     _kind = _plans.DCT
 
 
+def _half(side: int) -> int:
+    return side // 2
+
+
+def _double(side: int) -> int:
+    return 2 * side
+
+
+def _bands(a: Any, plan: Any, method: str, border: str) -> Any:
+    """Sub-bands lie one after another in the last axis."""
+    if method == "forward":
+        bands = plan.forward(a, border=border)
+        return np.concatenate(bands, axis=-1) if a.ndim > 2 else np.stack(bands, axis=-1)
+    return plan.inverse(np.split(a, 4, axis=-1) if a.shape[2] > 4 else np.moveaxis(a, -1, 0), border=border)
+
+
+class WT:
+    __doc__ = f"""{_plans.WT.__doc__}
+    Images are taken by blocks that see as far as the taps reach, and may be of any size. The result has the bits of one
+    call, however they are chunked; blocks of an image are twice as wide and high as those of its sub-bands.
+    """
+
+    def __init__(self, forward: Any, inverse: Any = None) -> None:
+        self.plan = _plans.WT(forward, inverse)
+
+    def __reduce__(self) -> Any:
+        return _transform, ("WT", self.plan._arguments)
+
+    def forward(self, a: Any, *, border: str = "wrap") -> tuple[da.Array, ...]:
+        """The approximation, and the details in x, in y, and in both."""
+        image = _image("WT.forward", a)
+        _kind(self.plan.forward, _pixels(image, 2, 2), border=border)
+        if any(side % 2 for side in image.shape[:2]):
+            refuse("WT.forward", "the sides are even")
+        reach = [side + side % 2 for side in self.plan._reach("Fwd")]
+        # Blocks begin at even rows and columns.
+        chunks, least = [], max(reach) // 2 + 1
+        for sides in image.chunks[:2]:
+            halves = tuple(np.diff(np.unique(np.r_[0, np.cumsum(sides) // 2])).tolist())
+            halves = ensure_minimum_chunksize(least, halves) if least <= builtins.sum(halves) else (-1,)
+            chunks.append(tuple(map(_double, halves)) if halves != (-1,) else -1)
+        count = math.prod(image.shape[2:])
+        made = self._call("forward", image.rechunk(dict(enumerate(chunks))), reach, (4 * count,), border, _half)
+        return tuple(made[..., k * count:(k + 1) * count] if image.ndim > 2 else made[..., k] for k in range(4))
+
+    def inverse(self, bands: Any, *, border: str = "wrap") -> da.Array:
+        """The image of four sub-bands."""
+        images = _images("WT.inverse", list(bands))
+        if len(images) != 4 or any(image.shape != images[0].shape for image in images):
+            refuse("WT.inverse", "four sub-bands of one shape are expected")
+        _kind(self.plan.inverse, [_pixels(image, 2, 2) for image in images], border=border)
+        joined = (da.concatenate if images[0].ndim > 2 else da.stack)(images, axis=-1).rechunk({2: -1})
+        return self._call("inverse", joined, self.plan._reach("Inv"), images[0].shape[2:], border, _double)
+
+    def _call(self, method: str, a: da.Array, reach: Sequence[int], channels: tuple[int, ...], border: str,
+              scaled: Callable[[int], int]) -> da.Array:
+        before, after = reach
+        wrap = _front.mode_of(f"WT.{method}", border) == _front.BORDERS["wrap"]
+        if wrap and max(reach) > min(a.shape[:2]):
+            a, wrap = a.rechunk({0: -1, 1: -1}), False
+        return _overlapped(a, _bands, (before, before, after, after), channels, np.dtype(np.float32), scaled=scaled,
+                           border="wrap" if wrap else "own", own=(self.plan, method, border))
+
+
 class _Deconvolution:
     """A plan of hux, for dask arrays of up to its shape. A call runs as one task on the whole image. With
     blockwise=True and overlap=(columns, rows) it restores blocks, each with so much around it, of together up to the
@@ -1262,4 +1335,4 @@ def convolve(a: Any, b: Any, *, extent: str = "full", divisor: int | None = None
 
 
 __all__ = [name for name in _lazy if not hasattr(builtins, name)] + [
-    "DCT", "DFT", "DeconvFFT", "DeconvLR", "FFT", "Moments", "convolve", "histogram", "match", "moments", "norm"]
+    "DCT", "DFT", "DeconvFFT", "DeconvLR", "FFT", "Moments", "WT", "convolve", "histogram", "match", "moments", "norm"]

@@ -237,6 +237,28 @@ def test_whole_images_and_blocks():
     assert np.array_equal(hd.dct8x8_fwd(lazy_f).compute()[8:16, 16:24], tiles)
 
 
+def test_wavelets():
+    random, generator = Random(5), np.random.default_rng(5)
+
+    def taps():
+        both = [generator.uniform(-1, 1, random.randrange(2, 10)).astype(np.float32) for _ in range(2)]
+        return [part for own in both for part in (own, random.randrange(len(own)))]
+    for _ in range(25):
+        plans = [kind(*given) for given in [(taps(), taps())] for kind in (hux.WT, hd.WT)]
+        shape = random.choice([(2, 6), (18, 40), (34, 22)]) + random.choice([(), (3,)])
+        border = random.choice(["wrap", "replicate", "constant", "symmetric", "reflect101"])
+        a = pixels(shape, np.float32, 1)
+        whole = plans[0].forward(a, border=border)
+        bands = pickle.loads(pickle.dumps(plans[1])).forward(chunked(a, random), border=border)
+        assert equal(bands, whole), (plans, shape, border)
+        assert equal(plans[1].inverse(bands, border=border), plans[0].inverse(whole, border=border))
+        assert equal(plans[1].inverse([chunked(band, random) for band in whole]), plans[0].inverse(whole))
+    for call in (lambda: plans[1].forward(da.zeros((3, 4), dtype=np.float32)), lambda: plans[1].inverse(bands[:3]),
+                 lambda: plans[1].inverse(bands, border="mirror"), lambda: hd.WT(taps()).inverse(bands)):
+        with pytest.raises(ValueError, match="WT"):
+            call()
+
+
 def test_numbers():
     random = Random(4)
     a, f = pixels((300, 700), np.uint8, 1), pixels((40, 50, 3), np.float32, 2)
