@@ -8,6 +8,7 @@ hux.c has every function of the library as C declares it.
 import builtins as _builtins
 import collections as _collections
 import functools as _functools
+import importlib as _importlib
 import inspect as _inspect
 import os as _os
 import sys as _sys
@@ -73,11 +74,21 @@ def _signature(operation):
     return _inspect.signature(own[operation.__name__])
 
 
+def _array_api():
+    """numpy's table of functions for extensions, where extensions look for it."""
+    for core in "numpy._core", "numpy.core":
+        try:
+            return _importlib.import_module(f"{core}._multiarray_umath")._ARRAY_API
+        except (ImportError, AttributeError):
+            pass
+
+
 _probe = _np.zeros((2, 3), _np.int16)[:, ::2]
 _probe.flags.writeable = False
 _packed = _functools.partial(_np.array, order="C")
 _hux.setup(_np.empty, _np.zeros, _packed, _np.asarray, _np.copyto, _np.shares_memory, _np.dtype,
-           (None, *map(_np.dtype, _dtypes)), _report, _signature, _probe, _probe.__array_interface__["data"][0])
+           (None, *map(_np.dtype, _dtypes)), _report, _signature, _probe, _probe.__array_interface__["data"][0],
+           _array_api())
 _front.errors.update((_e.__name__.removesuffix("Error"), _e) for _v, _e in _statuses.items() if _v < 0)
 
 for _own in _hux.operations:

@@ -39,4 +39,16 @@ Type typeOf(const char* format, Py_ssize_t size) {
   return Type::none;
 }
 
+PyObject* newArray(Type type, Py_ssize_t height, Py_ssize_t width, int axes, int channels, bool zero) {
+  const Py_ssize_t all[] = {height, width, channels};
+  const Py_ssize_t* const sides = axes == 1 ? all + 1 : all;
+  if (NewArray make = zero ? gNewZeros : gNewEmpty) return make(axes, sides, Py_NewRef(dtypeOf(type)), 0);
+  PyObject* shape = PyTuple_New(axes);
+  for (int i = 0; shape && i < axes; ++i) PyTuple_SetItem(shape, i, PyLong_FromSsize_t(sides[i]));
+  PyObject* array =
+      shape ? PyObject_CallFunctionObjArgs(zero ? gZeros : gEmpty, shape, dtypeOf(type), nullptr) : nullptr;
+  Py_XDECREF(shape);
+  return array;
+}
+
 }  // namespace hux::python

@@ -15,7 +15,7 @@ const char* const kTypeNames[kTypes] = {"none",          "uint8",     "int8",   
                                         "complex_int32", "complex64", "complex128", "bool",    "float16"};
 constexpr int kTypeSizes[kTypes] = {0, 1, 1, 2, 2, 4, 4, 4, 8, 4, 8, 8, 16, 1, 2};
 
-inline PyObject* dtypeOf(Type type) { return PyTuple_GetItem(gDtypes, int(type)); }
+inline PyObject* dtypeOf(Type type) { return gDtypes[int(type)]; }
 
 inline bool copy(PyObject* to, PyObject* from) {
   PyObject* none = PyObject_CallFunctionObjArgs(gCopy, to, from, nullptr);
@@ -296,16 +296,8 @@ struct Image {
     return true;
   }
 };
+
 // A new array. What functions may leave unwritten is 0.
-inline PyObject* newArray(Type type, Py_ssize_t height, Py_ssize_t width, int axes, int channels, bool zero) {
-  PyObject* shape = PyTuple_New(axes);
-  if (!shape) return nullptr;
-  if (axes > 1) PyTuple_SetItem(shape, 0, PyLong_FromSsize_t(height));
-  PyTuple_SetItem(shape, axes > 1, PyLong_FromSsize_t(width));
-  if (axes > 2) PyTuple_SetItem(shape, 2, PyLong_FromLong(channels));
-  PyObject* array = PyObject_CallFunctionObjArgs(zero ? gZeros : gEmpty, shape, dtypeOf(type), nullptr);
-  Py_DECREF(shape);
-  return array;
-}
+PyObject* newArray(Type type, Py_ssize_t height, Py_ssize_t width, int axes, int channels, bool zero);
 
 }  // namespace hux::python

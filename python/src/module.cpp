@@ -12,10 +12,12 @@
 
 namespace hux::python {
 
-PyObject *gEmpty, *gZeros, *gPacked, *gArray, *gCopy, *gShares, *gDtype, *gDtypes, *gReport, *gSignature;
+PyObject *gEmpty, *gZeros, *gPacked, *gArray, *gCopy, *gShares, *gDtype, *gReport, *gSignature;
+PyObject* gDtypes[kTypes];
 PyObject* gKeywords[kKeywords];
 bool* gCalled;
 PyTypeObject* gArrayType;
+NewArray gNewEmpty, gNewZeros;
 
 namespace {
 
@@ -126,19 +128,33 @@ PyType_Spec kSpec = {
 bool isLaidOut(PyObject* probe, void* address) {
   const NumpyArray& a = *reinterpret_cast<NumpyArray*>(probe);
   return a.data == address && a.axes == 2 && a.shape[0] == 2 && a.shape[1] == 2 && a.strides[0] == 6 &&
-         a.strides[1] == 4 && a.dtype == PyTuple_GetItem(gDtypes, int(Type::t16s)) && !(a.flags & kWriteable);
+         a.strides[1] == 4 && a.dtype == dtypeOf(Type::t16s) && !(a.flags & kWriteable);
 }
 
-// setup(empty, zeros, packed, asarray, copyto, shares_memory, dtype, dtypes, report, signature, probe, its address):
-// the references are kept for good.
+// The table begins with a function that tells its version. Within the two that there are places do not change.
+bool findNewArray(PyObject* table) {
+  const auto* const entries = static_cast<void* const*>(PyCapsule_GetPointer(table, nullptr));
+  if (!entries) return false;
+  const unsigned version = reinterpret_cast<unsigned (*)()>(entries[0])();
+  if (version != 0x01000009 && version != 0x02000000) return true;
+  gNewZeros = reinterpret_cast<NewArray>(entries[183]);
+  gNewEmpty = reinterpret_cast<NewArray>(entries[184]);
+  return true;
+}
+
+// setup(empty, zeros, packed, asarray, copyto, shares_memory, dtype, dtypes, report, signature, probe, its address,
+// table or None): the references are kept for good.
 PyObject* setup(PyObject*, PyObject* arguments) {
-  PyObject* probe;
+  PyObject *dtypes, *probe, *table;
   Py_ssize_t address;
-  if (!PyArg_ParseTuple(arguments, "OOOOOOOO!OOOn", &gEmpty, &gZeros, &gPacked, &gArray, &gCopy, &gShares, &gDtype,
-                        &PyTuple_Type, &gDtypes, &gReport, &gSignature, &probe, &address))
+  if (!PyArg_ParseTuple(arguments, "OOOOOOOO!OOOnO", &gEmpty, &gZeros, &gPacked, &gArray, &gCopy, &gShares, &gDtype,
+                        &PyTuple_Type, &dtypes, &gReport, &gSignature, &probe, &address, &table))
     return nullptr;
+  for (int t = 0; t < kTypes; ++t)
+    if (!(gDtypes[t] = PyTuple_GetItem(dtypes, t))) return nullptr;
   if (isLaidOut(probe, reinterpret_cast<void*>(address))) gArrayType = Py_TYPE(probe);
-  for (PyObject* kept : {gEmpty, gZeros, gPacked, gArray, gCopy, gShares, gDtype, gDtypes, gReport, gSignature})
+  if (gArrayType && table != Py_None && !findNewArray(table)) return nullptr;
+  for (PyObject* kept : {gEmpty, gZeros, gPacked, gArray, gCopy, gShares, gDtype, dtypes, gReport, gSignature})
     Py_INCREF(kept);
   Py_RETURN_NONE;
 }

@@ -732,10 +732,9 @@ PyObject* Run::numbersOf(int i) {
   const void* const from = results[i];
   if (values.count > 1) {
     PyObject* array = newArray(values.type, 1, values.count, 1, 1, false);
-    Py_buffer buffer;
-    if (!array || PyObject_GetBuffer(array, &buffer, PyBUF_WRITABLE) < 0) return Py_XDECREF(array), nullptr;
-    std::memcpy(buffer.buf, from, size_t(values.count) * kTypeSizes[int(values.type)]);
-    PyBuffer_Release(&buffer);
+    View view;
+    if (!array || !view.takeNew(array, values.type, kVector, 1, values.count, 1)) return Py_XDECREF(array), nullptr;
+    std::memcpy(view.data(), from, size_t(values.count) * kTypeSizes[int(values.type)]);
     return array;
   }
   auto as = [&](auto kind) {
