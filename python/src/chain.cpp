@@ -22,7 +22,7 @@
 
 namespace hux::python {
 
-int gRecording = 0;
+int gRecording = 0, gNoting = 0;
 
 namespace {
 
@@ -792,7 +792,9 @@ PyObject* noted(PyObject*, PyObject* arguments) {
   PyObject *const before = tNotes, *const notes = PyList_New(0);
   if (!notes) return nullptr;
   tNotes = notes;
+  ++gNoting;
   PyObject* const result = PyObject_Call(operation, given, options);
+  --gNoting;
   tNotes = before;
   PyObject* const both = result ? PyTuple_Pack(2, result, notes) : nullptr;
   Py_XDECREF(result);
@@ -816,7 +818,7 @@ bool standsFor(PyObject* object) {
 
 }  // namespace
 
-bool noting() { return tNotes; }
+bool thisThreadNotes() { return tNotes; }
 bool note(PyObject* entry) {
   const bool good = entry && PyList_Append(tNotes, entry) == 0;
   Py_XDECREF(entry);

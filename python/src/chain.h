@@ -14,7 +14,9 @@ extern int gRecording;
 PyObject* recorded(PyObject* operation, PyObject* const* given, Py_ssize_t count, PyObject* names);
 
 // Whether the calls of this thread are noted: which function they run, and with what. Warnings are not told then.
-bool noting();
+extern int gNoting;  // threads whose calls are
+bool thisThreadNotes();
+inline bool noting() { return gNoting && thisThreadNotes(); }
 // Adds a note, which it takes; null passes an error on.
 bool note(PyObject* entry);
 
