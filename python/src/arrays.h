@@ -233,7 +233,7 @@ struct Image {
   }
 
   bool take(PyObject* object, bool written, bool mayBePlanes, const char* operation) {
-    if (mayBePlanes && (PyTuple_Check(object) || PyList_Check(object))) {
+    if (mayBePlanes && Py_TYPE(object) != gArrayType && (PyTuple_Check(object) || PyList_Check(object))) {
       const Py_ssize_t size = PySequence_Size(object);
       if (size != 3 && size != 4) {
         PyErr_Format(PyExc_TypeError, "%s: an image has 3 or 4 planes, not %zd", operation, size);

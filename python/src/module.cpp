@@ -249,6 +249,7 @@ PyMODINIT_FUNC PyInit__hux() {
     self->call = vectorCall;
     self->operation = &kOperations[i];
     self->implementation = self->which = self->results = nullptr;
+    self->soughtKey = ~0u;
     if (!prepare(self, kOperations[i])) return nullptr;
     PyTuple_SetItem(operations, i, reinterpret_cast<PyObject*>(self));
   }

@@ -55,6 +55,9 @@ struct Callable {
   PyObject* results;                 // what several results are put in
   // The type of the members that take a type, and the one they usually give; the layout that a layout becomes.
   unsigned char sourceType[kTypes], destinationType[kTypes], destinationLayout[kLayouts];
+  // The key that a call looked for last, and the members that there are for it: the next is mostly alike.
+  mutable unsigned soughtKey;
+  mutable const Member *apart, *inPlace;
 };
 
 // What a member's key is made of.

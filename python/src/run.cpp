@@ -4,6 +4,7 @@
 #include <climits>
 #include <cstring>
 #include <string>
+#include <utility>
 
 #include "chain.h"
 
@@ -157,13 +158,12 @@ bool Run::takeSources() {
     // Images of two layouts become two of the plain one.
     if (ofOneShape && a.layout() != b.layout() && (!packSource(a) || !packSource(b))) return false;
   }
-  for (Image* image : {&a, &b}) {
-    if (!image->given()) continue;
-    if (!ofOneShape && (image->first.height < 1 || image->first.width < 1))
-      return fail(huxStsBadSize, "an empty array");
-    const bool odd = image->layout() == kNoLayout || (two() && !ofOneShape && image->first.layout >= kAC4);
-    if ((odd || !image->plain()) && !packSource(*image)) return false;
-  }
+  auto settle = [&](Image& image) {
+    if (!ofOneShape && (image.first.height < 1 || image.first.width < 1)) return fail(huxStsBadSize, "an empty array");
+    const bool odd = image.layout() == kNoLayout || (two() && !ofOneShape && image.first.layout >= kAC4);
+    return (!odd && image.plain()) || packSource(image);
+  };
+  if (!settle(a) || (two() && !settle(b))) return false;
   if (op.parameters && kParameters[op.firstParameter].kind == Kind::kernel && options.own[0]) {
     if (!numbers.take(options.own[0], "kernel", op.name)) return false;
     form = numbers.whole && a.first.type != Type::t32f;  // those of integers have a divisor
@@ -212,10 +212,16 @@ bool Run::look(Type source, Type destination) {
                                                   : int(self.destinationLayout[from]);
     if (!op.sources && fourth && destinationLayout == kC4) destinationLayout = kAC4;
     if (op.sources && from != kVector && destinationLayout == kVector) destinationLayout = kC1;
-    apart = find(op, keyOf(source, destination, from, destinationLayout, form, false, options.mask));
-    inPlace = op.sources || op.transposes
-                  ? find(op, keyOf(source, destination, from, destinationLayout, form, true, options.mask))
-                  : nullptr;
+    const unsigned key = keyOf(source, destination, from, destinationLayout, form, false, options.mask);
+    if (key != self.soughtKey) {
+      self.soughtKey = key;
+      self.apart = find(op, key);
+      self.inPlace = op.sources
+                         ? find(op, keyOf(source, destination, from, destinationLayout, form, true, options.mask))
+                         : nullptr;
+    }
+    apart = self.apart;
+    inPlace = self.inPlace;
     return apart || inPlace;
   };
   if (one(sourceLayout)) return true;
@@ -481,7 +487,7 @@ bool Run::makeResult() {
   const bool keeps = alpha && op.sources && shaped && a.first.type == type && a.channels() == 4;
   const bool zero = op.family == Family::geometry || (alpha && !keeps);
   const int planes = key.destinationLayout == kP3 ? 3 : key.destinationLayout == kP4 ? 4 : 0;
-  if (width * channels > INT_MAX / kTypeSizes[int(type)] || height > INT_MAX)
+  if (std::max(height, width) > INT_MAX || width * channels * kTypeSizes[int(type)] > INT_MAX)
     return refuse(PyExc_ValueError, "sides and rows of an array end at 2^31 - 1");
   if (planes) {
     result = PyTuple_New(planes);
@@ -518,7 +524,7 @@ void Run::keepAlpha() {
   }
 }
 
-Value Run::argument(char letter) {
+__attribute__((always_inline)) inline Value Run::argument(char letter) {
   Image &first = swapped ? b : a, &second = swapped ? a : b;
   Value value = {};
   switch (letter) {
@@ -633,9 +639,10 @@ void Run::moveToPart() {
 }
 
 PyObject* Run::call() {
-  if (std::strchr(member->program, 'J') && a.first.step != b.first.step && (!packSource(a) || !packSource(b)))
+  if (two() && a.first.step != b.first.step && std::strchr(member->program, 'J') && (!packSource(a) || !packSource(b)))
     return nullptr;
-  if (std::strchr(member->program, 'u') && !findWork()) return nullptr;
+  const bool pixels = op.family == Family::pixels || op.family == Family::measure;
+  if (!pixels && std::strchr(member->program, 'u') && !findWork()) return nullptr;
   Value values[20];
   if (part.given) moveToPart();
   for (int i = 0; member->program[i]; ++i) values[i] = argument(member->program[i]);
@@ -667,7 +674,7 @@ PyObject* Run::call() {
     if (!none) return nullptr;
     Py_DECREF(none);
   }
-  return op.results ? numbersOfAll() : Py_NewRef(result);
+  return op.results ? numbersOfAll() : std::exchange(result, nullptr);
 }
 
 // For a chain: the function; its program, with = for what is given; that, as values or, with True, what they point to;

@@ -147,6 +147,7 @@ bool isNumber(PyObject* object) {
 }
 
 bool isConstant(PyObject* object, PyObject* source, bool mayBePlanes) {
+  if (Py_TYPE(object) == gArrayType && Py_TYPE(source) == gArrayType) return false;
   if (!PyTuple_Check(object) && !PyList_Check(object)) return Py_TYPE(object) != Py_TYPE(source) && isNumber(object);
   if (!mayBePlanes || PySequence_Size(object) < 1) return true;
   PyObject* item = PySequence_GetItem(object, 0);
