@@ -137,10 +137,11 @@ def choose(name, image, alpha):
     layout = "AC4" if alpha else image.layout
     found = [m for m in members[name] if m.types[0] == image.code and m.layout == layout]
     if not found:
+        kept = '4 channels and alpha="keep"'
         there = dict.fromkeys(
             f"{CODE_NAMES.get(m.types[0], m.types[0])}"
             f"{' to ' + CODE_NAMES.get(m.types[-1], m.types[-1]) if m.types[-1] != m.types[0] else ''} with "
-            f"{m.layout[1:] if m.layout[0] == 'C' else '4 channels and alpha=keep'}" for m in members[name])
+            f"{m.layout[1:] if m.layout[0] == 'C' else kept}" for m in members[name])
         refuse(name, f"no function for {image.dtype} with {image.channels} channel{'s' * (image.channels > 1)}"
                f"{' and alpha=' + repr(alpha) if alpha else ''}; there are: {'; '.join(there)}", TypeError)
     return found

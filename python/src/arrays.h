@@ -132,8 +132,13 @@ struct View {
     held = true;
     type = typeOf(buffer.format, buffer.itemsize);
     if (type != Type::none && kTypeSizes[int(type)] == buffer.itemsize) return true;
-    PyErr_Format(PyExc_TypeError, "%s: no function takes elements of format '%s'", operation,
-                 buffer.format ? buffer.format : "B");
+    PyObject* dtype = PyObject_GetAttrString(from, "dtype");
+    PyErr_Clear();
+    if (dtype)
+      PyErr_Format(PyExc_TypeError, "%s: no function takes elements of %S", operation, dtype);
+    else
+      PyErr_Format(PyExc_TypeError, "%s: no function takes elements of format '%s'", operation, buffer.format);
+    Py_XDECREF(dtype);
     return false;
   }
 

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "chain.h"
 
@@ -33,20 +34,6 @@ const Member* find(const Operation& op, unsigned key) {
   const Member *first = kMembers + op.first, *end = first + op.count;
   const Member* found = std::lower_bound(first, end, key, [](const Member& m, unsigned k) { return m.key < k; });
   return found != end && found->key == key ? found : nullptr;
-}
-
-std::string existing(const Operation& op) {
-  std::string list;
-  for (int i = 0; i < op.count; ++i) {
-    const Key key = parts(kMembers[op.first + i].key);
-    std::string word = key.source == Type::none ? describe(key.destination, key.destinationLayout)
-                                                : describe(key.source, key.sourceLayout);
-    if (key.source != key.destination && key.source != Type::none && key.destination != Type::none)
-      word += " to " + std::string(kTypeNames[int(key.destination)]);
-    if (list.find(word + ";") == std::string::npos) list += (list.empty() ? "" : " ") + word + ";";
-  }
-  if (!list.empty()) list.pop_back();
-  return list;
 }
 }  // namespace
 
@@ -313,6 +300,41 @@ bool Run::windowMayWrite() {
          refuse(PyExc_ValueError, "out shares memory with the source, and is not the same array");
 }
 
+// The images that there are functions for; behind those that go with the other arguments, what else there is.
+std::string Run::existing() const {
+  std::vector<std::string> words;
+  std::string list;
+  for (const bool wanted : {form, !form}) {
+    std::string part;
+    for (int i = 0; i < op.count; ++i) {
+      const Key key = parts(kMembers[op.first + i].key);
+      if (key.form != wanted || key.masked != bool(options.mask)) continue;
+      std::string word = key.source == Type::none ? describe(key.destination, key.destinationLayout)
+                                                  : describe(key.source, key.sourceLayout);
+      if (key.source != key.destination && key.source != Type::none && key.destination != Type::none)
+        word += " to " + std::string(kTypeNames[int(key.destination)]);
+      if (std::find(words.begin(), words.end(), word) != words.end()) continue;
+      words.push_back(word);
+      part += (part.empty() ? "" : "; ") + word;
+    }
+    if (part.empty()) continue;
+    if (wanted != form) list += (list.empty() ? "" : "; ") + otherForm() + ": ";
+    list += part;
+  }
+  return list;
+}
+
+// What would have to be given for the other form.
+std::string Run::otherForm() const {
+  if (op.takesConstant) return form ? "with two images" : "with a constant";
+  std::string names;
+  for (int i = 0; i < op.parameters; ++i)
+    if (op.formMask >> i & 1)
+      names += (names.empty() ? "" : " and ") + std::string(kParameters[op.firstParameter + i].name);
+  if (!names.empty()) return (form ? "without " : "with ") + names;
+  return form ? "with a kernel of floats" : "with a kernel of integers";
+}
+
 bool Run::explain(Type source) {
   const Type usual = Type(self.destinationType[int(source)]);
   if (out.given() && !op.needsType && usual != out.first.type && look(source, usual)) {
@@ -322,7 +344,7 @@ bool Run::explain(Type source) {
   if (out.given() && a.given() && out.channels() != a.channels())
     return refuse(PyExc_ValueError, "out must have the shape of the source");
   const Image& image = a.given() ? a : out;
-  const std::string list = existing(op);
+  const std::string list = existing();
   const int channels = image.given() ? image.channels() : axes == 3 ? int(sides[2]) : 1;
   const Type type = image.given() ? image.first.type : options.type;
   PyErr_Format(

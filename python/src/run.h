@@ -1,6 +1,8 @@
 // One call of an operation.
 #pragma once
 
+#include <string>
+
 #include "arrays.h"
 #include "values.h"
 
@@ -90,6 +92,8 @@ class Run {
   bool look(Type source, Type destination);
   bool windowMayWrite();
   bool explain(Type source);
+  std::string existing() const;
+  std::string otherForm() const;
   bool takeOwn();
   bool takeOwn(const Parameter& parameter, const Values& values, PyObject* value, char* place);
   bool readSeed(PyObject* value, char* place);

@@ -245,7 +245,7 @@ bool readShape(PyObject* given, Py_ssize_t* sides, int* axes, const char* operat
     sides[i] = side ? PyLong_AsSsize_t(side) : -1;
     Py_XDECREF(side);
     if (PyErr_Occurred()) PyErr_Clear(), sides[i] = -1;
-    good = sides[i] >= 0 && sides[i] <= INT_MAX && (i < 2 || sides[i] == 1 || sides[i] == 3 || sides[i] == 4);
+    good = sides[i] >= 0 && sides[i] <= INT_MAX && (i < 2 || (sides[i] >= 1 && sides[i] <= 4));
   }
   *axes = int(count);
   if (!good) PyErr_Format(PyExc_ValueError, "%s: shape is (H, W), (H, W, C) or (N,), not %R", operation, given);

@@ -1,5 +1,6 @@
 """The operations: each function that they reach gives the bits that it gives by hux.c, however the arrays lie."""
 import pickle
+import re
 import subprocess
 import sys
 import threading
@@ -145,8 +146,9 @@ def test_what_is_refused_says_why():
     for call, error, text in (
             (lambda: hux.add(a, a.astype(np.int16)), TypeError, "no promotion"),
             (lambda: hux.add(a, a[:2]), ValueError, "no broadcasting"),
-            (lambda: hux.add(a.astype(np.int64), 1), TypeError, "format 'l'"),
-            (lambda: hux.add(a.astype(">i2"), 1), TypeError, "format"),
+            (lambda: hux.add(a.astype(np.int64), 1), TypeError, "of int64"),
+            (lambda: hux.add(a.astype(">i2"), 1), TypeError, "of >i2"),
+            (lambda: hux.add(memoryview(a.astype(np.int64)), 1), TypeError, "format 'l'"),
             (lambda: hux.exp(a.astype(np.float64)), TypeError, "there are: uint8 with 1"),
             (lambda: hux.add(a, a, out=a.astype(np.int16)), TypeError, "out must have the dtype"),
             (lambda: hux.add(a, a, out=a[:2].copy()), ValueError, "out must have the shape"),
@@ -166,6 +168,50 @@ def test_what_is_refused_says_why():
             (lambda: hux.add(a[:0], a[:0]), hux.BadSizeError, "add: .*huxiAdd_8u_C1RSfs")):
         with pytest.raises(error, match=text):
             call()
+
+
+FORM = re.compile(r'(\w+?)(?: (vectors)| with (\d)(?: channels and alpha="(keep)")?| in (\d) planes|'
+                  r' with one channel of (\d))(?: to (\w+))?')
+
+
+@pytest.mark.parametrize("constant", [False, True])
+def test_forms_that_messages_list_are_taken(constant):
+    listed = 0
+    for name, rule in RULES.items():
+        operation = OPERATIONS[name]
+        if not operation.native or constant and not rule["constant"]:
+            continue
+        keywords, taps = operation.__doc__.partition("\n")[0], np.ones((3, 3) if name == "filter" else 3, np.float32)
+
+        def which(image, given="", **options):
+            numbers = {"with a constant": 1, "with two images": 0}.get(given, int(constant))
+            options |= {word: 1 for word in ("alpha1", "alpha2", "alpha_value") if word in given}
+            if "kernel" in keywords:
+                options["kernel"] = taps.astype(int).tolist() if "of integers" in given else taps
+            if not rule["sources"]:
+                return operation.which(out=image, **options)
+            return operation.which(*[image] * (rule["sources"] - numbers), *[1] * numbers, **options)
+
+        message, given = "", ""
+        for odd in (np.zeros(shape, t) for t in (np.float64, np.int8, hux.complex_int16) for shape in ((4, 4, 2), (4, 4), 4)):
+            try:
+                which(odd)
+            except TypeError as error:
+                message = message or str(error).partition("there are: ")[2]
+        for form in message.split("; ") if message else ():
+            given, form = (form.rpartition(": ")[0] or given), form.rpartition(": ")[2]
+            word, vector, channels, alpha, planes, one, result = FORM.fullmatch(form).groups()
+            image = np.zeros((8, 9, int(channels or planes or one or 1)),
+                             getattr(hux, word) if word.startswith("complex_int") else word)
+            image = image[0, :, 0] if vector else list(np.moveaxis(image, 2, 0).copy()) if planes else \
+                image[..., 1] if one else image[..., 0].copy() if channels == "1" else image
+            options = {key: value for key, value in (("alpha", alpha), ("dtype", result)) if value}
+            try:
+                which(image, given, **options)
+            except TypeError:
+                which(image, given, out=image, **options)  # there are some in place alone
+            listed += 1
+    assert listed > 200
 
 
 def test_warnings_point_at_the_caller():
