@@ -56,7 +56,9 @@ def main():
         image = picture(options.side, options.chunk)
         if options.zarr:
             if not Path(options.zarr).exists():
+                begun = time.monotonic()
                 image.to_zarr(options.zarr)
+                print(f"stored in {time.monotonic() - begun:.1f} s")
             image = da.from_zarr(options.zarr)
         begun = time.monotonic()
         smooth = hd.filter_gauss(image, "5x5", border="reflect101")
