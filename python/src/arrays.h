@@ -123,10 +123,13 @@ struct View {
 
   bool readBuffer(PyObject* from, bool written, const char* operation) {
     if (PyObject_GetBuffer(from, &buffer, written ? PyBUF_RECORDS : PyBUF_RECORDS_RO) < 0) {
-      if (PyErr_ExceptionMatches(PyExc_TypeError))
+      const auto* const array = Py_TYPE(from) == gArrayType ? reinterpret_cast<NumpyArray*>(from) : nullptr;
+      if (PyErr_ExceptionMatches(PyExc_BufferError) || (array && written && !(array->flags & kWriteable)))
+        PyErr_Format(PyExc_ValueError, "%s: out is read-only", operation);
+      else if (array)  // some of numpy's types have no buffers
+        PyErr_Format(PyExc_TypeError, "%s: no function takes elements of %S", operation, array->dtype);
+      else if (PyErr_ExceptionMatches(PyExc_TypeError))
         PyErr_Format(PyExc_TypeError, "%s: an array is expected, not %R", operation, from);
-      else if (PyErr_ExceptionMatches(PyExc_BufferError))
-        PyErr_Format(PyExc_ValueError, "%s: %R is read-only", operation, from);
       return false;
     }
     held = true;

@@ -4,6 +4,7 @@
 #include <climits>
 #include <cstring>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -77,7 +78,9 @@ bool Run::readOptions(Py_ssize_t count, PyObject* names) {
     } else if (word == kShape && (!op.sources || op.family == Family::geometry)) {
       options.shape = value == Py_None ? nullptr : value;
     } else {
-      PyErr_Format(PyExc_TypeError, "%s: no keyword %R", op.name, name);
+      const std::string_view doc = op.doc;
+      const std::string there(doc.substr(0, doc.find('\n')));
+      PyErr_Format(PyExc_TypeError, "%s: no keyword %R in %s", op.name, name, there.c_str());
       return false;
     }
   }

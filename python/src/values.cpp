@@ -24,7 +24,11 @@ bool writeNumber(PyObject* number, Type type, void* place, const char* operation
   };
   auto integer = [&](PyObject* from, long long low, long long high, long long* value) {
     PyObject* exact = PyNumber_Index(from);
-    if (!exact) return false;
+    if (!exact) {
+      if (PyErr_ExceptionMatches(PyExc_TypeError))
+        PyErr_Format(PyExc_TypeError, "%s: the constant %R is no %s", operation, number, kTypeNames[int(type)]);
+      return false;
+    }
     *value = PyLong_AsLongLong(exact);
     Py_DECREF(exact);
     if (*value == -1 && PyErr_Occurred()) return outside();
