@@ -119,8 +119,10 @@ def unpack_bits(bits: Any, width: int, offset: int = 0, *, out: Any = None) -> N
 
 def pack_bits(a: Any, threshold: int = 128, offset: int = 0, *, out: Any = None) -> NDArray[Any]:
     """Bits, the most significant of a byte first, from bit offset % 8 of each row on: an image halftoned by diffusing
-    errors at threshold."""
+    errors at threshold, or an array of bool as it is."""
     name = "pack_bits"
+    if isinstance(a, np.ndarray) and a.dtype == np.bool_:
+        a = a * np.uint8(255)
     image = Image(name, a, channels=(1,))
     offset, threshold = int(offset), int(threshold)
     if image.code != "8u":

@@ -401,6 +401,7 @@ def test_norm_and_bits():
     assert packed.shape == (9, 2)
     bits = np.unpackbits(packed, axis=1)[:, 3:15]
     assert np.array_equal(hux.unpack_bits(packed, 12, 3), bits * 255) and 0.2 < bits.mean() < 0.8
+    assert np.array_equal(hux.unpack_bits(hux.pack_bits(bits == 1), 12), bits * 255)
     with pytest.raises(hux.BadSizeError):
         hux.unpack_bits(packed, 14, 3)
 
