@@ -149,6 +149,14 @@ def _image(name: str, a: Any, like: da.Array | None = None) -> Any:
     return a.rechunk((*chunks, *((side,) for side in a.shape[2:])))
 
 
+def _plain(name: str, a: Any) -> da.Array:
+    """A source that is not in planes."""
+    image = _image(name, a)
+    if isinstance(image, list):
+        refuse(name, "an array is expected, not planes", TypeError)
+    return image
+
+
 def _images(name: str, sources: Sequence[Any], like: da.Array | None = None) -> list[Any]:
     images: list[Any] = []
     for source in sources:
@@ -401,7 +409,7 @@ def _points(name: str, arguments: Sequence[Any], options: dict[str, Any]) -> Any
 def _windows(name: str, arguments: Sequence[Any], options: dict[str, Any]) -> Any:
     operation = _operations[name]
     (source,), own = _split(name, arguments)
-    a = _image(name, source)
+    a = _plain(name, source)
     left, top, right, bottom = reach = _front.reach(operation, _pixels(a), *own, **options)
     kind = _kind(operation, _pixels(a, top + bottom + 1, left + right + 1), *own, **options)
     channels = kind.shape[2:]
@@ -423,7 +431,7 @@ def _tiles(name: str, arguments: Sequence[Any], options: dict[str, Any]) -> Any:
     """Of an image whose sides are multiples of 8, each tile of 8 by 8."""
     operation = _operations[name]
     (source,), own = _split(name, arguments)
-    a = _image(name, source)
+    a = _plain(name, source)
     if a.ndim != 2 or a.shape[0] % 8 or a.shape[1] % 8:
         refuse(name, "an image (H, W) is expected whose sides are multiples of 8")
     inplace = all(member.in_place for member in _front.members[name])
@@ -472,10 +480,11 @@ def _geometry(name: str, arguments: Sequence[Any], options: dict[str, Any]) -> A
         if beyond is None:
             refuse(name, "by blocks needs overlap=, the columns and rows that pixels come from at most", TypeError)
         return _in_parts(name, image, shape, named, chunks, beyond)
-    if maps:
-        return _whole(name, partial(_with_maps, name=name, options=named), [image, *maps], shape, dtype)
     shape = (*shape[:2], len(image)) if isinstance(image, list) else shape
-    made = _whole(name, _operations[name], [image], shape, dtype, options=named)
+    if maps:
+        made = _whole(name, partial(_with_maps, name=name, options=named), [image, *maps], shape, dtype)
+    else:
+        made = _whole(name, _operations[name], [image], shape, dtype, options=named)
     return tuple(made[..., k] for k in range(len(image))) if isinstance(image, list) else made
 
 
@@ -717,7 +726,7 @@ def _pointed(x_map: Any, y_map: Any, size: tuple[int, int]) -> Any:
 
 def _borders(name: str, arguments: Sequence[Any], options: dict[str, Any]) -> Any:
     (source,), own = _split(name, arguments)
-    a = _image(name, source)
+    a = _plain(name, source)
     named = _named(name, arguments, options)
     if a.ndim == 1:
         made = _borders(name, [a[None], *arguments[1:]], options)
@@ -735,7 +744,7 @@ def _two(name: str, arguments: Sequence[Any], options: dict[str, Any]) -> Any:
     """An image and a template or a kernel, which goes to each task whole."""
     blockwise, beyond = options.pop("blockwise", False), options.pop("overlap", None)
     sources, own = _split(name, arguments)
-    a, b = (_image(name, source) for source in sources)
+    a, b = (_plain(name, source) for source in sources)
     kind = _kind(_operations[name], _pixels(a, 2, 2), _pixels(b), *own, **options)
     more = 1 if "full" in name else 0 if "same" in name else -1
     if a.ndim == 1 or b.ndim == 1:
@@ -944,7 +953,7 @@ def _counts_of(call: Callable[..., Any], place: Any, block: Any) -> Any:
 def _counters(name: str, arguments: Sequence[Any], options: dict[str, Any]) -> Any:
     """Counts are int64, as there may be more pixels than 32 bits count."""
     call = _operations[name]
-    a = _image(name, arguments[0])
+    a = _plain(name, arguments[0])
     kind = _kind(call, _pixels(a), *arguments[1:], **options)
     counts = kind[0] if isinstance(kind, tuple) else kind
     whole = _total(name, [a], partial(_counts_of, partial(_after, call, tuple(arguments[1:]), options)), _sum_of)
@@ -965,7 +974,7 @@ def _after(call: Callable[..., Any], own: Any, options: Any, a: Any) -> Any:
 def histogram(a: Any, levels: Any = None, *, bins: int | None = None, range: Any = None,
               alpha: str | None = None) -> Any:
     """As hux.histogram, in int64: the counts of one call, however the image is chunked."""
-    image = _image("histogram", a)
+    image = _plain("histogram", a)
     if bins is None and levels is not None:
         return _lazy["histogram_range"](image, levels, alpha=alpha)
     kind = _kind(_short.histogram, _pixels(image), levels, bins=bins, range=range, alpha=alpha)
@@ -1036,7 +1045,7 @@ class Moments:
     bits."""
 
     def __init__(self, a: Any, alpha: str | None = None) -> None:
-        image = _image("moments", a)
+        image = _plain("moments", a)
         image = image if image.ndim > 1 else image[None]
         kind = _kind(_plans.moments, _pixels(image), alpha=alpha)
         self.channels = kind.channels
@@ -1095,7 +1104,7 @@ class _Transform:
 
     def _call(self, method: str, a: Any, blockwise: bool, options: Any) -> da.Array:
         name, axes = f"{self._kind.__name__}.{method}", len(self.shape)
-        image = _image(name, a)
+        image = _plain(name, a)
         sample = _pixels(image, 2, 2)
         kind = _kind(getattr(self._small, method), sample, **options)
         call, channels = partial(_method, self.plan, method), kind.shape[axes:]
@@ -1172,7 +1181,7 @@ class WT:
 
     def forward(self, a: Any, *, border: str = "wrap") -> tuple[da.Array, ...]:
         """The approximation, and the details in x, in y, and in both."""
-        image = _image("WT.forward", a)
+        image = _plain("WT.forward", a)
         _kind(self.plan.forward, _pixels(image, 2, 2), border=border)
         if any(side % 2 for side in image.shape[:2]):
             refuse("WT.forward", "the sides are even")
@@ -1189,7 +1198,8 @@ class WT:
 
     def inverse(self, bands: Any, *, border: str = "wrap") -> da.Array:
         """The image of four sub-bands."""
-        images = _images("WT.inverse", list(bands))
+        images = [_plain("WT.inverse", band) for band in bands]
+        images[1:] = [_image("WT.inverse", image, images[0]) for image in images[1:]]
         if len(images) != 4 or any(image.shape != images[0].shape for image in images):
             refuse("WT.inverse", "four sub-bands of one shape are expected")
         _kind(self.plan.inverse, [_pixels(image, 2, 2) for image in images], border=border)
@@ -1221,7 +1231,7 @@ class _Deconvolution:
 
     def __call__(self, a: Any, *arguments: Any, blockwise: bool = False, overlap: Any = None) -> da.Array:
         name = self._kind.__name__
-        image = _image(name, a)
+        image = _plain(name, a)
         _kind(self.plan, _pixels(image), *arguments)
         call, channels = self.plan, image.shape[2:]
         if not blockwise:
@@ -1284,7 +1294,12 @@ class Operation:
             promise = f"{_SAME} Each block is made of a rectangle of the source" + (
                 ", for which the maps are looked at when it is called." if self.__name__ == "remap" else ".")
         elif rule.get("running") and rule["kind"] == "window":
-            promise += f"\nExcepted are {', '.join(rule['running'])} where sums of floats run on from row to row."
+            types = ", ".join(_front.CODE_NAMES[code] for code in rule["running"])
+            promise += f"\nExcepted are {types} where sums of floats run on from row to row."
+        elif self.__name__.startswith("sum_window"):
+            promise += "\nExcepted are sums beyond 2**24, which run on along rows or columns, and are rounded."
+        elif rule.get("total") == "alike":
+            promise = "The last bits of the result depend on the chunks."
         self.__doc__ = f"{promise}\n\n{operation.__doc__}"
 
     def __call__(self, *arguments: Any, **options: Any) -> Any:

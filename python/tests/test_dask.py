@@ -203,6 +203,8 @@ def test_whole_images_and_blocks():
         assert equal(getattr(hd, name)(lazy, *arguments, **options), OPERATIONS[name](a, *arguments, **options)), name
     planes = [a[..., k].copy() for k in range(3)]
     assert equal(hd.resize(chunked(planes, random), (35, 31)), hux.resize(planes, (35, 31)))
+    maps = [np.full((7, 9), place, np.float32) for place in (3, 40)]
+    assert equal(hd.remap(chunked(planes, random), *maps, inter="nearest"), hux.remap(planes, *maps, inter="nearest"))
     whole, parts = hux.warp_affine(a, turn), hd.warp_affine(lazy, turn, blockwise=True, overlap=6).compute()
     assert np.abs(whole.astype(int) - parts).max() <= 1 and (whole != parts).mean() < 0.01
     for arguments, options in (((170, 65), {}), ((30, 41), {"inter": "lanczos"}), ((33, 90), {"inter": "nearest"})):
@@ -289,6 +291,7 @@ def test_errors_come_at_the_call():
             (lambda: hd.add(a, a.astype(np.int16)), TypeError, "no promotion"),
             (lambda: hd.add(a, a[:9]), ValueError, "no broadcasting"),
             (lambda: hd.add(a, 1, out=a), TypeError, "no out="),
+            (lambda: hd.filter_gauss([a] * 3), TypeError, "not planes"), (lambda: hd.moments([a] * 3), TypeError, "not planes"),
             (lambda: hd.add(a, 1, nothing=1), TypeError, "no keyword"), (lambda: hd.div(a, 0), hux.DivByZeroError, ""),
             (lambda: hd.filter_gauss(a, "1x3"), hux.BadMaskSizeError, ""),
             (lambda: hd.filter_box(a, (60, 3), border=None), hux.BadSizeError, ""),
