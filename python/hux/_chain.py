@@ -9,6 +9,7 @@ from __future__ import annotations
 
 import struct
 from collections.abc import Callable
+from importlib import import_module
 from typing import Any
 
 import numpy as np
@@ -438,8 +439,9 @@ class Chain:
 
     def _blockwise(self, images: tuple[Any, ...], out: Any) -> Any:
         """On dask arrays: block by block, each with the pixels around it that the chain reads."""
-        import dask.array as da
-        from dask.array.overlap import ensure_minimum_chunksize, overlap, trim_internal
+        # Found by name, so that checking the types of a program does not mean to look through dask.
+        da, edges = import_module("dask.array"), import_module("dask.array.overlap")
+        least = edges.ensure_minimum_chunksize
         arrays = [image for image in images if hasattr(image, "__dask_graph__")]
         if out is not None or len(arrays) < sum(hasattr(image, "shape") for image in images):
             refuse("chain", "takes dask arrays alone, if any, and no out= with them", TypeError)
@@ -449,12 +451,12 @@ class Chain:
         if not plan.outputs or any(step.fields for step in plan.steps):
             refuse("chain", "measures have no blocks: end the chain before them, and take those of hux.dask", TypeError)
         left, top, right, bottom = plan.reach
-        rows = ensure_minimum_chunksize(max(top, bottom) + 1, first.chunks[0]) if top + bottom else first.chunks[0]
-        columns = ensure_minimum_chunksize(max(left, right) + 1, first.chunks[1]) if left + right else first.chunks[1]
+        rows = least(max(top, bottom) + 1, first.chunks[0]) if top + bottom else first.chunks[0]
+        columns = least(max(left, right) + 1, first.chunks[1]) if left + right else first.chunks[1]
         blocks = [a.rechunk((rows, columns, *((-1,) * (a.ndim - 2)))) for a in arrays]
 
         depth, none = {0: (top, bottom), 1: (left, right)}, {0: "none", 1: "none"}
-        wide = [overlap(a, depth, none) if any(plan.reach) else a for a in blocks]
+        wide = [edges.overlap(a, depth, none) if any(plan.reach) else a for a in blocks]
         own = tuple(None if hasattr(image, "__dask_graph__") else image for image in images)
         places = [index for k, a in enumerate(wide) for index in (a, (0, 1, 10 + k)[:a.ndim])]
 
@@ -463,7 +465,7 @@ class Chain:
             whole = da.blockwise(_Block(Chain(_Only(self._function, k), self._rows), own), (0, 1, 2)[:len(shape)], *places,
                                  new_axes={2: channels[0]} if channels else None, concatenate=True, align_arrays=False,
                                  dtype=dtype, meta=np.empty((0,) * len(shape), dtype))
-            return trim_internal(whole, depth, none) if any(plan.reach) else whole
+            return edges.trim_internal(whole, depth, none) if any(plan.reach) else whole
         results = iter([made(k, dtype, shape) for k, (dtype, shape) in enumerate(plan.kinds)])
         return plan.walk(plan.result, lambda image: next(results), lambda number: number)
 
