@@ -245,7 +245,7 @@ def test_wavelets():
     def taps():
         both = [generator.uniform(-1, 1, random.randrange(2, 10)).astype(np.float32) for _ in range(2)]
         return [part for own in both for part in (own, random.randrange(len(own)))]
-    for _ in range(25):
+    for _ in range(15):
         plans = [kind(*given) for given in [(taps(), taps())] for kind in (hux.WT, hd.WT)]
         shape = random.choice([(2, 6), (18, 40), (34, 22)]) + random.choice([(), (3,)])
         border = random.choice(["wrap", "replicate", "constant", "symmetric", "reflect101"])
