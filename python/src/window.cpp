@@ -70,27 +70,30 @@ struct Continued {
  private:
   template <int kSize>
   bool write(Py_ssize_t x, Py_ssize_t y, Py_ssize_t columns, Py_ssize_t rows, char* to, Py_ssize_t toStep) const {
-    const size_t bytes = kSize ? kSize : size_t(size);
+    const Continued image = *this;  // which what is written cannot be, as far as compilers know
+    const Py_ssize_t bytes = kSize ? kSize : image.size;
     const Py_ssize_t first = std::clamp<Py_ssize_t>(-x, 0, columns),
-                     end = std::clamp<Py_ssize_t>(width - x, first, columns);
+                     end = std::clamp<Py_ssize_t>(image.width - x, first, columns);
     Py_ssize_t few[64];
     const Py_ssize_t around = first + columns - end;
     std::unique_ptr<Py_ssize_t[]> many(around > 64 ? new (std::nothrow) Py_ssize_t[around] : nullptr);
     Py_ssize_t* const places = around > 64 ? many.get() : few;
     if (!places) return false;
-    for (Py_ssize_t i = 0; i < around; ++i) places[i] = inside(x + (i < first ? i : end + i - first), width, border);
+    for (Py_ssize_t i = 0; i < around; ++i)
+      places[i] = inside(x + (i < first ? i : end + i - first), image.width, image.border);
     for (Py_ssize_t row = 0; row < rows; ++row, to += toStep) {
-      const Py_ssize_t source = inside(y + row, height, border);
-      const char* const from = source < 0 ? nullptr : pixels + source * step;
+      const Py_ssize_t at = y + row;
+      const Py_ssize_t source = at >= 0 && at < image.height ? at : inside(at, image.height, image.border);
+      if (source < 0) {
+        for (Py_ssize_t i = 0; i < columns; ++i) std::memcpy(to + i * bytes, image.value, size_t(bytes));
+        continue;
+      }
+      const char* const from = image.pixels + source * image.step;
       auto put = [&](Py_ssize_t column, Py_ssize_t place) {
-        std::memcpy(to + column * Py_ssize_t(bytes), from && place >= 0 ? from + place * Py_ssize_t(bytes) : value,
-                    bytes);
+        std::memcpy(to + column * bytes, place < 0 ? image.value : from + place * bytes, size_t(bytes));
       };
       for (Py_ssize_t i = 0; i < first; ++i) put(i, places[i]);
-      if (from && end > first)
-        std::memcpy(to + first * size, from + (x + first) * size, size_t((end - first) * size));
-      else
-        for (Py_ssize_t i = first; i < end; ++i) put(i, -1);
+      if (end > first) std::memcpy(to + first * bytes, from + (x + first) * bytes, size_t((end - first) * bytes));
       for (Py_ssize_t i = end; i < columns; ++i) put(i, places[first + i - end]);
     }
     return true;
@@ -251,13 +254,17 @@ Value Run::callWindow(Value* values) {
   const Continued continued{image.data(), image.step, image.width, image.height, size, border, borderPixel};
   auto framed = [&](Py_ssize_t x, Py_ssize_t y, Py_ssize_t columns, Py_ssize_t rows) {
     const Py_ssize_t step = (columns + left + right) * size;
-    std::unique_ptr<char, decltype(&std::free)> whole(
-        static_cast<char*>(std::malloc(size_t(step * (rows + top + bottom)))), std::free);
+    const size_t bytes = size_t(step * (rows + top + bottom));
+    char few[2048];
+    const bool small = bytes <= sizeof few;
+    std::unique_ptr<char, decltype(&std::free)> many(small ? nullptr : static_cast<char*>(std::malloc(bytes)),
+                                                     std::free);
+    char* const whole = small ? few : many.get();
     Value status = {};
     status.i = huxStsNoMem;
-    if (!whole || !continued.write(x - left, y - top, columns + left + right, rows + top + bottom, whole.get(), step))
+    if (!whole || !continued.write(x - left, y - top, columns + left + right, rows + top + bottom, whole, step))
       return status;
-    return run(whole.get() + top * step + left * size, step, x, y, columns, rows);
+    return run(whole + top * step + left * size, step, x, y, columns, rows);
   };
   // Windows of bytes or words whose sums go beyond what floats hold exactly: such sums run on along the rows of a call.
   const bool rounds = element < 4 && (left + right + 2) * (top + bottom + 1) > (1 << 24) / (element == 1 ? 255 : 65535);
