@@ -461,6 +461,9 @@ class chain : public chain_calls {
   [[nodiscard]] node<T, C> filter_box(node<T, C> src, extent mask_size,
                                       const std::type_identity_t<window<T, C>>& options = {}) {
     const point anchor = detail::anchored(options.anchor, mask_size);
+    // Sums of larger windows are rounded, and run on from row to row.
+    if (std::is_same_v<T, std::uint8_t> && (detail::wide(mask_size.width) + 1) * mask_size.height > 65793)
+      refuse(status::bad_mask_size, "filter_box");
     auto inner = options;
     inner.border = border::surroundings;
     return recorded<T, C>("filter_box", {part(src)},

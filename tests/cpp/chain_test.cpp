@@ -183,6 +183,11 @@ TEST(Chain, FailuresComeBeforeOutputs) {
     EXPECT_NE(std::string(failed.what()).find("filter_box"), std::string::npos);
   }
 
+  // A window of bytes whose sums are rounded.
+  hux::chain wide;
+  wide.output(wide.filter_box(recorded(wide), {300, 300}), first);
+  EXPECT_EQ(wide.try_run(), status::bad_mask_size);
+
   hux::chain sizes;
   sizes.output(recorded(sizes), small);
   EXPECT_EQ(sizes.try_run(), status::bad_size);
