@@ -472,9 +472,9 @@ def write_table(model, path):
     resolved, masks = rules.resolve(registry), {}
 
     def around(operation, function):
-        """Of a window: the reach, the masks that there are, whether it is local."""
+        """Of a window: the reach, the masks that there are, of how many pixels it is local."""
         if operation.family != "window":
-            return "{}, nullptr, false"
+            return "{}, nullptr, 0"
         arguments = {a["name"]: a for a in resolved[function["name"]]["arguments"]}
         sides = ", ".join(f"{{{n}, {s}, {a}}}" for n, s, a in reach_of(operation, function, arguments["pSrc"]))
         fixed = next((a for a in arguments.values() if a["role"] == "fixed_mask"), None)
@@ -483,7 +483,8 @@ def write_table(model, path):
             numbers = tuple(row[0] for row in fixed["values"]["rows"])
             own = f"kMasks{masks.setdefault(numbers, len(masks))}"
         running = function["types"][0] in operation.rule.get("running", ()) or resolved[function["name"]]["team"]
-        return f"{{{sides}}}, {own}, {str(bool(operation.rule.get('local')) and not running).lower()}"
+        most = operation.rule.get("exact", {}).get(function["types"][0], 2**31 - 1)
+        return f"{{{sides}}}, {own}, {most if operation.rule.get('local') and not running else 0}"
 
     def values(entries):
         return "{" + ", ".join(f"{{Type::{t}, {n}, {str(a).lower()}}}" for t, n, a in entries) + "}"

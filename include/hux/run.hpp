@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -45,6 +44,32 @@ struct running {
 };
 
 namespace detail {
+
+// Teams of the library's own would ask for the processors that the chain's have: while one of these is there, calls of
+// its thread have none. Where the program has no OpenMP, or its names cannot be looked up, the library decides.
+#if defined __ELF__ && defined __GNUC__
+extern "C" {
+[[gnu::weak, gnu::visibility("default")]] int hux_get_active_levels() __asm__("omp_get_max_active_levels");
+[[gnu::weak, gnu::visibility("default")]] void hux_set_active_levels(int) __asm__("omp_set_max_active_levels");
+}
+class alone {
+ public:
+  alone() : before_(hux_get_active_levels && hux_set_active_levels ? hux_get_active_levels() : 0) {
+    if (before_ > 0) hux_set_active_levels(0);
+  }
+  ~alone() {
+    if (before_ > 0) hux_set_active_levels(before_);
+  }
+
+ private:
+  int before_;
+};
+#else
+class alone {
+ public:
+  alone() {}
+};
+#endif
 
 // What a node of a layout is to a call: a view or planes.
 template <class T, int C>
@@ -212,15 +237,25 @@ class plan {
     stores_.clear(), tasks_.clear();
     stores_.reserve(values.size() + steps.size());
     tasks_.reserve(2 * steps.size() + values.size());
-    if (!place(values)) return status::bad_arg;
+    if (!find_caught(values, caught_)) return status::bad_arg;
+    place(values);
     for (std::size_t s = 0; s < steps.size(); ++s)
       if (!take(static_cast<int>(s))) return status::bad_arg;
     for (std::size_t t = tasks_.size(); t-- > 0;) need(tasks_[t], static_cast<int>(t));
     return lay_out(rows);
   }
 
-  int rows() const { return rows_; }
+  // Whether it still holds when images of the caller's have moved: which of them share bytes is what it depends on.
+  bool holds(const std::vector<value>& values) { return find_caught(values, now_) && now_ == caught_; }
+
   std::size_t bytes() const { return bytes_; }
+  // How many threads are worth their start: each has a megabyte of work or more, of which seams are the least part.
+  // Whoever says how many rows a band has gets the threads asked for.
+  int team(const running& options) const {
+    const std::int64_t by_work = std::min(work_ >> 20, size_.height / std::max<std::int64_t>(8, 4 * seam_));
+    const std::int64_t most = options.rows > 0 ? size_.height / std::min(rows_, 16) : by_work;
+    return static_cast<int>(std::clamp<std::int64_t>(most, 1, std::clamp(options.threads, 1, kMostThreads)));
+  }
   // Whether a call comes behind one that writes to an image of the caller's, and could fail when that is done.
   bool checked_ahead() const { return first_output_ < tasks_.size(); }
 
@@ -230,7 +265,6 @@ class plan {
     std::vector<int> first, next;  // the rows of each store
     std::vector<status> statuses;  // of the steps
     std::vector<std::unique_ptr<tally>> tallies;
-    status end = status::ok;
     int from = 0, until = 0;
   };
   void begin(share& own, int from, int until) const {
@@ -275,7 +309,8 @@ class plan {
     }
   }
 
-  status run(share& own) const {
+  // Ends at a call that fails; the statuses tell.
+  void run(share& own) const {
     for (int y = own.from; y < own.until; y += rows_) {
       const int end = std::min(own.until, y + rows_);
       for (const task& t : tasks_) {
@@ -300,7 +335,7 @@ class plan {
           if (found != status::ok) {
             status& kept = own.statuses[at(t.step)];
             if (kept == status::ok || static_cast<int>(found) < 0) kept = found;
-            if (static_cast<int>(found) < 0) return found;
+            if (static_cast<int>(found) < 0) return;
           }
         }
         if (t.to < 0) continue;
@@ -309,11 +344,11 @@ class plan {
         if (t.step >= 0) hand_out(own, t.to, std::max(from, own.from), std::min(until, own.until));
       }
     }
-    return status::ok;
   }
 
  private:
   static constexpr std::int64_t kCache = 256 << 10;
+  static constexpr int kMostThreads = 1024;
   static constexpr std::size_t at(int index) { return static_cast<std::size_t>(index); }
 
   const value& value_of(const store& s) const { return values_[s.value]; }
@@ -329,9 +364,29 @@ class plan {
   spread of_input(const value& v, int plane) const { return {v.in[plane], v.in_step, v.pixel, v.own}; }
   spread of_output(const value& v, int plane) const { return {v.out[plane], v.out_step, v.pixel, v.own}; }
 
-  // A store for each value. Inputs that share rows with an output are copied before those are written; false where
-  // images share more than that, or outputs anything.
-  bool place(const std::vector<value>& values) {
+  // Which inputs share rows with an output; false where images share more than that, or outputs anything.
+  bool find_caught(const std::vector<value>& values, std::vector<char>& caught) const {
+    caught.assign(values.size(), false);
+    for (std::size_t o = 0; o < values.size(); ++o)
+      for (int p = 0; values[o].output && p < values[o].planes; ++p) {
+        const spread own = of_output(values[o], p);
+        for (std::size_t k = 0; k < values.size(); ++k)
+          for (int q = 0; q < values[k].planes; ++q) {
+            if (values[k].input) {
+              const shared found = sharing(own, of_input(values[k], q), size_);
+              if (found == shared::more) return false;
+              if (found == shared::rows) caught[k] = true;
+            }
+            if (values[k].output && (k > o || (k == o && q > p)) &&
+                sharing(own, of_output(values[k], q), size_) != shared::nothing)
+              return false;
+          }
+      }
+    return true;
+  }
+
+  // A store for each value. Inputs that share rows with an output are copied before those are written.
+  void place(const std::vector<value>& values) {
     for (std::size_t i = 0; i < values.size(); ++i) {
       store own;
       own.value = static_cast<int>(i);
@@ -339,25 +394,10 @@ class plan {
       stores_.push_back(own);
     }
     here_.resize(values.size());
-    for (std::size_t i = 0; i < values.size(); ++i) here_[i] = static_cast<int>(i);
-    for (std::size_t o = 0; o < values.size(); ++o) {
-      if (!values[o].output) continue;
-      for (int p = 0; p < values[o].planes; ++p) {
-        const spread own = of_output(values[o], p);
-        for (std::size_t k = 0; k < values.size(); ++k)
-          for (int q = 0; q < values[k].planes; ++q) {
-            if (values[k].input) {
-              const shared found = sharing(own, of_input(values[k], q), size_);
-              if (found == shared::more) return false;
-              if (found == shared::rows && here_[k] == static_cast<int>(k)) catch_input(static_cast<int>(k));
-            }
-            if (values[k].output && (k > o || (k == o && q > p)) &&
-                sharing(own, of_output(values[k], q), size_) != shared::nothing)
-              return false;
-          }
-      }
+    for (std::size_t i = 0; i < values.size(); ++i) {
+      here_[i] = static_cast<int>(i);
+      if (caught_[i]) catch_input(static_cast<int>(i));
     }
-    return true;
   }
   void catch_input(int input) {
     store own;
@@ -450,6 +490,7 @@ class plan {
     std::int64_t per_row = 1, fixed = 0;
     bool windows = false;
     first_output_ = tasks_.size();
+    work_ = seam_ = 0;
     for (std::size_t i = 0; i < stores_.size(); ++i) {
       store& own = stores_[i];
       const value& v = value_of(own);
@@ -467,12 +508,18 @@ class plan {
       if (own.pitch > INT_MAX) return status::no_mem;
       if (own.place == store::in_ring)
         fixed += own.pitch * (std::int64_t{own.ahead} + own.behind + own.top + own.bottom), windows = true;
+      seam_ = std::max(seam_, std::int64_t{own.ahead} + own.before);
       if (own.place != store::for_band) per_row += own.pitch;
     }
     for (std::size_t t = 0; t < tasks_.size(); ++t)
       if (first_output_ == tasks_.size() && tasks_[t].step >= 0 && tasks_[t].to >= 0 &&
           value_of(stores_[at(tasks_[t].to)]).output)
         first_output_ = t + 1;
+    for (const task& t : tasks_)
+      if (t.step >= 0) {
+        const value& made = value_of(stores_[at(t.to >= 0 ? t.to : t.sources[0])]);
+        work_ += std::int64_t{made.pixel} * made.planes * size_.width * size_.height;
+      }
     // Stores for a band alone take turns.
     slots_.clear();
     for (std::size_t t = 0; t < tasks_.size(); ++t) {
@@ -658,9 +705,11 @@ class plan {
   extent size_ = {};
   std::vector<store> stores_;
   std::vector<task> tasks_;
-  std::vector<int> here_;  // by value, where to read it
+  std::vector<int> here_;           // by value, where to read it
+  std::vector<char> caught_, now_;  // by value, whether an output overwrites it
   std::vector<slot> slots_;
   int rows_ = 1;
+  std::int64_t work_ = 0, seam_ = 0;  // bytes that the calls make; rows around a share that they need
   std::size_t bytes_ = 0, unseen_at_ = 0, first_output_ = 0;
 };
 
@@ -704,10 +753,136 @@ class tally_of : public tally {
   std::optional<Part> all_;
 };
 
+// Runs the calls of a chain, whoever recorded them. It keeps the plan and the memory for the next run.
+class runner {
+ public:
+  static constexpr int kNoStep = -1;
+
+  std::vector<value> values;
+  std::vector<step> steps;
+  std::vector<std::unique_ptr<tally>> tallies;  // of which each thread has another
+  extent size = {};
+
+  // To be told when other images, calls or outputs have come, and when images of the caller's stand elsewhere.
+  void changed() { planned_ = false; }
+  void moved() { moved_ = true; }
+
+  // Gives the status of the first call that fails, or else the first that is not ok, and whose it is: kNoStep where the
+  // images share bytes that they may not, or there is no memory.
+  status run(const running& options, int& whose) try {
+    whose = kNoStep;
+    if (steps.empty()) return status::ok;
+    if (const status made = prepare(options); made != status::ok) return made;
+    const std::int64_t height = size.height, team = static_cast<std::int64_t>(shares_.size());
+    for (std::int64_t i = 0; i < team; ++i) {
+      plan::share& own = shares_[static_cast<std::size_t>(i)];
+      plan_.begin(own, static_cast<int>(height * i / team), static_cast<int>(height * (i + 1) / team));
+      std::fill(own.statuses.begin(), own.statuses.end(), status::ok);
+      for (const auto& one : own.tallies) one->clear();
+    }
+    const alone here;
+    // A call that fails does so before it writes. Where one comes behind an output, all are asked ahead of the work.
+    plan::share& front = shares_.front();
+    if (plan_.checked_ahead() && plan_.check(front) != status::ok) return first(whose, true);
+    if (team > 1)
+      share_out();
+    else
+      plan_.run(front);
+    if (const status failed = first(whose, true); failed != status::ok) return failed;
+    for (std::size_t t = 0; t < tallies.size(); ++t) {
+      for (std::size_t i = 1; i < shares_.size(); ++i) front.tallies[t]->join(*shares_[i].tallies[t]);
+      front.tallies[t]->give(size);
+    }
+    return first(whose, false);
+  } catch (const std::bad_alloc&) {
+    return status::no_mem;
+  }
+
+  // Of the last run: the status of a call, and what one measured.
+  status status_of(std::size_t call) const { return shares_.front().statuses[call]; }
+  const tally& measured(std::size_t index) const { return *shares_.front().tallies[index]; }
+  std::size_t bytes() const { return shares_.size() * plan_.bytes(); }
+
+ private:
+  // The plan and what each thread has, unless they are there.
+  status prepare(const running& options) {
+    if (planned_ && options.rows == planned_for_.rows && options.threads == planned_for_.threads &&
+        (!moved_ || plan_.holds(values))) {
+      moved_ = false;
+      return status::ok;
+    }
+    planned_ = moved_ = false;
+    if (const status made = plan_.make(values, steps, size, std::max(0, options.rows)); made != status::ok) return made;
+    shares_.resize(static_cast<std::size_t>(plan_.team(options)));
+    memory_.clear();
+    const std::size_t bytes = (plan_.bytes() + 63) / 64 * 64;
+    for (plan::share& own : shares_) {
+      own.statuses.resize(steps.size());
+      own.tallies.clear();
+      // Owned before the lists grow, which may fail.
+      for (const auto& one : tallies) {
+        std::unique_ptr<tally> made(one->another());
+        if (!made) return status::no_mem;
+        own.tallies.push_back(std::move(made));
+      }
+      if (bytes == 0) continue;
+      std::unique_ptr<std::byte[]> made(new (std::nothrow) std::byte[bytes + 64]());
+      if (!made) return status::no_mem;
+      memory_.push_back(std::move(made));
+      own.memory = memory_.back().get() + (64 - reinterpret_cast<std::uintptr_t>(memory_.back().get()) % 64) % 64;
+    }
+    planned_ = true;
+    planned_for_ = options;
+    return status::ok;
+  }
+
+  // Each thread has a share. Where none can be started, this one runs it.
+  void share_out() {
+    for (plan::share& own : shares_) plan_.save_seams(own);
+    {
+      std::vector<std::jthread> others;
+      others.reserve(shares_.size());
+      for (std::size_t i = 1; i < shares_.size(); ++i) try {
+          others.emplace_back([this, i] {
+            const alone here;
+            plan_.run(shares_[i]);
+          });
+        } catch (const std::exception&) {
+          plan_.run(shares_[i]);
+        }
+      plan_.run(shares_.front());
+    }
+    for (std::size_t i = 1; i < shares_.size(); ++i)
+      for (std::size_t s = 0; s < steps.size(); ++s) {
+        const status other = shares_[i].statuses[s];
+        status& kept = shares_.front().statuses[s];
+        if (other != status::ok && (kept == status::ok || (static_cast<int>(other) < 0 && static_cast<int>(kept) > 0)))
+          kept = other;
+      }
+  }
+
+  // The first status of the steps that is an error, or that is not ok.
+  status first(int& whose, bool errors) const {
+    const std::vector<status>& all = shares_.front().statuses;
+    for (std::size_t i = 0; i < all.size(); ++i)
+      if (errors ? static_cast<int>(all[i]) < 0 : all[i] != status::ok) {
+        whose = static_cast<int>(i);
+        return all[i];
+      }
+    return status::ok;
+  }
+
+  plan plan_;
+  bool planned_ = false, moved_ = false;
+  running planned_for_;
+  std::vector<plan::share> shares_;
+  std::vector<std::unique_ptr<std::byte[]>> memory_;
+};
+
 // What chains of any calls have: see chain.hpp.
 class chain_base {
  public:
-  chain_base() { values_.reserve(8), steps_.reserve(8); }
+  chain_base() { runner_.values.reserve(8), runner_.steps.reserve(8); }
   chain_base(chain_base&&) = default;
   chain_base& operator=(chain_base&&) = default;
 
@@ -738,8 +913,8 @@ class chain_base {
   // Where a number goes; it is written when all else is done.
   template <class V>
   void output(number<V> from, std::type_identity_t<V>& to) {
-    planned_ = false;
-    giving_[static_cast<std::size_t>(from.index)](*tallies_[static_cast<std::size_t>(from.index)], &to);
+    runner_.changed();
+    giving_[static_cast<std::size_t>(from.index)](*runner_.tallies[static_cast<std::size_t>(from.index)], &to);
   }
 
   // Runs the calls on bands of rows, each thread on a share of its own. Throws hux::error, naming the call, with the
@@ -767,7 +942,7 @@ class chain_base {
   template <class T, int C, std::size_t N>
   node<T, C> recorded(const char* name, const part_of_value (&sources)[N], const work& call) {
     const int index = added(value_of<T, C>());
-    step& own = steps_.emplace_back();
+    step& own = runner_.steps.emplace_back();
     own.name = name;
     std::copy_n(sources, N, own.sources);
     own.count = N;
@@ -779,10 +954,10 @@ class chain_base {
   template <class T, int C, std::size_t N, class S, int CS>
   node<T, C> recorded(const char* name, const part_of_value (&sources)[N], const work& call, reach around, border rule,
                       const constant<S, CS>& border_value) {
-    if (rule == border::surroundings && !values_[static_cast<std::size_t>(sources[0].value)].input)
+    if (rule == border::surroundings && !runner_.values[static_cast<std::size_t>(sources[0].value)].input)
       refuse(status::bad_arg, name);
     const node<T, C> made = recorded<T, C>(name, sources, call);
-    step& own = steps_.back();
+    step& own = runner_.steps.back();
     own.windowed = true;
     own.around = around;
     own.rule = rule;
@@ -809,14 +984,14 @@ class chain_base {
   }
   template <class V, std::size_t N, class Tally>
   number<V> tallied(const char* name, const part_of_value (&sources)[N], std::unique_ptr<Tally> own) {
-    step& made = steps_.emplace_back();
+    step& made = runner_.steps.emplace_back();
     made.name = name;
     std::copy_n(sources, N, made.sources);
     made.count = N;
-    made.measured = static_cast<int>(tallies_.size());
-    tallies_.push_back(std::move(own));
+    made.measured = static_cast<int>(runner_.tallies.size());
+    runner_.tallies.push_back(std::move(own));
     giving_.push_back([](tally& from, void* to) { static_cast<Tally&>(from).to = static_cast<V*>(to); });
-    planned_ = false;
+    runner_.changed();
     return {made.measured};
   }
 
@@ -838,14 +1013,14 @@ class chain_base {
     sized(size);
     for (T* plane : data)
       if (!plane) refuse(status::null_ptr, "output");
-    const value& known = values_[static_cast<std::size_t>(from.index)];
+    const value& known = runner_.values[static_cast<std::size_t>(from.index)];
     if (known.input || known.output || known.layout != C)
       from = recorded<T, C>("output", {part(from)}, copying<T, C>());
-    value& own = values_[static_cast<std::size_t>(from.index)];
+    value& own = runner_.values[static_cast<std::size_t>(from.index)];
     own.output = true;
     own.out_step = step;
     for (std::size_t p = 0; p < N; ++p) own.out[p] = reinterpret_cast<std::byte*>(data[p]);
-    planned_ = false;
+    runner_.changed();
   }
 
   template <class T, int C>
@@ -856,16 +1031,16 @@ class chain_base {
     return own;
   }
   int added(const value& own) {
-    planned_ = false;
-    values_.push_back(own);
-    return static_cast<int>(values_.size()) - 1;
+    runner_.changed();
+    runner_.values.push_back(own);
+    return static_cast<int>(runner_.values.size()) - 1;
   }
   void alpha_of(int index) {
-    values_[static_cast<std::size_t>(index)].own = values_[static_cast<std::size_t>(index)].pixel;
+    runner_.values[static_cast<std::size_t>(index)].own = runner_.values[static_cast<std::size_t>(index)].pixel;
   }
   void sized(extent size) {
-    if (size.width < 1 || size.height < 1 || (sized_ && !equal(size, size_))) refuse(status::bad_size, "chain");
-    size_ = size;
+    if (size.width < 1 || size.height < 1 || (sized_ && !equal(size, runner_.size))) refuse(status::bad_size, "chain");
+    runner_.size = size;
     sized_ = true;
   }
 
@@ -895,114 +1070,25 @@ class chain_base {
   }
 
  private:
-  // The plan and what each thread has, unless they are there.
-  status prepare(const running& options, const char*& name) {
-    if (planned_ && options.rows == planned_for_.rows && options.threads == planned_for_.threads) return status::ok;
-    planned_ = false;
-    if (const status made = plan_.make(values_, steps_, size_, std::max(0, options.rows)); made != status::ok) {
-      name = "chain::output";
-      return made;
-    }
-    const int team =
-        std::clamp(options.threads, 1, std::max(1, size_.height / std::max(1, std::min(plan_.rows(), 16))));
-    shares_.resize(static_cast<std::size_t>(team));
-    const std::size_t bytes = (plan_.bytes() + 63) / 64 * 64;
-    memory_.clear();
-    for (auto& own : shares_) {
-      own.statuses.resize(steps_.size());
-      own.tallies.clear();
-      // Owned before the lists grow, which may fail.
-      for (const auto& one : tallies_) {
-        std::unique_ptr<tally> made(one->another());
-        if (!made) return status::no_mem;
-        own.tallies.push_back(std::move(made));
-      }
-      if (bytes == 0) continue;
-      std::unique_ptr<std::byte[]> made(new (std::nothrow) std::byte[bytes + 64]());
-      if (!made) return status::no_mem;
-      memory_.push_back(std::move(made));
-      own.memory = memory_.back().get() + (64 - reinterpret_cast<std::uintptr_t>(memory_.back().get()) % 64) % 64;
-    }
-    planned_ = true;
-    planned_for_ = options;
-    return status::ok;
-  }
-
-  status try_run(const running& options, const char*& name) try {
+  status try_run(const running& options, const char*& name) {
     if (refused_ != status::ok) {
       name = refused_by_;
       return refused_;
     }
-    if (steps_.empty()) return status::ok;
-    if (const status made = prepare(options, name); made != status::ok) return made;
-    const auto team = static_cast<int>(shares_.size());
-    for (int i = 0; i < team; ++i) {
-      auto& own = shares_[static_cast<std::size_t>(i)];
-      plan_.begin(own, static_cast<int>(std::int64_t{size_.height} * i / team),
-                  static_cast<int>(std::int64_t{size_.height} * (i + 1) / team));
-      std::fill(own.statuses.begin(), own.statuses.end(), status::ok);
-      for (const auto& one : own.tallies) one->clear();
-      own.end = status::ok;
-    }
-    // A call that fails does so before it writes. Where one comes behind an output, all are asked ahead of the work.
-    plan::share& front = shares_.front();
-    if (plan_.checked_ahead())
-      if (const status failed = plan_.check(front); failed != status::ok) return first(front, name, true);
-    if (team == 1) {
-      front.end = plan_.run(front);
-    } else {
-      for (auto& own : shares_) plan_.save_seams(own);
-      std::vector<std::jthread> others;
-      others.reserve(static_cast<std::size_t>(team));
-      for (std::size_t i = 1; i < shares_.size(); ++i) {
-        auto work = [this, i] { shares_[i].end = plan_.run(shares_[i]); };
-        try {
-          others.emplace_back(work);
-        } catch (const std::system_error&) {
-          work();
-        }
-      }
-      front.end = plan_.run(front);
-    }
-    for (std::size_t i = 1; i < shares_.size(); ++i)
-      for (std::size_t s = 0; s < steps_.size(); ++s) {
-        const status other = shares_[i].statuses[s];
-        status& kept = front.statuses[s];
-        if (other != status::ok && (kept == status::ok || (static_cast<int>(other) < 0 && static_cast<int>(kept) > 0)))
-          kept = other;
-      }
-    if (const status failed = first(front, name, true); failed != status::ok) return failed;
-    for (std::size_t t = 0; t < tallies_.size(); ++t) {
-      for (std::size_t i = 1; i < shares_.size(); ++i) front.tallies[t]->join(*shares_[i].tallies[t]);
-      front.tallies[t]->give(size_);
-    }
-    return first(front, name, false);
-  } catch (const std::bad_alloc&) {
-    return status::no_mem;
-  }
-  // The first status of the steps that is an error, or that is not ok.
-  status first(const plan::share& own, const char*& name, bool errors) const {
-    for (std::size_t i = 0; i < own.statuses.size(); ++i)
-      if (errors ? static_cast<int>(own.statuses[i]) < 0 : own.statuses[i] != status::ok) {
-        name = steps_[i].name;
-        return own.statuses[i];
-      }
-    return status::ok;
+    int whose = runner::kNoStep;
+    const status out = runner_.run(options, whose);
+    if (whose != runner::kNoStep)
+      name = runner_.steps[static_cast<std::size_t>(whose)].name;
+    else if (out == status::bad_arg)
+      name = "chain::output";
+    return out;
   }
 
-  std::vector<value> values_;
-  std::vector<step> steps_;
-  std::vector<std::unique_ptr<tally>> tallies_;
+  runner runner_;
   std::vector<void (*)(tally&, void*)> giving_;
-  extent size_ = {};
   bool sized_ = false;
   status refused_ = status::ok;
   const char* refused_by_ = "";
-  plan plan_;
-  bool planned_ = false;
-  running planned_for_;
-  std::vector<plan::share> shares_;
-  std::vector<std::unique_ptr<std::byte[]>> memory_;
 };
 
 }  // namespace detail

@@ -3,7 +3,7 @@
 What a function does to images is recorded by the operations themselves, once for each kind of images: on an image that
 stands for others (Image), a call runs on one row of ones, which tells what it gives, or that it is refused; which
 function of the library it came to, and with what, is noted (_hux.noted). The notes become steps over bands of rows
-(_Plan), which the extension module runs (src/chain.cpp).
+(_Plan), which the extension module runs by the runner of the C++ front (src/chain.cpp).
 """
 from __future__ import annotations
 
@@ -29,7 +29,7 @@ _ADVICE = "is not local, so no chain has it: end the chain before it, and call i
 _TYPES = " B HhIifd"  # of numbers, by Type in table.h
 _LETTERS = {"pSrc": "a", "srcStep": "A", "pDst": "o", "dstStep": "O", "roiSize": "S", "dstRoiSize": "S",
             "pSrcDst": "o", "srcDstStep": "O"}
-_ZEROS, _AS_SOURCE = -2, -3
+_ZEROS = "zeros"
 _NONE = (0, 0, 0, 0)
 
 
@@ -38,8 +38,8 @@ class Image:
 
     __array_ufunc__ = None
 
-    def __init__(self, recorder: _Recorder, index: int, dtype: np.dtype, tail: tuple[int, ...]) -> None:
-        self._recorder, self._index, self.dtype = recorder, index, dtype
+    def __init__(self, recorder: _Recorder, dtype: np.dtype, tail: tuple[int, ...]) -> None:
+        self._recorder, self.dtype = recorder, dtype
         self.shape = (recorder.height, recorder.width, *tail)
 
     @property
@@ -74,17 +74,15 @@ class Number:
 
 
 class _Step:
+    """A call: a, b, start and o are images, of which several are planes; start is what the result starts as."""
+
     def __init__(self, operation, function, program, values, a, b, o, mask, offset, start, reach, border, fields, kept):
         self.operation, self.function, self.program, self.values = operation, function, program, values
         self.a, self.b, self.o, self.mask, self.offset, self.start = a, b, o, mask, offset, start
         self.reach, self.border, self.fields, self.kept = reach, border, fields, kept
 
     def sources(self):
-        return [*self.a, *self.b, *([self.mask] if self.mask >= 0 else []), *([self.start] if self.start >= 0 else [])]
-
-
-def _copy_of(image, to):
-    return _Step("chain", -1, "", b"", (image,), (), (to,), -1, 0, -1, _NONE, None, (), ())
+        return (*self.a, *self.b, *self.mask, *(self.start if self.start != _ZEROS else ()))
 
 
 class _Recorder:
@@ -96,7 +94,7 @@ class _Recorder:
         self.steps = []
 
     def image(self, dtype, tail):
-        self.images.append(Image(self, len(self.images), dtype, tail))
+        self.images.append(Image(self, dtype, tail))
         return self.images[-1]
 
     def taken(self, name, value):
@@ -140,16 +138,16 @@ class _Recorder:
         operands, probes = [own for own, _ in both], [probe for _, probe in both]
         if channel is not None:
             probes[0] = probes[0][..., channel]
-        given, start, mask = dict(options), -1, -1
+        given, onto, start, mask = dict(options), (), (), ()
         for key, value in options.items():
             own, given[key] = self.taken(name, value)
             if not own:
                 if key in ("out", "mask") and value is not None:
                     refuse(name, f"{key}= is an image of the chain here; arrays enter by its arguments", TypeError)
             elif key == "out" and len(own) == 1 and ("mask" in options or not operands):
-                start, whole = own[0]._index, own[0]
+                start = onto = own
             elif key == "mask" and len(own) == 1:
-                mask = own[0]._index
+                mask = own
             else:
                 refuse(name, f"no {key}= within a chain: a call gives a new image" if key == "out" else
                        f"no image for {key}=", TypeError)
@@ -161,15 +159,15 @@ class _Recorder:
         if len(note) == 6:
             _, program, fixed, begins, numbers, around = note
             values = b"".join(_address(np.frombuffer(own, np.uint8), kept) if pointed else own for own, pointed in fixed)
-            if start < 0 and begins:
-                start = _AS_SOURCE if begins == 1 else _ZEROS
+            if begins and not onto:
+                start = operands[0] if begins == 1 else _ZEROS
             if numbers:
                 fields = tuple((_TYPES[kind], merge, count)
                                for (kind, count), merge in zip(numbers, _MEASURES[name] * len(numbers)))
             if rule["kind"] == "window":
-                mode, filler, reach, local, size = around
+                mode, filler, reach, local = around
                 border, reach = (mode, filler), tuple(max(r, 0) for r in reach)
-                if not local or name == "filter_box" and _floats(operands[0][0], size):
+                if not local:
                     refuse(name, f"on {operands[0][0].dtype}, by sums of floats that run on from the first row, {_ADVICE}",
                            TypeError)
         else:
@@ -186,7 +184,7 @@ class _Recorder:
                     program += "="
                     values += _encoded(letter, value, kept)
             if member.layout == "AC4" and not fields:
-                start = _AS_SOURCE if result.dtype == operands[0][0].dtype else _ZEROS
+                start = operands[0] if result.dtype == operands[0][0].dtype else _ZEROS
         operands += [()] * 2
         a, b = (operands[i] if letter in program else () for i, letter in enumerate("ab"))
         if bool(a) != ("a" in program) or bool(b) != ("b" in program):
@@ -196,13 +194,10 @@ class _Recorder:
         offset = channel * a[0].dtype.itemsize if channel is not None else 0
         if fields:
             made, numbers = (), self.numbers(name, fields, result)
-        elif start >= 0:
-            made = numbers = (self.image(whole.dtype, whole.shape[2:]),)
         else:
-            several = isinstance(result, tuple)
-            numbers = made = tuple(self.image(p.dtype, p.shape[2:]) for p in (result if several else (result,)))
-        self.steps.append(_Step(name, index, program, values, *(tuple(i._index for i in own) for own in (a, b, made)),
-                                mask, offset, start, reach, border, fields, kept))
+            planes = onto or (result if isinstance(result, tuple) else (result,))
+            numbers = made = tuple(self.image(p.dtype, p.shape[2:]) for p in planes)
+        self.steps.append(_Step(name, index, program, values, a, b, made, mask, offset, start, reach, border, fields, kept))
         return numbers if fields or len(made) > 1 else made[0]
 
     def numbers(self, name, fields, result):
@@ -242,99 +237,86 @@ def _encoded(letter, value, kept):
     return struct.pack(kind, float(value) if kind in "fd" else int(value)).ljust(16, b"\0")
 
 
-def _floats(image, mask_size):
-    """Whether filter_box sums in floats: of bytes, where sums in large masks are not exact in them."""
-    return image.dtype == np.uint8 and mask_size[0] * mask_size[1] + mask_size[1] > 2**24 // 255
-
-
 class _Plan:
-    """The steps for images of one kind, and what they give."""
+    """The values and steps for images of one kind, and what they give."""
 
     def __init__(self, recorder, inputs, result):
-        self.result, self.inputs = result, inputs
-        self.outputs = []
-        self.walk(result, lambda image: self.outputs.append(image) or image, lambda number: number)
-        steps, images = list(recorder.steps), recorder.images
-        wanted = {image._index for image in self.outputs}
-        alive = []
-        for step in reversed(steps):
+        self.result, self.outputs, numbers = result, [], []
+        self.walk(result, self.outputs.append, numbers.append)
+        alive, wanted = [], set(self.outputs)
+        for step in reversed(recorder.steps):
             if step.fields or wanted & set(step.o):
                 alive.append(step)
                 wanted |= set(step.sources())
         alive.reverse()
-        self.reach, self.wraps = self.reaches(alive, len(images))
-        sizes = [image.dtype.itemsize * (image.shape[2] if image.ndim == 3 else 1) for image in images]
-        self.pixels, given = list(sizes), set(inputs)
-        self.borders = {}  # of images: mode, filler and reach
-        self.own = set()
-        self.steps = []
-        self.frame(alive, given)
-        # Where an output is an input, or is there twice, its rows are copied.
-        self.places, taken = [], set(given)
-        for image in self.outputs:
-            index = image._index
-            if index in taken:
-                index = self.copied(index)
-            taken.add(index)
-            self.places.append(index)
+        self.reach, self.wraps = self.reaches(alive, recorder.images)
         self.kinds = [(image.dtype, image.shape) for image in self.outputs]
-        self.pointwise = not any(any(step.reach) for step in self.steps)
-        self.chain = _hux.make_chain(
-            tuple((i in given, i in self.places, i in self.own, pixel, *self.borders.get(i, (1, b"", _NONE))[::2],
-                   self.borders.get(i, (1, b"", _NONE))[1]) for i, pixel in enumerate(self.pixels)),
-            tuple((s.function, s.program, s.values, s.a, s.b, s.o, s.mask, s.offset, s.start, s.reach,
-                   s.function < 0 and self.borders.get(s.o[0], (1,))[0] == BORDERS["wrap"], s.fields) for s in self.steps))
+        # Images are values of the runner's, or planes of one.
+        self.values, self.steps, self.given, self.places = [], [], [], {}
+        for image in inputs:
+            self.value(image)
+        for step in alive:
+            self.step(step)
+        targets, taken = [], set(range(len(inputs)))
+        for image in self.outputs:
+            value, plane = self.places[image]
+            if value in taken or plane >= 0:
+                value = self.gathered((image,))
+            taken.add(value)
+            targets.append(value)
+        self.chain = _hux.make_chain(tuple(self.values), tuple(self.given), tuple(range(len(inputs))), tuple(targets),
+                                     tuple(self.kinds), (recorder.width, recorder.height), isinstance(result, Image))
 
     @staticmethod
-    def reaches(steps, count):
+    def reaches(steps, images):
         """How far around a pixel inputs are read for it; and whether an image is continued by its other side."""
-        own = [_NONE] * count
+        own = dict.fromkeys(images, _NONE)
         for step in reversed(steps):
             beyond = [max(r) for r in zip(_NONE, *(own[o] for o in step.o))]
             for k, source in enumerate(step.sources()):
                 more = step.reach if k == 0 else _NONE
                 own[source] = tuple(max(x, y + z) for x, y, z in zip(own[source], beyond, more))
-        total = tuple(max(r) for r in zip(_NONE, *own))
+        total = tuple(max(r) for r in zip(_NONE, *own.values()))
         return total, any(step.border and step.border[0] == BORDERS["wrap"] and any(step.reach) for step in steps)
 
-    def copied(self, image, border=None):
-        self.pixels.append(self.pixels[image])
-        made = len(self.pixels) - 1
-        if border:
-            self.borders[made] = border
-        self.steps.append(_copy_of(image, made))
-        return made
+    def value(self, *images):
+        """A value of one image, or of the planes that are told."""
+        first = images[0]
+        self.values.append((first.dtype.itemsize * (first.shape[2] if first.ndim == 3 else 1), len(images)))
+        for plane, image in enumerate(images):
+            self.places[image] = len(self.values) - 1, plane if len(images) > 1 else -1
+        return len(self.values) - 1
 
-    def frame(self, steps, given):
-        """An image that windows read has a border: its own where they agree on it, else in a copy."""
-        groups = {}  # of an image: by border, how far windows reach
-        planes = {image for step in steps for own in (step.a, step.o) if len(own) > 1 for image in own}
-        for step in steps:
-            if any(step.reach):
-                own = groups.setdefault(step.a[0], {})
-                own[step.border] = tuple(map(max, own.get(step.border, _NONE), step.reach))
-        for image, own in groups.items():
-            (mode, filler), reach = next(iter(own.items()))
-            if len(own) == 1 and image not in given | planes and mode != BORDERS["wrap"]:
-                self.borders[image] = mode, filler, reach
-                self.own.add(image)
-        copies = {}
-        for step in steps:
-            a, b = step.a, step.b
-            if any(step.reach) and a[0] not in self.borders:
-                key = a[0], step.border
-                if key not in copies:
-                    copies[key] = self.copied(a[0], (*step.border, groups[a[0]][step.border]))
-                a = (copies[key],)
-            elif len(a) > 1 or "J" in step.program:  # of one step
-                for image in (*a, *b):
-                    if image not in copies:
-                        copies[image] = self.copied(image)
-                a, b = tuple(copies[image] for image in a), tuple(copies[image] for image in b)
-            if len(step.o) > 1:
-                self.own.update(step.o)
-            self.steps.append(_Step(step.operation, step.function, step.program, step.values, a, b, step.o, step.mask,
-                                    step.offset, step.start, step.reach, step.border, step.fields, step.kept))
+    def gathered(self, images):
+        """A value of copies of images, which become its planes."""
+        sources = tuple((*self.places[image], 0) for image in images)
+        self.values.append((self.values[sources[0][0]][0], len(images)))
+        self.given.append((-1, "", b"", sources, (-1, -1, -1, -1), len(self.values) - 1, _NONE, (1, b""), ()))
+        self.steps.append(_Step("chain", -1, "", b"", images, (), (), (), 0, (), _NONE, None, (), ()))
+        return len(self.values) - 1
+
+    def step(self, step):
+        sources = []
+
+        def source(images, offset=0):
+            """The number of a source; planes are those of one value, in their order."""
+            if not images:
+                return -1
+            value, plane = self.places[images[0]]
+            if len(images) > 1:
+                planes = [(value, k) for k in range(self.values[value][1])]
+                if [self.places[image] for image in images] != planes:
+                    value = self.gathered(images)
+                plane = -1
+            sources.append((value, plane, offset))
+            return len(sources) - 1
+
+        numbers = (source(step.a, step.offset), source(step.b), source(step.mask),
+                   -2 if step.start == _ZEROS else source(step.start))
+        made = self.value(*step.o) if step.o else -1
+        self.given.append((step.function, step.program, step.values, tuple(sources), numbers, made, step.reach,
+                           step.border or (1, b""), step.fields))
+        self.steps.append(step)
 
     @classmethod
     def walk(cls, result, of_image, of_number):
@@ -348,11 +330,11 @@ class _Plan:
         return result
 
     def run(self, arrays, out, threads, rows):
-        arrays = [a if a.flags.c_contiguous or _front._plain(a) else np.array(a, order="C") for a in arrays]
-        outs, results, late = [], [], []
-        given = out if isinstance(out, (tuple, list)) else (out,) * (len(self.kinds) if out is None else 1)
+        arrays = tuple([a if a.flags.c_contiguous or _front._plain(a) else np.array(a, order="C") for a in arrays])
+        results, given = [], out if isinstance(out, (tuple, list)) else (out,) * (len(self.kinds) if out is None else 1)
         if len(given) != len(self.kinds):
             refuse("chain", f"out has {len(self.kinds)} arrays, one for each image that the chain gives", TypeError)
+        outs = []
         for target, (dtype, shape) in zip(given, self.kinds):
             if target is None:
                 own = target = np.empty(shape, dtype)
@@ -361,21 +343,33 @@ class _Plan:
                 _front.Out.check("chain", own, shape, dtype)
                 if any(np.may_share_memory(own, other) for other in results):
                     refuse("chain", "arrays of out share memory")
-                shared = any(np.may_share_memory(own, a) and not (self.pointwise and _front._same(own, a)) for a in arrays)
-                if shared or not _front._plain(own):
+                if not _front._plain(own):
                     own = np.empty(shape, dtype)
-                    late.append((target, own))
             results.append(target)
             outs.append(own)
-        own = dict(zip(self.inputs, arrays)) | dict(zip(self.places, outs))
-        told, measures = _hux.run_chain(self.chain, tuple([own[i] for i in sorted(own)]), threads, rows)
+        found = _hux.run_chain(self.chain, arrays, tuple(outs), threads, rows)
+        if found is None:  # they share rows with inputs that are read when these have been written
+            outs = [np.empty_like(own) if any(np.may_share_memory(own, a) for a in arrays) else own for own in outs]
+            found = _hux.run_chain(self.chain, arrays, tuple(outs), threads, rows)
+        told, measures = found or (None, ())
         if told:
             self.report(told)
-        for target, made in late:
-            np.copyto(target, made)
+        for target, own in zip(results, outs):
+            if own is not target:
+                np.copyto(target, own)
+        return self.built(measures, results)
+
+    def built(self, measures, results):
         images = iter(results)
         return self.walk(self.result, lambda image: next(images),
                          lambda number: number._build([measures[k] for k in number._fields]))
+
+    def again(self, found, results):
+        """What _hux.run_again has told, where that is not all."""
+        told, measures = found or (None, ())
+        if told:
+            self.report(told)
+        return self.built(measures, results)
 
     def report(self, told):
         from . import _report
@@ -413,6 +407,7 @@ class Chain:
     def __init__(self, function: Callable[..., Any], rows: int | None = None) -> None:
         self._function, self._rows = function, int(rows or 0)
         self._plans: dict[Any, _Plan] = {}
+        self._last: _Plan | None = None
         self.__doc__ = getattr(function, "__doc__", None)
         self.__name__ = getattr(function, "__name__", "chain")
 
@@ -428,6 +423,11 @@ class Chain:
         out      an array for what the chain gives, or a tuple of them; else they are new
         threads  how many share the rows; hux.get_num_threads() of them where it is None
         """
+        last = self._last
+        if last is not None:  # its plan serves where types, shapes and all else are those of the last call
+            made = _hux.run_again(last.chain, images, out, threads, self._rows)
+            if made is not NotImplemented:
+                return last.again(*made) if type(made) is tuple else made
         if any(hasattr(image, "__dask_graph__") for image in images):
             return self._blockwise(images, out)
         plan, arrays = self._plan(images)
@@ -499,9 +499,12 @@ class Chain:
         plan = self._plans.get(whole)
         if plan is None:
             plan = self._settle(images, arrays)
-            if len(self._plans) >= 64:
+            if len(self._plans) >= 32:
                 self._plans.clear()
             self._plans[whole] = plan
+            if len(arrays) == sum(type(image) is np.ndarray for image in images):
+                _hux.set_arguments(plan.chain, images)
+        self._last = plan
         return plan, arrays
 
     def _settle(self, images, arrays):
@@ -536,7 +539,7 @@ class Chain:
             result = self._function(*own)
         finally:
             _hux.record(-1)
-        plan = _Plan(recorder, [image._index for image in inputs], result)
+        plan = _Plan(recorder, inputs, result)
         if not plan.outputs and not any(step.fields for step in plan.steps):
             refuse("chain", f"its function gives images or measures of its calls, not {result!r}", TypeError)
         return plan

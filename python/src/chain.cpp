@@ -1,22 +1,12 @@
-// How a chain runs. Bands of rows pass through all calls, so that what lies between calls stays in the cache; rows that
-// windows still need are kept, so that no row is computed twice within a thread's share.
+// Chains for Python: what hux/_chain.py recorded becomes the values and steps of the C++ front, which runs them.
 #include "chain.h"
 
-#include <unistd.h>
-
-#include <algorithm>
-#include <climits>
 #include <cstring>
+#include <hux/run.hpp>
 #include <memory>
 #include <new>
 #include <string>
-#include <system_error>
-#include <thread>
 #include <vector>
-
-#ifdef _OPENMP
-#include <omp.h>
-#endif
 
 #include "module.h"
 
@@ -26,664 +16,432 @@ int gRecording = 0, gNoting = 0;
 
 namespace {
 
+using detail::band;
 using tool::Value;
-using Index = std::ptrdiff_t;
 
 PyObject *gImages, *gRecorder;  // the types of what stands for images and numbers, and what records a call with them
 thread_local PyObject* tNotes;
 
-// ---- The plan
-// --------------------------------------------------------------------------------------------------------
-
-// An image of a chain: given by the caller, or made by a step. Where windows read it, it has a border.
-struct Image {
-  bool input = false, output = false, own = false;  // own: never made in the caller's memory
-  int pixel = 0;                                    // bytes
-  int left = 0, top = 0, right = 0, bottom = 0;     // of the border
-  int mode = kReplicate;
-  std::string filler;  // a pixel of a constant border
-};
+// ---- Calls
+// -----------------------------------------------------------------------------------------------------------
 
 struct Field {  // of what a measure gives
   char type;    // of the elements: B, h, H, i, f, d
   char merge;   // +, < the least, > the greatest
   int count;
-  Index offset;
+  Py_ssize_t offset;
 };
 
-constexpr int kZeros = -2;
+// A function of the library over bands of rows, or without one a copy of the sources: each becomes a plane.
+struct Call {
+  static constexpr int kNone = -1, kZeros = -2;
 
-// A call, or without a function a copy of rows.
-struct Step {
   int function = -1;
   // A letter for each parameter: a, b, o the sources and the destination, m the mask, A, B, O, M their steps, J the
   // step of both sources, S the size, x, y, z the results, h a list of all results, = a value that is given.
   std::string program;
   std::vector<Value> values;
-  std::vector<int> a, b, o;   // several are planes
-  int mask = -1, offset = 0;  // offset: bytes to the channel of the first source that is meant
-  int start = -1;             // what the destination starts as: an image, kZeros, or below as the source
-  int left = 0, top = 0, right = 0, bottom = 0;  // how far around a pixel the first source is read
-  bool all = false;                              // whether a copy needs the whole source first
+  int a = kNone, b = kNone, mask = kNone;  // which of the sources
+  int start = kNone;                       // what the destination starts as: a source, or zeros
+  int count = 0;                           // of sources
+  bool planes[2] = {};                     // whether a and b are
+  int madePlanes = 0, madePixel = 0;       // of the destination, the latter in bytes
+  bool joint = false;                      // whether both sources must have one step
   std::vector<Field> fields;
-  Index bytes = 0;  // of all fields
-};
+  Py_ssize_t bytes = 0;  // of all fields
 
-struct Chain {
-  std::vector<Image> images;
-  std::vector<Step> steps;
-};
-
-bool mirrors(int mode) { return mode == kSymmetric || mode == kReflect101; }
-
-// ---- Running
-// ---------------------------------------------------------------------------------------------------------
-
-struct Given {  // an image of the caller's
-  char* data = nullptr;
-  Index step = 0;
-};
-
-Index cacheBytes() {
-#ifdef _SC_LEVEL2_CACHE_SIZE
-  if (const long size = sysconf(_SC_LEVEL2_CACHE_SIZE); size > 0) return size;
-#endif
-  return 512 << 10;
-}
-
-// Teams of the library's own would ask for the processors that the chain's have.
-class AloneOnThread {
- public:
-#ifdef _OPENMP
-  AloneOnThread() : before_(omp_get_max_active_levels()) { omp_set_max_active_levels(0); }
-  ~AloneOnThread() { omp_set_max_active_levels(before_); }
-
- private:
-  int before_;
-#endif
-};
-
-// What rows are wanted: of a whole share, and of a band.
-class Demand {
- public:
-  Demand(const Chain& chain, Index height) : chain_(chain), height_(height) {}
-
-  // The end of the rows of each image that a band needs which ends at the row given.
-  void until(Index end, std::vector<Index>& rows) const {
-    for (std::size_t i = 0; i < rows.size(); ++i) rows[i] = chain_.images[i].output ? end : 0;
-    for (std::size_t s = chain_.steps.size(); s-- > 0;) {
-      const Step& step = chain_.steps[s];
-      const Index own = step.o.empty() ? end : highest(step.o, rows);
-      if (own == 0) continue;
-      for (int image : step.o) rows[std::size_t(image)] = own;
-      each(step, [&](int image, bool windowed) {
-        Index last = own;
-        if (windowed) {
-          // What is mirrored above the first row lies below it.
-          const bool mirrored = step.top && mirrors(chain_.images[std::size_t(image)].mode);
-          last = std::max<Index>(own + step.bottom, mirrored ? step.top + 1 : 0);
-        }
-        if (step.all) last = height_;
-        rows[std::size_t(image)] = std::max(rows[std::size_t(image)], std::min(last, height_));
-      });
+  int run(const band* in, const band* out, char* found) const {
+    if (function < 0) {
+      for (int p = 0; p < madePlanes; ++p) copyRows(in[p].data[0], in[p].step, out->data[p], *out);
+      return 0;
     }
-  }
-
-  // The first row of each image that a share needs which starts at the row given; last: where its rows end.
-  void from(Index first, const std::vector<Index>& last, std::vector<Index>& rows) const {
-    for (std::size_t i = 0; i < rows.size(); ++i) rows[i] = chain_.images[i].output ? first : height_;
-    for (std::size_t s = chain_.steps.size(); s-- > 0;) {
-      const Step& step = chain_.steps[s];
-      const Index own = step.o.empty() ? first : lowest(step.o, rows);
-      for (int image : step.o) rows[std::size_t(image)] = own;
-      each(step, [&](int image, bool windowed) {
-        Index low = own;
-        if (windowed) {
-          low -= step.top;
-          // What is mirrored below the last row lies above it.
-          const Index end = step.o.empty() ? height_ : highest(step.o, last);
-          if (mirrors(chain_.images[std::size_t(image)].mode) && end + step.bottom > height_)
-            low = std::min(low, height_ - 1 - step.bottom);
-        }
-        if (step.all) low = 0;
-        rows[std::size_t(image)] = std::min(rows[std::size_t(image)], std::max<Index>(low, 0));
-      });
+    for (int p = 0; start != kNone && p < madePlanes; ++p)
+      copyRows(start == kZeros ? nullptr : in[start].data[p], start == kZeros ? 0 : in[start].step, out->data[p], *out);
+    if (!joint || in[a].step == in[b].step) return call(in, out, found);
+    // Of one row, the steps do not matter.
+    band sources[4], made = *out;
+    for (int k = 0; k < count; ++k) sources[k] = in[k];
+    int status = 0;
+    for (int y = 0; y < out->size.height && status >= 0; ++y) {
+      made.size.height = 1;
+      const int own = call(sources, &made, found);
+      if (!status || own < 0) status = own;
+      for (int k = 0; k < count; ++k) down(sources[k]);
+      down(made);
     }
-  }
-
-  // The first row of each image that is still read when a band starts: next is how far its images have been made.
-  void keep(Index first, const std::vector<Index>& next, std::vector<Index>& rows) const {
-    std::fill(rows.begin(), rows.end(), Index(INT_MAX));
-    for (const Step& step : chain_.steps) {
-      const Index own = step.o.empty() ? first : lowest(step.o, next);
-      each(step, [&](int image, bool windowed) {
-        const Index low = step.all ? 0 : own - (windowed ? step.top : 0);
-        rows[std::size_t(image)] = std::min(rows[std::size_t(image)], low);
-      });
-    }
-  }
-
-  template <class Do>
-  static void each(const Step& step, Do act) {
-    for (int image : step.a) act(image, step.left || step.top || step.right || step.bottom);
-    for (int image : step.b) act(image, false);
-    if (step.mask >= 0) act(step.mask, false);
-    if (step.start >= 0) act(step.start, false);
+    return status;
   }
 
  private:
-  static Index highest(const std::vector<int>& images, const std::vector<Index>& rows) {
-    Index most = 0;
-    for (int image : images) most = std::max(most, rows[std::size_t(image)]);
-    return most;
+  static void down(band& rows) {
+    for (std::byte*& plane : rows.data)
+      if (plane) plane += rows.step;
   }
-  static Index lowest(const std::vector<int>& images, const std::vector<Index>& rows) {
-    Index least = INT_MAX;
-    for (int image : images) least = std::min(least, rows[std::size_t(image)]);
-    return least;
-  }
-
-  const Chain& chain_;
-  Index height_;
-};
-
-// The rows of an image that there are, from first on; those above next are made. Rows of the border count from below 0.
-struct Rows {
-  char* data = nullptr;
-  Index step = 0, first = 0, next = 0, room = 0, bytes = 0;
-  bool kept = false, direct = false;  // kept: from band to band; direct: in the caller's memory
-  int lastUse = -1;
-  char* row(Index y) const { return data + step * (y - first); }
-};
-
-// A thread's share of the rows.
-class Share {
- public:
-  Share(const Chain& chain, const std::vector<Given>& given, Index height, Index width)
-      : statuses(chain.steps.size()),
-        totals(chain.steps.size()),
-        chain_(chain),
-        given_(given),
-        height_(height),
-        width_(width),
-        demand_(chain, height),
-        images_(chain.images.size()),
-        until_(chain.images.size()),
-        from_(chain.images.size()),
-        keep_(chain.images.size()),
-        next_(chain.images.size()) {}
-
-  std::vector<int> statuses;              // of the steps
-  std::vector<std::vector<char>> totals;  // of the measures; empty before the first band
-
-  bool run(Index first, Index last, Index rows) {
-    first_ = first;
-    last_ = last;
-    rows_ = rows;
-    demand_.until(last, until_);
-    demand_.from(first, until_, from_);
-    if (!rows_) chooseRows();
-    measure();
-    if (!allocate()) return false;
-    [[maybe_unused]] const AloneOnThread alone;
-    for (Index y = first; y < last; y += rows_)
-      if (!band(y, std::min(last, y + rows_))) return true;
-    return true;
-  }
-
- private:
-  std::size_t at(int image) const { return std::size_t(image); }
-
-  void begin() {
-    for (std::size_t i = 0; i < images_.size(); ++i) next_[i] = from_[i];
-  }
-
-  // What is made in the band that ends at a row: until_ and keep_.
-  void look(Index first, Index end) {
-    demand_.until(end, until_);
-    demand_.keep(first, next_, keep_);
-    for (std::size_t i = 0; i < images_.size(); ++i) {
-      const Image& image = chain_.images[i];
-      if (until_[i] == height_ && next_[i] < height_ && image.bottom && mirrors(image.mode))
-        keep_[i] = std::min(keep_[i], height_ - 1 - image.bottom);
-      keep_[i] = std::clamp(keep_[i], from_[i] ? from_[i] : Index(-image.top), next_[i]);
-      if (next_[i] == 0) keep_[i] = -image.top;
+  // Or zeros.
+  void copyRows(const std::byte* from, int step, std::byte* to, const band& out) const {
+    const std::size_t row = std::size_t(out.size.width) * std::size_t(madePixel);
+    for (int y = 0; y < out.size.height; ++y, to += out.step) {
+      if (from)
+        std::memcpy(to, from, row), from += step;
+      else
+        std::memset(to, 0, row);
     }
   }
 
-  // How many rows each image keeps, and which of them are made in the caller's memory; by the first bands alone.
-  void measure(Index bands = INT_MAX) {
-    demand_.until(last_, until_);
-    for (std::size_t i = 0; i < images_.size(); ++i) {
-      Rows& own = images_[i];
-      own.direct = chain_.images[i].output && !chain_.images[i].own && from_[i] == first_ && until_[i] == last_;
-      const Image& image = chain_.images[i];
-      own.step =
-          ((Index(image.left) * image.pixel + 63) / 64 * 64 + (width_ + image.right) * image.pixel + 63) / 64 * 64;
-      own.room = 0;
-      own.kept = false;
-      own.lastUse = -1;
-    }
-    for (std::size_t s = 0; s < chain_.steps.size(); ++s)
-      Demand::each(chain_.steps[s], [&](int image, bool) { images_[at(image)].lastUse = int(s); });
-    begin();
-    for (Index y = first_; y < last_ && bands-- > 0; y += rows_) {
-      look(y, std::min(last_, y + rows_));
-      for (std::size_t i = 0; i < images_.size(); ++i) {
-        if (until_[i] <= next_[i]) continue;
-        Rows& own = images_[i];
-        const Index bottom = until_[i] == height_ ? chain_.images[i].bottom : 0;
-        own.room = std::max(own.room, until_[i] + bottom - keep_[i]);
-        if (keep_[i] != next_[i]) own.kept = true;
-      }
-      for (std::size_t i = 0; i < images_.size(); ++i) next_[i] = std::max(next_[i], until_[i]);
-    }
-    for (std::size_t i = 0; i < images_.size(); ++i) images_[i].bytes = images_[i].room * images_[i].step;
-  }
-
-  // So many rows to a band that what lives at once takes half of the second-level cache.
-  void chooseRows() {
-    Index row = 0, fixed = 0;
-    for (int trial = 0; trial < 2; ++trial) {
-      rows_ = trial ? 32 : 16;
-      measure(4);
-      Index bytes = place(nullptr);
-      for (std::size_t i = 0; i < images_.size(); ++i)
-        if (chain_.images[i].input || images_[i].direct) bytes += rows_ * width_ * chain_.images[i].pixel;
-      row = trial ? (bytes - fixed) / 16 : 0;
-      fixed = bytes;
-    }
-    fixed -= 32 * row;
-    // Windows start anew with each band, which is no gain on few rows, also where more of them leave this cache.
-    const bool windows =
-        std::any_of(chain_.steps.begin(), chain_.steps.end(), [](const Step& step) { return step.top + step.bottom; });
-    rows_ = std::clamp<Index>((cacheBytes() / 2 - fixed) / std::max<Index>(row, 1), windows ? 32 : 8, 4096) / 8 * 8;
-  }
-
-  // Places what is kept one after another, and what lives within a band where nothing else lives at that time.
-  Index place(char* memory) {
-    Index end = 0;
-    struct Slot {
-      Index at, bytes;
-      int until;
+  int call(const band* in, const band* out, char* found) const {
+    const auto pixels = [](const band& rows, bool several) {
+      return several ? const_cast<std::byte**>(rows.data) : static_cast<void*>(rows.data[0]);
     };
-    std::vector<Slot> slots;
-    for (std::size_t s = 0; s < chain_.steps.size(); ++s)
-      for (int image : chain_.steps[s].o) {
-        Rows& own = images_[at(image)];
-        if (own.direct || !own.bytes) continue;
-        Slot* free = nullptr;
-        if (!own.kept)
-          for (Slot& slot : slots)
-            if (slot.until < int(s) && slot.bytes >= own.bytes) free = &slot;
-        if (!free) {
-          slots.push_back({end, own.bytes, 0});
-          free = &slots.back();
-          end += own.bytes;
-        }
-        free->until = own.kept ? INT_MAX : std::max(own.lastUse, int(s));
-        if (memory) own.data = memory + free->at + margin(image);
-      }
-    return end;
-  }
-  Index margin(int image) const {
-    const Image& own = chain_.images[at(image)];
-    return (Index(own.left) * own.pixel + 63) / 64 * 64;
-  }
-
-  bool allocate() {
-    const Index bytes = place(nullptr);
-    memory_.reset(new (std::nothrow) char[std::size_t(bytes) + 64]);
-    if (!memory_) return false;
-    char* const start = memory_.get() + (64 - std::uintptr_t(memory_.get()) % 64) % 64;
-    place(start);
-    for (std::size_t i = 0; i < images_.size(); ++i) {
-      Rows& own = images_[i];
-      if (chain_.images[i].input || own.direct) {
-        own.data = given_[i].data;
-        own.step = given_[i].step;
-        own.first = 0;
-      } else {
-        own.first = from_[i] ? from_[i] : -chain_.images[i].top;
-      }
-    }
-    begin();
-    return true;
-  }
-
-  bool band(Index first, Index end) {
-    look(first, end);
-    for (std::size_t s = 0; s < chain_.steps.size(); ++s) {
-      const Step& step = chain_.steps[s];
-      if (step.o.empty()) {
-        if (!call(s, first, end)) return false;
-        continue;
-      }
-      const std::size_t to = at(step.o[0]);
-      const Index from = next_[to], until = until_[to];
-      if (from >= until) continue;
-      for (int image : step.o) slide(at(image), from, until);
-      start(step, from, until);
-      if (step.function < 0)
-        copyRows(step, from, until);
-      else if (!call(s, from, until))
-        return false;
-      for (int image : step.o) finish(at(image), from, until);
-    }
-    return true;
-  }
-
-  // Makes room behind the rows that are still needed.
-  void slide(std::size_t image, Index from, Index until) {
-    Rows& own = images_[image];
-    if (own.direct) return;
-    if (!own.kept) {
-      own.first = from;
-      return;
-    }
-    const Index end = until + (until == height_ ? chain_.images[image].bottom : 0);
-    if (end - own.first <= own.room) return;
-    const Index margin = this->margin(int(image)), keep = keep_[image];
-    std::memmove(own.row(own.first) - margin, own.row(keep) - margin, std::size_t((from - keep) * own.step));
-    own.first = keep;
-  }
-
-  void start(const Step& step, Index from, Index until) {
-    if (step.start == -1) return;
-    for (std::size_t k = 0; k < step.o.size(); ++k) {
-      const std::size_t to = at(step.o[k]);
-      const std::size_t bytes = std::size_t(width_ * chain_.images[to].pixel);
-      for (Index y = from; y < until; ++y)
-        if (step.start == kZeros)
-          std::memset(images_[to].row(y), 0, bytes);
-        else
-          std::memcpy(images_[to].row(y), images_[at(step.start >= 0 ? step.start : step.a[k])].row(y), bytes);
-    }
-  }
-
-  void copyRows(const Step& step, Index from, Index until) {
-    const Rows &in = images_[at(step.a[0])], &to = images_[at(step.o[0])];
-    const std::size_t bytes = std::size_t(width_ * chain_.images[at(step.o[0])].pixel);
-    for (Index y = from; y < until; ++y) std::memcpy(to.row(y), in.row(y), bytes);
-    const Image& image = chain_.images[at(step.o[0])];
-    if (image.mode != kWrap) return;
-    // Rows of the other end are there in the source only.
-    for (Index y = -image.top; from == 0 && y < 0; ++y)
-      std::memcpy(to.row(y), in.row(inside(y, height_, kWrap)), bytes);
-    for (Index y = height_; until == height_ && y < height_ + image.bottom; ++y)
-      std::memcpy(to.row(y), in.row(inside(y, height_, kWrap)), bytes);
-  }
-
-  // The border of rows that have been made, and what the caller gets of them.
-  void finish(std::size_t image, Index from, Index until) {
-    const Image& own = chain_.images[image];
-    Rows& rows = images_[image];
-    next_[image] = rows.next = until;
-    const bool atTop = from == 0 && own.top, atBottom = until == height_ && own.bottom;
-    const bool wraps = own.mode == kWrap;
-    if (own.left || own.right) {
-      const Index low = from - (wraps && atTop ? own.top : 0), high = until + (wraps && atBottom ? own.bottom : 0);
-      for (Index y = low; y < high; ++y) sides(own, rows.row(y));
-    }
-    if (atTop && !wraps)
-      for (Index y = -own.top; y < 0; ++y) beyond(own, rows, y);
-    if (atBottom && !wraps)
-      for (Index y = height_; y < height_ + own.bottom; ++y) beyond(own, rows, y);
-    if (!own.output || rows.direct) return;
-    const Index low = std::max(from, first_), high = std::min(until, last_);
-    for (Index y = low; y < high; ++y)
-      std::memcpy(given_[image].data + given_[image].step * y, rows.row(y), std::size_t(width_ * own.pixel));
-  }
-
-  void sides(const Image& own, char* row) const {
-    const auto put = [&](Index x) {
-      const char* const from =
-          own.mode == kConstant ? own.filler.data() : row + inside(x, width_, own.mode) * own.pixel;
-      char* const to = row + x * own.pixel;
-      switch (own.pixel) {
-        case 1:
-          *to = *from;
-          break;
-        case 4:
-          std::memcpy(to, from, 4);
-          break;
-        default:
-          std::memcpy(to, from, std::size_t(own.pixel));
-      }
-    };
-    for (Index x = -own.left; x < 0; ++x) put(x);
-    for (Index x = width_; x < width_ + own.right; ++x) put(x);
-  }
-  void beyond(const Image& own, const Rows& rows, Index y) const {
-    char* const row = rows.row(y) - Index(own.left) * own.pixel;
-    const Index columns = own.left + width_ + own.right;
-    if (own.mode == kConstant)
-      for (Index x = 0; x < columns; ++x) std::memcpy(row + x * own.pixel, own.filler.data(), std::size_t(own.pixel));
-    else
-      std::memcpy(row, rows.row(inside(y, height_, own.mode)) - Index(own.left) * own.pixel,
-                  std::size_t(columns * own.pixel));
-  }
-
-  bool call(std::size_t s, Index from, Index until) {
-    const Step& step = chain_.steps[s];
-    void *a[4], *b[4], *o[4], *results[4];
-    const auto point = [&](const std::vector<int>& images, void** to, Index offset) {
-      for (std::size_t k = 0; k < images.size(); ++k) to[k] = images_[at(images[k])].row(from) + offset;
-      return images.size() > 1 ? static_cast<void*>(to) : to[0];
-    };
-    const auto stepOf = [&](const std::vector<int>& images) { return int(images_[at(images[0])].step); };
-    char* const found = step.bytes ? resultsOf(s) : nullptr;
+    void* results[4];
     Value arguments[20];
-    const Value* given = step.values.data();
-    for (std::size_t i = 0; i < step.program.size(); ++i) {
-      Value& value = arguments[i];
-      switch (const char letter = step.program[i]) {
+    const Value* given = values.data();
+    Value* value = arguments;
+    for (const char letter : program) {
+      switch (letter) {
         case 'a':
-          value.p = point(step.a, a, step.offset);
+          value->p = pixels(in[a], planes[0]);
           break;
         case 'b':
-          value.p = point(step.b, b, 0);
+          value->p = pixels(in[b], planes[1]);
           break;
         case 'o':
-          value.p = point(step.o, o, 0);
+          value->p = pixels(*out, madePlanes > 1);
           break;
         case 'm':
-          value.p = images_[at(step.mask)].row(from);
+          value->p = in[mask].data[0];
           break;
         case 'A':
         case 'J':
-          value.i = stepOf(step.a);
+          value->i = in[a].step;
           break;
         case 'B':
-          value.i = stepOf(step.b);
+          value->i = in[b].step;
           break;
         case 'O':
-          value.i = stepOf(step.o);
+          value->i = out->step;
           break;
         case 'M':
-          value.i = int(images_[at(step.mask)].step);
+          value->i = in[mask].step;
           break;
         case 'S':
-          value.size = {int(width_), int(until - from)};
+          value->size = (out ? out : in)->size;
           break;
         case 'h':
-          for (std::size_t k = 0; k < step.fields.size(); ++k) results[k] = found + step.fields[k].offset;
-          value.p = results;
+          for (std::size_t k = 0; k < fields.size(); ++k) results[k] = found + fields[k].offset;
+          value->p = results;
           break;
         case '=':
-          value = *given++;
+          *value = *given++;
           break;
         default:
-          value.p = found + step.fields[std::size_t(letter - 'x')].offset;
+          value->p = found + fields[std::size_t(letter - 'x')].offset;
       }
+      ++value;
     }
-    const Function& function = kFunctions[step.function];
-    const int status = tool::call(function.shape, function.address, arguments).i;
-    if (status && (!statuses[s] || status < 0)) statuses[s] = status;
-    if (status < 0) return false;
-    if (found) addUp(step, totals[s], found);
-    return true;
+    const Function& own = kFunctions[function];
+    return tool::call(own.shape, own.address, arguments).i;
   }
-
-  // Where a measure puts what it finds in a band.
-  char* resultsOf(std::size_t s) {
-    found_.resize(std::size_t(chain_.steps[s].bytes));
-    return found_.data();
-  }
-
- public:
-  static void addUp(const Step& step, std::vector<char>& total, const char* more) {
-    if (total.empty()) {
-      total.assign(more, more + step.bytes);
-      return;
-    }
-    for (const Field& field : step.fields) {
-      const auto merge = [&](auto kind) {
-        using T = decltype(kind);
-        for (int k = 0; k < field.count; ++k) {
-          T own, other;
-          char* const place = total.data() + field.offset + k * Index(sizeof(T));
-          std::memcpy(&own, place, sizeof own);
-          std::memcpy(&other, more + field.offset + k * Index(sizeof(T)), sizeof other);
-          if (field.merge == '<')
-            own = std::min(own, other);
-          else if (field.merge == '>')
-            own = std::max(own, other);
-          else if constexpr (std::is_integral_v<T>)
-            own = T(std::make_unsigned_t<T>(own) + std::make_unsigned_t<T>(other));
-          else
-            own += other;
-          std::memcpy(place, &own, sizeof own);
-        }
-      };
-      switch (field.type) {
-        case 'B':
-          merge(Hux8u());
-          break;
-        case 'h':
-          merge(Hux16s());
-          break;
-        case 'H':
-          merge(Hux16u());
-          break;
-        case 'i':
-          merge(Hux32s());
-          break;
-        case 'f':
-          merge(Hux32f());
-          break;
-        default:
-          merge(Hux64f());
-      }
-    }
-  }
-
- private:
-  const Chain& chain_;
-  const std::vector<Given>& given_;
-  Index height_, width_;
-  Demand demand_;
-  std::vector<Rows> images_;
-  std::vector<Index> until_, from_, keep_, next_;
-  Index first_ = 0, last_ = 0, rows_ = 0;
-  std::unique_ptr<char[]> memory_;
-  std::vector<char> found_;
 };
 
-// Gives each thread a contiguous share. False where memory ran out.
-bool runShares(const Chain& chain, const std::vector<Given>& given, Index height, Index width, Index team, Index rows,
-               std::vector<int>& statuses, std::vector<std::vector<char>>& totals) {
-  std::vector<Share> shares;
-  shares.reserve(std::size_t(team));
-  for (Index t = 0; t < team; ++t) shares.emplace_back(chain, given, height, width);
-  std::vector<char> good(std::size_t(team), 0);
-  const auto run = [&](Index t) noexcept {
-    try {
-      good[std::size_t(t)] = shares[std::size_t(t)].run(height * t / team, height * (t + 1) / team, rows);
-    } catch (const std::bad_alloc&) {
-    }
-  };
-  {
-    std::vector<std::jthread> others;
-    others.reserve(std::size_t(team));
-    for (Index t = 1; t < team; ++t) try {
-        others.emplace_back(run, t);
-      } catch (const std::system_error&) {
-        run(t);
-      }
-    run(0);
+// What a call measures.
+class Measure : public detail::tally {
+ public:
+  explicit Measure(const Call& call) : call_(call), part_(std::size_t(call.bytes)), total_(std::size_t(call.bytes)) {}
+
+  const char* total(const Field& field) const { return total_.data() + field.offset; }
+
+  tally* another() const override try { return new Measure(call_); } catch (const std::bad_alloc&) {
+    return nullptr;
   }
-  for (std::size_t s = 0; s < chain.steps.size(); ++s)
-    for (Share& share : shares) {
-      if (share.statuses[s] && (!statuses[s] || share.statuses[s] < 0)) statuses[s] = share.statuses[s];
-      if (!share.totals[s].empty()) Share::addUp(chain.steps[s], totals[s], share.totals[s].data());
+  void clear() override { any_ = false; }
+  status add(const band* in, int) override {
+    const int found = call_.run(in, nullptr, part_.data());
+    if (found >= 0) take(part_);
+    return status(found);
+  }
+  void join(const tally& next) override {
+    if (const auto& other = static_cast<const Measure&>(next); other.any_) take(other.total_);
+  }
+  void give(extent) override {}
+
+ private:
+  void take(const std::vector<char>& more) {
+    if (!any_) {
+      total_ = more;
+      any_ = true;
+      return;
     }
-  return std::all_of(good.begin(), good.end(), [](char own) { return own; });
+    for (const Field& field : call_.fields) {
+      switch (field.type) {
+        case 'B':
+          merge<Hux8u>(field, more);
+          break;
+        case 'h':
+          merge<Hux16s>(field, more);
+          break;
+        case 'H':
+          merge<Hux16u>(field, more);
+          break;
+        case 'i':
+          merge<Hux32s>(field, more);
+          break;
+        case 'f':
+          merge<Hux32f>(field, more);
+          break;
+        default:
+          merge<Hux64f>(field, more);
+      }
+    }
+  }
+  template <class T>
+  void merge(const Field& field, const std::vector<char>& more) {
+    for (int k = 0; k < field.count; ++k) {
+      const Py_ssize_t at = field.offset + k * Py_ssize_t(sizeof(T));
+      T own, other;
+      std::memcpy(&own, total_.data() + at, sizeof own);
+      std::memcpy(&other, more.data() + at, sizeof other);
+      if (field.merge == '<')
+        own = std::min(own, other);
+      else if (field.merge == '>')
+        own = std::max(own, other);
+      else if constexpr (std::is_integral_v<T>)
+        own = T(std::make_unsigned_t<T>(own) + std::make_unsigned_t<T>(other));
+      else
+        own += other;
+      std::memcpy(total_.data() + at, &own, sizeof own);
+    }
+  }
+
+  const Call& call_;
+  std::vector<char> part_, total_;
+  bool any_ = false;
+};
+
+// ---- Chains
+// ----------------------------------------------------------------------------------------------------------
+
+// An argument of a chain as it was: an array, or anything else.
+struct Argument {
+  PyObject* own = nullptr;  // of an array its dtype
+  int axes = 0;             // 0 of what is no array
+  Py_ssize_t shape[3] = {};
+};
+
+// What was recorded for images of one kind. All but the runs happens under the lock of the interpreter.
+struct Chain {
+  std::vector<detail::value> values;
+  std::vector<detail::step> steps;
+  std::vector<std::unique_ptr<Call>> calls;  // of the steps
+  std::vector<int> inputs, outputs;          // values, in the order of arguments and results
+  std::vector<PyObject*> shapes, dtypes;     // of the results
+  bool single = false;                       // whether there is one result, an image
+  extent size = {};
+  std::vector<Argument> arguments;  // it was made for; none where they are looked at from Python alone
+  std::vector<std::unique_ptr<detail::runner>> idle;  // what earlier runs left, for the next one
+
+  Chain() = default;
+  Chain(const Chain&) = delete;
+  ~Chain() {
+    for (auto* list : {&shapes, &dtypes})
+      for (PyObject* own : *list) Py_DECREF(own);
+    for (const Argument& own : arguments) Py_DECREF(own.own);
+  }
+
+  std::unique_ptr<detail::runner> take() {
+    if (!idle.empty()) {
+      std::unique_ptr<detail::runner> own = std::move(idle.back());
+      idle.pop_back();
+      own->moved();
+      return own;
+    }
+    auto own = std::make_unique<detail::runner>();
+    own->values = values;
+    own->steps = steps;
+    own->size = size;
+    for (const auto& call : calls)
+      if (!call->fields.empty()) own->tallies.push_back(std::make_unique<Measure>(*call));
+    return own;
+  }
+  // One that holds little stays.
+  void leave(std::unique_ptr<detail::runner> own) try {
+    if (idle.empty() && own->bytes() < std::size_t(4) << 20) idle.push_back(std::move(own));
+  } catch (const std::bad_alloc&) {
+  }
+};
+
+constexpr const char* kName = "hux.chain";
+Chain* chainOf(PyObject* capsule) { return static_cast<Chain*>(PyCapsule_GetPointer(capsule, kName)); }
+
+bool place(detail::value& own, bool written, void* data, Py_ssize_t step) {
+  (written ? own.out : own.in)[0] = static_cast<std::byte*>(data);
+  (written ? own.out_step : own.in_step) = int(step);
+  return true;
+}
+
+// What a run came to: None, where outputs share bytes with other images in a way that they may not; else the statuses
+// of the steps, or None where all are 0, and the measures.
+PyObject* run(Chain& chain, std::unique_ptr<detail::runner> own, int threads, int rows, bool& clean) {
+  status ended = status::ok;
+  int whose = 0;
+  const running options{threads < 1 ? int(huxGetThreadCount()) : threads, rows};
+  {
+    PyThreadState* const state =
+        std::int64_t(chain.size.width) * chain.size.height > 4000 ? PyEval_SaveThread() : nullptr;
+    ended = own->run(options, whose);
+    if (state) PyEval_RestoreThread(state);
+  }
+  clean = ended == status::ok && own->tallies.empty();
+  if (whose == detail::runner::kNoStep && ended == status::no_mem) return PyErr_NoMemory();
+  if (clean || (whose == detail::runner::kNoStep && ended != status::ok)) {
+    chain.leave(std::move(own));
+    return Py_NewRef(Py_None);
+  }
+  PyObject* told = ended == status::ok ? Py_NewRef(Py_None) : PyTuple_New(Py_ssize_t(chain.steps.size()));
+  for (std::size_t s = 0; told && ended != status::ok && s < chain.steps.size(); ++s)
+    PyTuple_SetItem(told, Py_ssize_t(s), PyLong_FromLong(int(own->status_of(s))));
+  PyObject* measures = PyList_New(0);
+  std::size_t index = 0;
+  for (const auto& call : chain.calls) {
+    if (call->fields.empty() || int(ended) < 0) continue;
+    const auto& found = static_cast<const Measure&>(own->measured(index++));
+    for (const Field& field : call->fields) {
+      PyObject* bytes = measures ? PyBytes_FromStringAndSize(found.total(field), Py_ssize_t(field.count) * 8) : nullptr;
+      if (!bytes || PyList_Append(measures, bytes) < 0) Py_CLEAR(measures);
+      Py_XDECREF(bytes);
+    }
+  }
+  chain.leave(std::move(own));
+  PyObject* const both = told && measures ? PyTuple_Pack(2, told, measures) : nullptr;
+  Py_XDECREF(told);
+  Py_XDECREF(measures);
+  return both;
 }
 
 // ---- For Python
 // ------------------------------------------------------------------------------------------------------
 
-constexpr const char* kName = "hux.chain";
+bool refuse(const char* text) { return PyErr_SetString(PyExc_ValueError, text), false; }
 
-bool readImages(PyObject* list, std::vector<int>& to, std::size_t count) {
-  for (Py_ssize_t i = 0; i < PyTuple_Size(list); ++i) {
-    const long image = PyLong_AsLong(PyTuple_GetItem(list, i));
-    if (image < 0 || std::size_t(image) >= count) return PyErr_SetString(PyExc_ValueError, "no such image"), false;
-    to.push_back(int(image));
-  }
-  return to.size() <= 4;
-}
-
-bool readStep(PyObject* from, std::size_t images, Step& step) {
-  const char *program, *values;
-  Py_ssize_t bytes;
-  PyObject *a, *b, *o, *fields;
-  int all;
-  if (!PyArg_ParseTuple(from, "isy#O!O!O!iii(iiii)pO!", &step.function, &program, &values, &bytes, &PyTuple_Type, &a,
-                        &PyTuple_Type, &b, &PyTuple_Type, &o, &step.mask, &step.offset, &step.start, &step.left,
-                        &step.top, &step.right, &step.bottom, &all, &PyTuple_Type, &fields) ||
-      !readImages(a, step.a, images) || !readImages(b, step.b, images) || !readImages(o, step.o, images))
+bool readStep(PyObject* from, Chain& chain) {
+  auto call = std::make_unique<Call>();
+  detail::step& step = chain.steps.emplace_back();
+  const char *program, *values, *filler;
+  Py_ssize_t bytes, pixel;
+  PyObject *sources, *fields;
+  int left, top, right, bottom, border;
+  if (!PyArg_ParseTuple(from, "isy#O!(iiii)i(iiii)(iy#)O!", &call->function, &program, &values, &bytes, &PyTuple_Type,
+                        &sources, &call->a, &call->b, &call->mask, &call->start, &step.destination, &left, &top, &right,
+                        &bottom, &border, &filler, &pixel, &PyTuple_Type, &fields))
     return false;
-  step.program = program;
-  step.all = all;
-  step.values.resize(std::size_t(bytes) / sizeof(Value));
-  std::memcpy(static_cast<void*>(step.values.data()), values, step.values.size() * sizeof(Value));
+  call->program = program;
+  call->joint = call->program.find('J') != std::string::npos;
+  call->values.resize(std::size_t(bytes) / sizeof(Value));
+  std::memcpy(static_cast<void*>(call->values.data()), values, call->values.size() * sizeof(Value));
+  call->count = step.count = int(PyTuple_Size(sources));
+  const int known = int(chain.values.size());
+  if (step.count > 4 || step.destination >= known || pixel > Py_ssize_t(sizeof step.outside))
+    return refuse("no such step");
+  for (int k = 0; k < step.count; ++k) {
+    detail::part_of_value& own = step.sources[k];
+    if (!PyArg_ParseTuple(PyTuple_GetItem(sources, k), "iii", &own.value, &own.plane, &own.offset)) return false;
+    if (own.value < 0 || own.value >= known) return refuse("no such image");
+    const bool whole = own.plane < 0 && chain.values[std::size_t(own.value)].planes > 1;
+    if (k == call->a) call->planes[0] = whole;
+    if (k == call->b) call->planes[1] = whole;
+    own.plane = std::max(own.plane, 0);
+  }
+  if (step.destination >= 0) {
+    const detail::value& made = chain.values[std::size_t(step.destination)];
+    call->madePlanes = made.planes;
+    call->madePixel = made.pixel;
+  }
+  step.windowed = left || top || right || bottom;
+  step.around = {left, top, right, bottom};
+  constexpr hux::border kRules[] = {hux::border::constant, hux::border::replicate, hux::border::symmetric,
+                                    hux::border::reflect101, hux::border::wrap};
+  static_assert(kConstant == 0 && kReplicate == 1 && kSymmetric == 2 && kReflect101 == 3 && kWrap == 4);
+  if (step.windowed) step.rule = kRules[border];
+  if (border == kConstant) std::memcpy(step.outside, filler, std::size_t(pixel));
   for (Py_ssize_t i = 0; i < PyTuple_Size(fields); ++i) {
     int type, merge, count;
     if (!PyArg_ParseTuple(PyTuple_GetItem(fields, i), "CCi", &type, &merge, &count)) return false;
-    step.fields.push_back({char(type), char(merge), count, step.bytes});
-    step.bytes += (Index(count) * 8 + 15) / 16 * 16;
+    call->fields.push_back({char(type), char(merge), count, call->bytes});
+    call->bytes += (Py_ssize_t(count) * 8 + 15) / 16 * 16;
+  }
+  const Call* const own = call.get();
+  if (!own->fields.empty()) {
+    step.measured = 0;
+    for (const auto& other : chain.calls) step.measured += !other->fields.empty();
+  } else {
+    step.work = detail::work([own](const band* in, const band& out) { return status(own->run(in, &out, nullptr)); });
+  }
+  chain.calls.push_back(std::move(call));
+  return true;
+}
+
+bool readValues(PyObject* from, std::vector<int>& to, std::vector<detail::value>& values, bool written) {
+  for (Py_ssize_t i = 0; i < PyTuple_Size(from); ++i) {
+    const long index = PyLong_AsLong(PyTuple_GetItem(from, i));
+    if (index < 0 || std::size_t(index) >= values.size()) return refuse("no such image");
+    detail::value& own = values[std::size_t(index)];
+    (written ? own.output : own.input) = true;
+    to.push_back(int(index));
   }
   return true;
 }
 
-// make_chain(images, steps)
-PyObject* makeChain(PyObject*, PyObject* arguments) {
-  PyObject *images, *steps;
-  if (!PyArg_ParseTuple(arguments, "O!O!", &PyTuple_Type, &images, &PyTuple_Type, &steps)) return nullptr;
-  std::unique_ptr<Chain> chain(new Chain);
-  for (Py_ssize_t i = 0; i < PyTuple_Size(images); ++i) {
-    Image image;
-    int input, output, own;
-    const char* filler;
-    Py_ssize_t bytes;
-    if (!PyArg_ParseTuple(PyTuple_GetItem(images, i), "pppii(iiii)y#", &input, &output, &own, &image.pixel, &image.mode,
-                          &image.left, &image.top, &image.right, &image.bottom, &filler, &bytes))
-      return nullptr;
-    image.input = input;
-    image.output = output;
-    image.own = own;
-    image.filler.assign(filler, std::size_t(bytes));
-    chain->images.push_back(image);
+// make_chain(values, steps, inputs, outputs, kinds, size, single)
+PyObject* makeChain(PyObject*, PyObject* arguments) try {
+  PyObject *values, *steps, *inputs, *outputs, *kinds;
+  auto chain = std::make_unique<Chain>();
+  int single;
+  if (!PyArg_ParseTuple(arguments, "O!O!O!O!O!(ii)p", &PyTuple_Type, &values, &PyTuple_Type, &steps, &PyTuple_Type,
+                        &inputs, &PyTuple_Type, &outputs, &PyTuple_Type, &kinds, &chain->size.width,
+                        &chain->size.height, &single))
+    return nullptr;
+  chain->single = single;
+  for (Py_ssize_t i = 0; i < PyTuple_Size(values); ++i) {
+    detail::value& own = chain->values.emplace_back();
+    if (!PyArg_ParseTuple(PyTuple_GetItem(values, i), "ii", &own.pixel, &own.planes)) return nullptr;
+    own.own = own.pixel;
   }
-  for (Py_ssize_t i = 0; i < PyTuple_Size(steps); ++i) {
-    Step step;
-    if (!readStep(PyTuple_GetItem(steps, i), chain->images.size(), step)) return nullptr;
-    chain->steps.push_back(step);
+  if (!readValues(inputs, chain->inputs, chain->values, false) ||
+      !readValues(outputs, chain->outputs, chain->values, true))
+    return nullptr;
+  for (Py_ssize_t i = 0; i < PyTuple_Size(kinds); ++i) {
+    PyObject *dtype, *shape;
+    if (!PyArg_ParseTuple(PyTuple_GetItem(kinds, i), "OO", &dtype, &shape)) return nullptr;
+    chain->dtypes.push_back(Py_NewRef(dtype));
+    chain->shapes.push_back(Py_NewRef(shape));
   }
+  for (Py_ssize_t i = 0; i < PyTuple_Size(steps); ++i)
+    if (!readStep(PyTuple_GetItem(steps, i), *chain)) return nullptr;
   return PyCapsule_New(chain.release(), kName,
                        [](PyObject* capsule) { delete static_cast<Chain*>(PyCapsule_GetPointer(capsule, kName)); });
+} catch (const std::bad_alloc&) {
+  return PyErr_NoMemory();
+}
+
+// set_arguments(chain, arguments): what the chain has been made for, so that run_again knows it.
+PyObject* setArguments(PyObject*, PyObject* given) try {
+  PyObject *capsule, *arguments;
+  if (!PyArg_ParseTuple(given, "OO!", &capsule, &PyTuple_Type, &arguments)) return nullptr;
+  Chain* const chain = chainOf(capsule);
+  if (!chain) return nullptr;
+  for (Py_ssize_t i = 0; gArrayType && i < PyTuple_Size(arguments); ++i) {
+    PyObject* const own = PyTuple_GetItem(arguments, i);
+    Argument& kept = chain->arguments.emplace_back();
+    kept.own = Py_NewRef(own);
+    if (Py_TYPE(own) != gArrayType) continue;
+    const auto& array = *reinterpret_cast<NumpyArray*>(own);
+    kept.axes = array.axes;
+    std::copy_n(array.shape, array.axes, kept.shape);
+    kept.own = Py_NewRef(array.dtype);
+    Py_DECREF(own);
+  }
+  Py_RETURN_NONE;
+} catch (const std::bad_alloc&) {
+  return PyErr_NoMemory();
 }
 
 class Buffers {
@@ -702,75 +460,130 @@ class Buffers {
   std::size_t held_ = 0;
 };
 
-// run_chain(chain, arrays, threads, rows): the arrays are those of the inputs and outputs, in the order of the images,
-// with their pixels one after another. Gives the statuses of the steps, or None where all are 0, and the measures.
-PyObject* runChain(PyObject*, PyObject* arguments) {
-  PyObject *capsule, *arrays;
-  Py_ssize_t threads, rows;
-  if (!PyArg_ParseTuple(arguments, "OO!nn", &capsule, &PyTuple_Type, &arrays, &threads, &rows)) return nullptr;
-  const auto* const chain = static_cast<const Chain*>(PyCapsule_GetPointer(capsule, kName));
+// run_chain(chain, arrays, outs, threads, rows): the arrays have their pixels one after another, and so do those that
+// results go to. Gives what run gives, or an empty tuple where all is well and nothing was measured.
+PyObject* runChain(PyObject*, PyObject* arguments) try {
+  PyObject *capsule, *arrays, *outs;
+  int threads, rows;
+  if (!PyArg_ParseTuple(arguments, "OO!O!ii", &capsule, &PyTuple_Type, &arrays, &PyTuple_Type, &outs, &threads, &rows))
+    return nullptr;
+  Chain* const chain = chainOf(capsule);
   if (!chain) return nullptr;
-  std::vector<Given> given(chain->images.size());
-  const Py_ssize_t count = PyTuple_Size(arrays);
-  Buffers buffers{std::size_t(count)};
-  Index height = 0, width = 0, taken = 0;
-  for (std::size_t i = 0; i < given.size(); ++i) {
-    const Image& image = chain->images[i];
-    if (!image.input && !image.output) continue;
-    const Py_buffer* const own = taken < count ? buffers.take(PyTuple_GetItem(arrays, taken++), image.output) : nullptr;
-    if (!own) {
-      if (!PyErr_Occurred()) PyErr_SetString(PyExc_TypeError, "an array is missing");
-      return nullptr;
+  Buffers buffers{chain->inputs.size() + chain->outputs.size()};
+  auto own = chain->take();
+  for (const bool written : {false, true}) {
+    const std::vector<int>& places = written ? chain->outputs : chain->inputs;
+    PyObject* const list = written ? outs : arrays;
+    if (PyTuple_Size(list) != Py_ssize_t(places.size())) return refuse("other arrays are expected"), nullptr;
+    for (std::size_t i = 0; i < places.size(); ++i) {
+      const Py_buffer* const array = buffers.take(PyTuple_GetItem(list, Py_ssize_t(i)), written);
+      if (!array) return nullptr;
+      detail::value& to = own->values[std::size_t(places[i])];
+      const Py_ssize_t pixel = array->ndim == 3 ? array->itemsize * array->shape[2] : array->itemsize;
+      if (array->ndim < 2 || pixel != to.pixel || array->shape[0] != chain->size.height ||
+          array->shape[1] != chain->size.width || (array->shape[1] > 1 && array->strides[1] != pixel))
+        return refuse("no such array"), nullptr;
+      place(to, written, array->buf, chain->size.height > 1 ? array->strides[0] : chain->size.width * pixel);
     }
-    const Index pixel = own->ndim == 3 ? own->itemsize * own->shape[2] : own->itemsize;
-    if (own->ndim < 2 || pixel != image.pixel || (height && (own->shape[0] != height || own->shape[1] != width)) ||
-        (own->shape[1] > 1 && own->strides[1] != pixel))
-      return PyErr_SetString(PyExc_ValueError, "no such array"), nullptr;
-    height = own->shape[0];
-    width = own->shape[1];
-    given[i] = {static_cast<char*>(own->buf), height > 1 ? own->strides[0] : std::max<Index>(width * pixel, 1)};
   }
-  if (threads < 1) threads = huxGetThreadCount();
-  // A share is worth a thread where it is long, and not mostly seam.
-  Index seam = 0;
-  bool all = false;
-  for (const Step& step : chain->steps) {
-    seam += step.top + step.bottom;
-    all = all || (step.all && !chain->images[std::size_t(step.a[0])].input);
-  }
-  const Index most =
-      std::min(height / std::max<Index>(8, 4 * seam), height * width * Index(chain->steps.size()) / (Index(1) << 20));
-  const Index team = all ? 1 : std::clamp<Index>(std::min<Index>(threads, 1024), 1, std::max<Index>(most, 1));
-  std::vector<int> statuses(chain->steps.size());
-  std::vector<std::vector<char>> totals(chain->steps.size());
-  bool good = false;
-  PyThreadState* const state = height * width > 4000 ? PyEval_SaveThread() : nullptr;
-  try {
-    good = runShares(*chain, given, height, width, team, rows, statuses, totals);
-  } catch (const std::bad_alloc&) {
-  }
-  if (state) PyEval_RestoreThread(state);
-  const bool failed = std::any_of(statuses.begin(), statuses.end(), [](int status) { return status < 0; });
-  if (!good && !failed) return PyErr_NoMemory();
-  PyObject* told = Py_NewRef(Py_None);
-  if (std::any_of(statuses.begin(), statuses.end(), [](int status) { return status; })) {
-    Py_DECREF(told);
-    told = PyTuple_New(Py_ssize_t(statuses.size()));
-    for (std::size_t s = 0; told && s < statuses.size(); ++s)
-      PyTuple_SetItem(told, Py_ssize_t(s), PyLong_FromLong(statuses[s]));
-  }
-  PyObject* measures = PyList_New(0);
-  for (std::size_t s = 0; told && measures && !failed && s < totals.size(); ++s)
-    for (const Field& field : chain->steps[s].fields) {
-      PyObject* bytes = PyBytes_FromStringAndSize(totals[s].data() + field.offset, Index(field.count) * 8);
-      if (!bytes || PyList_Append(measures, bytes) < 0) Py_CLEAR(measures);
-      Py_XDECREF(bytes);
-      if (!measures) break;
+  bool clean;
+  PyObject* const found = run(*chain, std::move(own), threads, rows, clean);
+  if (!clean) return found;
+  Py_XDECREF(found);
+  return PyTuple_New(0);
+} catch (const std::bad_alloc&) {
+  return PyErr_NoMemory();
+}
+
+// Whether an array is one of the shape and type, with its elements one after another but for gaps between rows, which
+// go downwards.
+bool fits(PyObject* object, PyObject* dtype, int axes, const Py_ssize_t* shape, int pixel, bool written) {
+  if (Py_TYPE(object) != gArrayType) return false;
+  const auto& array = *reinterpret_cast<NumpyArray*>(object);
+  constexpr int kAligned = 0x100;
+  if (array.dtype != dtype || array.axes != axes || !(array.flags & kAligned) ||
+      (written && !(array.flags & kWriteable)) || !std::equal(shape, shape + axes, array.shape))
+    return false;
+  const Py_ssize_t *const strides = array.strides, row = shape[1] * pixel;
+  return strides[1] == pixel && (axes == 2 || strides[2] * shape[2] == pixel) && strides[0] >= row &&
+         strides[0] <= INT_MAX;
+}
+
+// run_again(chain, arguments, out, threads, rows): the chain's result where it is one image; a tuple of what run gives,
+// and of the images; NotImplemented where an argument is not as it was, or anything else is to be looked into.
+PyObject* runAgain(PyObject*, PyObject* const* given, Py_ssize_t) try {
+  PyObject *const arguments = given[1], *const out = given[2];
+  Chain* const chain = chainOf(given[0]);
+  if (!chain) return nullptr;
+  const long threads = given[3] == Py_None ? 0 : PyLong_AsLong(given[3]), rows = PyLong_AsLong(given[4]);
+  if (PyErr_Occurred()) PyErr_Clear();
+  const auto otherwise = [] { return Py_NewRef(Py_NotImplemented); };
+  if (chain->arguments.empty() || PyTuple_Size(arguments) != Py_ssize_t(chain->arguments.size()) || rows < 0 ||
+      threads < (given[3] != Py_None) || threads > INT_MAX)
+    return otherwise();
+  std::size_t next = 0;
+  for (std::size_t i = 0; i < chain->arguments.size(); ++i) {
+    const Argument& known = chain->arguments[i];
+    PyObject* const own = PyTuple_GetItem(arguments, Py_ssize_t(i));
+    if (known.axes) {
+      const int pixel = chain->values[std::size_t(chain->inputs[next++])].pixel;
+      if (!fits(own, known.own, known.axes, known.shape, pixel, false)) return otherwise();
+    } else if (own != known.own) {
+      if (Py_TYPE(own) != Py_TYPE(known.own) ||
+          !(PyLong_CheckExact(own) || PyFloat_CheckExact(own) || PyUnicode_CheckExact(own)))
+        return otherwise();
+      if (PyObject_RichCompareBool(own, known.own, Py_EQ) != 1) return PyErr_Clear(), otherwise();
     }
-  PyObject* both = told && measures ? PyTuple_Pack(2, told, measures) : nullptr;
-  Py_XDECREF(told);
-  Py_XDECREF(measures);
-  return both;
+  }
+  const std::size_t count = chain->outputs.size();
+  if (out != Py_None && count != 1) return otherwise();
+  PyObject* const results = PyTuple_New(Py_ssize_t(count));
+  if (!results) return nullptr;
+  auto own = chain->take();
+  bool good = true;
+  for (std::size_t i = 0; good && i < count; ++i) {
+    detail::value& to = own->values[std::size_t(chain->outputs[i])];
+    PyObject* const made = out != Py_None
+                               ? Py_NewRef(out)
+                               : PyObject_CallFunctionObjArgs(gEmpty, chain->shapes[i], chain->dtypes[i], nullptr);
+    if (!made) return Py_DECREF(results), nullptr;
+    PyTuple_SetItem(results, Py_ssize_t(i), made);
+    PyObject* const shape = chain->shapes[i];
+    Py_ssize_t sides[3];
+    const int axes = int(PyTuple_Size(shape));
+    for (int k = 0; k < axes; ++k) sides[k] = PyLong_AsSsize_t(PyTuple_GetItem(shape, k));
+    good = fits(made, chain->dtypes[i], axes, sides, to.pixel, true);
+    const auto& array = *reinterpret_cast<NumpyArray*>(made);
+    if (good) place(to, true, array.data, array.strides[0]);
+  }
+  if (!good) {
+    Py_DECREF(results);
+    chain->leave(std::move(own));
+    return otherwise();
+  }
+  next = 0;
+  for (std::size_t i = 0; i < chain->arguments.size(); ++i) {
+    if (!chain->arguments[i].axes) continue;
+    const auto& array = *reinterpret_cast<NumpyArray*>(PyTuple_GetItem(arguments, Py_ssize_t(i)));
+    place(own->values[std::size_t(chain->inputs[next++])], false, array.data, array.strides[0]);
+  }
+  bool clean;
+  PyObject* found = run(*chain, std::move(own), int(threads), int(rows), clean);
+  if (found == Py_None && !clean) {
+    Py_DECREF(results);
+    Py_DECREF(found);
+    return otherwise();
+  }
+  PyObject* made = nullptr;
+  if (found && clean && chain->single)
+    made = Py_NewRef(PyTuple_GetItem(results, 0));
+  else if (found)
+    made = PyTuple_Pack(2, found, results);
+  Py_XDECREF(found);
+  Py_DECREF(results);
+  return made;
+} catch (const std::bad_alloc&) {
+  return PyErr_NoMemory();
 }
 
 // record(by): a function of a chain starts (1) or ends (-1). set_recorder(images, recorder): what it is recorded with.
@@ -841,11 +654,14 @@ PyObject* recorded(PyObject* operation, PyObject* const* given, Py_ssize_t count
   return result;
 }
 
-PyMethodDef kChainFunctions[] = {{"make_chain", makeChain, METH_VARARGS, nullptr},
-                                 {"run_chain", runChain, METH_VARARGS, nullptr},
-                                 {"record", record, METH_O, nullptr},
-                                 {"set_recorder", setRecorder, METH_VARARGS, nullptr},
-                                 {"noted", noted, METH_VARARGS, nullptr},
-                                 {}};
+PyMethodDef kChainFunctions[] = {
+    {"make_chain", makeChain, METH_VARARGS, nullptr},
+    {"set_arguments", setArguments, METH_VARARGS, nullptr},
+    {"run_chain", runChain, METH_VARARGS, nullptr},
+    {"run_again", reinterpret_cast<PyCFunction>(reinterpret_cast<void (*)()>(runAgain)), METH_FASTCALL, nullptr},
+    {"record", record, METH_O, nullptr},
+    {"set_recorder", setRecorder, METH_VARARGS, nullptr},
+    {"noted", noted, METH_VARARGS, nullptr},
+    {}};
 
 }  // namespace hux::python

@@ -729,10 +729,9 @@ PyObject* Run::described() {
     if (own.count) add(found, Py_BuildValue("ii", int(own.type), int(own.count)));
   if (fixed && found) {
     const Py_ssize_t pixel = kTypeSizes[int(a.first.type)] * a.first.channels;
-    return Py_BuildValue("isNiN(iy#(iiii)O(ii))", member->function, program.c_str(), fixed, starts ? zero ? 2 : 1 : 0,
+    return Py_BuildValue("isNiN(iy#(iiii)O)", member->function, program.c_str(), fixed, starts ? zero ? 2 : 1 : 0,
                          found, border, borderPixel, pixel, left, top, right, bottom,
-                         op.family != Family::window || member->local ? Py_True : Py_False, maskSize.width,
-                         maskSize.height);
+                         op.family != Family::window || local() ? Py_True : Py_False);
   }
   Py_XDECREF(fixed);
   Py_XDECREF(found);

@@ -74,6 +74,8 @@ class Run {
   int sourceLayout = 0, destinationLayout = 0;
   bool form = false;
 
+  // Of a window: whether what becomes of a pixel depends on the pixels around it alone.
+  bool local() const { return Py_ssize_t(left + right + 2) * (top + bottom + 1) <= member->local; }
   bool two() const { return op.sources == 2 && !constant; }
   bool refuse(PyObject* kind, const char* text) { return PyErr_Format(kind, "%s: %s", op.name, text), false; }
   // In the way of the library, of what it would refuse if it were asked.

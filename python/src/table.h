@@ -65,7 +65,9 @@ struct Member {
   Values own[kOwn], results[kResults];
   Reach reach;         // of a window
   const short* masks;  // of a fixed mask, by their numbers, 0 behind; null where the mask is free
-  bool local;          // of a window: what becomes of a pixel depends on the pixels around it alone
+  // Of a window: of how many pixels it may be, a column more counted, for what becomes of a pixel to depend on the
+  // pixels around it alone.
+  int local;
 };
 
 // What tells the members of an operation from each other. The form is 1 where a constant stands for an image.

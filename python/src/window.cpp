@@ -266,10 +266,8 @@ Value Run::callWindow(Value* values) {
       return status;
     return run(whole + top * step + left * size, step, x, y, columns, rows);
   };
-  // Windows of bytes or words whose sums go beyond what floats hold exactly: such sums run on along the rows of a call.
-  const bool rounds = element < 4 && (left + right + 2) * (top + bottom + 1) > (1 << 24) / (element == 1 ? 255 : 65535);
-  const bool pieces = member->local && !rounds && !same && width * height > 4 * kKeepLock &&
-                      width > 2 * (left + right) && height > 2 * (top + bottom);
+  const bool pieces =
+      local() && !same && width * height > 4 * kKeepLock && width > 2 * (left + right) && height > 2 * (top + bottom);
   if (!pieces) return framed(0, 0, width, height);
   Value status = run(image.data() + top * image.step + left * size, image.step, left, top, width - left - right,
                      height - top - bottom);

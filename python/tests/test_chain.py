@@ -114,6 +114,27 @@ def test_outputs_are_written_where_they_are_asked_for():
         two(a, out=(outs[0], outs[0]))
 
 
+def test_plans_are_kept_for_other_arrays():
+    function = lambda a, b, level: (hux.not_(a), hux.filter_box(hux.add(a, b), 3), hux.count_in_range(b, 0, level))
+    chain, first = hux.chain(function, rows=3), hux.chain(lambda a, b: function(a, b, 9)[1], rows=3)
+    for seed in range(12):
+        tall = pixels((30, 16), np.uint8, seed)
+        a, b = tall[:20], pixels((20, 16), np.uint8, seed + 1)
+        expected = function(a, b, 90 + seed % 2)
+        same(chain(a, b, 90 + seed % 2, threads=1 + seed % 2), expected)
+        # Now and then over an input, as a whole or a few rows further down.
+        out = (np.empty_like(a), a, tall[4:24])[seed % 3]
+        assert first(a, b, out=out, threads=2) is out and np.array_equal(out, expected[1])
+    # A result that is written before the image in its place has been read for the last time.
+    a, b, m = pixels((50, 40), np.uint8, 1), pixels((50, 40), np.uint8, 2), pixels((50, 40), np.uint8, 3) & 1
+    own, other = a.copy(), np.empty_like(a)
+    hux.chain(lambda a: (hux.not_(a), hux.add(a, 1)))(own, out=(own, other))
+    assert np.array_equal(own, ~a) and np.array_equal(other, hux.add(a, 1))
+    own = a.copy()
+    hux.chain(lambda a, onto, m: hux.copy(a, out=onto, mask=m))(own, b, m, out=own)
+    assert np.array_equal(own, hux.copy(a, out=b.copy(), mask=m))
+
+
 def test_arguments_that_are_no_images():
     chain = hux.chain(lambda a, level, size: hux.threshold_gt(hux.filter_box(a, size), level))
     a = pixels((20, 30), np.uint8, 9)
