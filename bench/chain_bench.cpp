@@ -286,9 +286,9 @@ void add(const std::string& work, int count, std::initializer_list<int> sides) {
 
 void addCases() {
   for (const int count : {1, 3, 5, 8}) {
-    add<u8>("points", count, {16, 512, 1024, 2048, 4096, 6000, 12000});
-    add<float>("points", count, {16, 512, 1024, 2048, 4096, 6000});
+    add<u8>("points", count, {16, 64, 512, 1024, 2048, 4096, 6000, 12000});
+    add<float>("points", count, {16, 64, 512, 1024, 2048, 4096, 6000});
   }
-  add<u8>("windows", 0, {16, 512, 1024, 2048, 4096, 6000, 12000});
-  add<float>("windows", 0, {16, 512, 1024, 2048, 4096, 6000});
+  add<u8>("windows", 0, {16, 64, 512, 1024, 2048, 4096, 6000, 12000});
+  add<float>("windows", 0, {16, 64, 512, 1024, 2048, 4096, 6000});
 }

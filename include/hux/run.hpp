@@ -45,8 +45,9 @@ struct running {
 
 namespace detail {
 
-// Teams of the library's own would ask for the processors that the chain's have: while one of these is there, calls of
-// its thread have none. Where the program has no OpenMP, or its names cannot be looked up, the library decides.
+// Teams of the library's own would ask for the processors that the chain's have: where that is needed, calls of the
+// thread have none while one of these is there. Where the program has no OpenMP, or its names cannot be looked up, the
+// library decides.
 #if defined __ELF__ && defined __GNUC__
 extern "C" {
 [[gnu::weak, gnu::visibility("default")]] int hux_get_active_levels() __asm__("omp_get_max_active_levels");
@@ -54,7 +55,8 @@ extern "C" {
 }
 class alone {
  public:
-  alone() : before_(hux_get_active_levels && hux_set_active_levels ? hux_get_active_levels() : 0) {
+  explicit alone(bool needed)
+      : before_(needed && hux_get_active_levels && hux_set_active_levels ? hux_get_active_levels() : 0) {
     if (before_ > 0) hux_set_active_levels(0);
   }
   ~alone() {
@@ -67,7 +69,7 @@ class alone {
 #else
 class alone {
  public:
-  alone() {}
+  explicit alone(bool) {}
 };
 #endif
 
@@ -92,9 +94,9 @@ inline constexpr int own_bytes = static_cast<int>(sizeof(T)) * (C > 200 ? 1 : ch
 
 // Rows of an image while a chain runs.
 struct band {
-  std::byte* data[4] = {};  // by plane
-  int step = 0;
-  extent size = {};
+  std::byte* data[4];  // by plane
+  int step;
+  extent size;
 
   template <class T, int C>
   image_of<T, C> as() const {
@@ -218,6 +220,8 @@ struct store {
   std::size_t at = 0;
   int input = -1;            // of which input these are copies
   bool caught = false;       // an input whose rows an output overwrites
+  bool several = false;      // planes
+  bool handed_out = false;   // also in an image of the caller's
   std::size_t seams_at = 0;  // copies of the rows that other threads may have overwritten
   int last_task = -1;
 };
@@ -256,43 +260,70 @@ class plan {
     const std::int64_t most = options.rows > 0 ? size_.height / std::min(rows_, 16) : by_work;
     return static_cast<int>(std::clamp<std::int64_t>(most, 1, std::clamp(options.threads, 1, kMostThreads)));
   }
+  // Whether a call may have a team of the library's own.
+  bool windows() const { return windows_; }
   // Whether a call comes behind one that writes to an image of the caller's, and could fail when that is done.
   bool checked_ahead() const { return first_output_ < tasks_.size(); }
 
-  // What one thread has of its own.
+  // What one thread has of its own. Of each store: where its first row in memory stands, which that is, and up to where
+  // rows are made.
+  struct rows {
+    std::byte* data = nullptr;
+    std::ptrdiff_t step = 0;
+    int first = 0, next = 0;
+
+    std::byte* row(int y) const { return data + step * (y - first); }
+  };
   struct share {
     std::byte* memory = nullptr;
-    std::vector<int> first, next;  // the rows of each store
+    std::vector<rows> stores;
     std::vector<status> statuses;  // of the steps
+    bool clean = true;             // whether all of them are ok
     std::vector<std::unique_ptr<tally>> tallies;
     int from = 0, until = 0;
   };
-  void begin(share& own, int from, int until) const {
-    own.from = from, own.until = until;
-    own.first.resize(stores_.size()), own.next.resize(stores_.size());
+  void provide(share& own, std::int64_t number, std::int64_t team) const {
+    own.from = static_cast<int>(size_.height * number / team);
+    own.until = static_cast<int>(size_.height * (number + 1) / team);
+    own.stores.resize(stores_.size());
     for (std::size_t i = 0; i < stores_.size(); ++i) {
-      const int start = std::max(0, from - stores_[i].before);
-      own.next[i] = start;
-      own.first[i] = start == 0 ? -stores_[i].top : start;
+      const store& s = stores_[i];
+      own.stores[i] = {own.memory + s.at + std::ptrdiff_t{s.left} * value_of(s).pixel, s.pitch};
+    }
+    point(own);
+  }
+  // Images of the caller's, which may have moved.
+  void point(share& own) const {
+    for (std::size_t i = 0; i < stores_.size(); ++i) {
+      const value& v = value_of(stores_[i]);
+      if (stores_[i].place == store::in_input) own.stores[i] = {v.in[0], v.in_step};
+      if (stores_[i].place == store::in_output) own.stores[i] = {v.out[0], v.out_step};
+    }
+  }
+  void begin(share& own) const {
+    if (!own.clean) std::fill(own.statuses.begin(), own.statuses.end(), status::ok);
+    own.clean = true;
+    for (const auto& one : own.tallies) one->clear();
+    const store* s = stores_.data();
+    for (rows& there : own.stores) {
+      there.next = std::max(0, own.from - s->before);
+      if (s->place == store::in_ring) there.first = there.next == 0 ? -s->top : there.next;
+      ++s;
     }
   }
 
-  // Has every call look at its arguments, on a row that no one sees.
-  status check(share& own) const {
+  // Has every call look at its arguments, on a row that no one sees. False where one fails.
+  bool check(share& own) const {
     for (const task& t : tasks_) {
       if (t.step < 0) continue;
       const step& call = steps_[t.step];
       band in[4], out;
-      for (int k = 0; k < call.count; ++k) in[k] = blank(own, t.sources[k], call.sources[k]);
-      if (t.to >= 0) out = stores_[at(t.to)].place == store::in_output ? unseen(own, t.to) : blank(own, t.to, {});
-      const status found = call.measured >= 0 ? own.tallies[at(call.measured)]->add(in, 0) : call.work(in, out);
+      for (int k = 0; k < call.count; ++k) blank(own, t.sources[k], call.sources[k], in[k]);
+      if (t.to >= 0) blank(own, t.to, {}, out);
+      if (!apply(own, t, 0, in, out)) return false;
       if (call.measured >= 0) own.tallies[at(call.measured)]->clear();
-      if (static_cast<int>(found) < 0) {
-        own.statuses[at(t.step)] = found;
-        return found;
-      }
     }
-    return status::ok;
+    return true;
   }
 
   // Saves rows of inputs that other threads are about to overwrite.
@@ -311,43 +342,41 @@ class plan {
 
   // Ends at a call that fails; the statuses tell.
   void run(share& own) const {
-    for (int y = own.from; y < own.until; y += rows_) {
-      const int end = std::min(own.until, y + rows_);
+    for (int y = own.from, end; y < own.until; y = end) {
+      end = rows_ < own.until - y ? y + rows_ : own.until;
       for (const task& t : tasks_) {
         int from = y, until = end;
         if (t.to >= 0) {
           const store& s = stores_[at(t.to)];
-          from = own.next[at(t.to)];
+          from = own.stores[at(t.to)].next;
           until = std::min(size_.height, end + s.ahead);
           if (from >= until) continue;
-          if (s.place == store::for_band) own.first[at(t.to)] = from;
+          if (s.place == store::for_band) own.stores[at(t.to)].first = from;
           if (s.place == store::in_ring) turn(own, t.to, y, until);
         }
         if (t.step < 0) {
           copy(own, t, from, until);
         } else {
           const step& call = steps_[t.step];
-          band in[4];
-          for (int k = 0; k < call.count; ++k) in[k] = rows_of(own, t.sources[k], call.sources[k], from, until);
-          const status found = call.measured >= 0
-                                   ? own.tallies[at(call.measured)]->add(in, from)
-                                   : call.work(in, t.to < 0 ? band() : rows_of(own, t.to, {}, from, until));
-          if (found != status::ok) {
-            status& kept = own.statuses[at(t.step)];
-            if (kept == status::ok || static_cast<int>(found) < 0) kept = found;
-            if (static_cast<int>(found) < 0) return;
-          }
+          band in[4], out;
+          for (int k = 0; k < call.count; ++k) rows_of(own, t.sources[k], call.sources[k], from, until, in[k]);
+          if (t.to >= 0) rows_of(own, t.to, {}, from, until, out);
+          if (!apply(own, t, from, in, out)) return;
         }
         if (t.to < 0) continue;
-        own.next[at(t.to)] = until;
+        own.stores[at(t.to)].next = until;
         if (stores_[at(t.to)].frame) surround(own, t.to, from, until);
-        if (t.step >= 0) hand_out(own, t.to, std::max(from, own.from), std::min(until, own.until));
+        if (t.step >= 0 && stores_[at(t.to)].handed_out)
+          hand_out(own, t.to, std::max(from, own.from), std::min(until, own.until));
       }
     }
   }
 
  private:
+  // What bands may take of the cache: half of a second level of 512 KiB; where there is more of it, larger bands gain
+  // nothing. Windows begin anew with each call, so they have more rows even if some go to the next level.
   static constexpr std::int64_t kCache = 256 << 10;
+  static constexpr int kLeastRowsOfWindows = 16;
   static constexpr int kMostThreads = 1024;
   static constexpr std::size_t at(int index) { return static_cast<std::size_t>(index); }
 
@@ -488,7 +517,7 @@ class plan {
   // Memory for the stores.
   status lay_out(int rows) {
     std::int64_t per_row = 1, fixed = 0;
-    bool windows = false;
+    windows_ = false;
     first_output_ = tasks_.size();
     work_ = seam_ = 0;
     for (std::size_t i = 0; i < stores_.size(); ++i) {
@@ -502,12 +531,14 @@ class plan {
         else if (v.own == v.pixel)
           own.place = store::for_band;  // what is not processed stays 0 where it has a place
       }
+      own.several = v.planes > 1;
+      own.handed_out = v.output && own.place == store::in_ring;
       const std::int64_t pixels = std::int64_t{own.left} + size_.width + own.right;
       own.row = (pixels * v.pixel + 63) / 64 * 64;
       own.pitch = own.row * v.planes;
       if (own.pitch > INT_MAX) return status::no_mem;
       if (own.place == store::in_ring)
-        fixed += own.pitch * (std::int64_t{own.ahead} + own.behind + own.top + own.bottom), windows = true;
+        fixed += own.pitch * (std::int64_t{own.ahead} + own.behind + own.top + own.bottom), windows_ = true;
       seam_ = std::max(seam_, std::int64_t{own.ahead} + own.before);
       if (own.place != store::for_band) per_row += own.pitch;
     }
@@ -517,6 +548,7 @@ class plan {
         first_output_ = t + 1;
     for (const task& t : tasks_)
       if (t.step >= 0) {
+        windows_ = windows_ || steps_[t.step].windowed;
         const value& made = value_of(stores_[at(t.to >= 0 ? t.to : t.sources[0])]);
         work_ += std::int64_t{made.pixel} * made.planes * size_.width * size_.height;
       }
@@ -534,8 +566,9 @@ class plan {
       own.at = static_cast<std::size_t>(slot - slots_.begin());
     }
     for (const auto& slot : slots_) per_row += slot.pitch;
-    rows_ =
-        rows > 0 ? rows : static_cast<int>(std::clamp<std::int64_t>((kCache - fixed) / per_row, windows ? 8 : 1, 4096));
+    rows_ = rows > 0 ? rows
+                     : static_cast<int>(std::clamp<std::int64_t>((kCache - fixed) / per_row,
+                                                                 windows_ ? kLeastRowsOfWindows : 1, 4096));
     rows_ = std::min(rows_, size_.height);
     std::int64_t bytes = 0;
     const auto taken = [&](std::int64_t more) {
@@ -567,52 +600,52 @@ class plan {
 
   // The run.
 
-  std::byte* ring_row(const share& own, int index, int y) const {
-    const store& s = stores_[at(index)];
-    return own.memory + s.at + s.pitch * (y - own.first[at(index)]) + std::ptrdiff_t{s.left} * value_of(s).pixel;
+  // Takes bands through a call, and keeps its status: the first that is not ok, or an error, at which all ends.
+  bool apply(share& own, const task& t, int row, const band* in, const band& out) const {
+    const step& call = steps_[t.step];
+    const status found = call.measured >= 0 ? own.tallies[at(call.measured)]->add(in, row) : call.work(in, out);
+    if (found == status::ok) return true;
+    status& kept = own.statuses[at(t.step)];
+    if (kept == status::ok || static_cast<int>(found) < 0) kept = found;
+    own.clean = false;
+    return static_cast<int>(found) >= 0;
   }
+
   const std::byte* input_row(const store& s, int y, int plane) const {
     return value_of(s).in[plane] + std::ptrdiff_t{value_of(s).in_step} * y;
   }
 
   // Rows of a store, or of a plane or channel of it.
-  band rows_of(const share& own, int index, const part_of_value& part, int from, int until) const {
-    const store& s = stores_[at(index)];
-    const value& v = value_of(s);
-    band out;
+  void rows_of(const share& own, int index, const part_of_value& part, int from, int until, band& out) const {
+    const rows& there = own.stores[at(index)];
     out.size = {size_.width, until - from};
-    if (s.place == store::in_input || s.place == store::in_output) {
-      const bool read = s.place == store::in_input;
-      out.step = read ? v.in_step : v.out_step;
-      for (int p = 0; p < v.planes; ++p) out.data[p] = (read ? v.in[p] : v.out[p]) + std::ptrdiff_t{out.step} * from;
-    } else {
-      out.step = static_cast<int>(s.pitch);
-      std::byte* first = ring_row(own, index, from);
-      for (int p = 0; p < v.planes; ++p) out.data[p] = first + s.row * p;
-    }
-    if (part.plane > 0) out.data[0] = out.data[part.plane];
-    out.data[0] += part.offset;
-    return out;
+    out.step = static_cast<int>(there.step);
+    out.data[0] = there.row(from) + part.offset;
+    if (stores_[at(index)].several) [[unlikely]]
+      planes_of(there, stores_[at(index)], part, from, out);
   }
-  band blank(const share& own, int index, const part_of_value& part) const {
+  void planes_of(const rows& there, const store& s, const part_of_value& part, int from, band& out) const {
+    const value& v = value_of(s);
+    std::byte* const* const data = s.place == store::in_input ? v.in : s.place == store::in_output ? v.out : nullptr;
+    for (int p = 0; p < v.planes; ++p)
+      out.data[p] = data ? data[p] + std::ptrdiff_t{out.step} * from : there.row(from) + s.row * p;
+    out.data[0] = out.data[part.plane] + part.offset;
+  }
+  void blank(const share& own, int index, const part_of_value& part, band& out) const {
     const store& s = stores_[at(index)];
-    const int row = s.place == store::in_ring    ? own.first[at(index)] + s.top
-                    : s.place == store::for_band ? own.first[at(index)]
+    const int row = s.place == store::in_ring    ? own.stores[at(index)].first + s.top
+                    : s.place == store::for_band ? own.stores[at(index)].first
                                                  : 0;
-    return rows_of(own, index, part, row, row + 1);
-  }
-  band unseen(const share& own, int index) const {
-    const store& s = stores_[at(index)];
-    band out = rows_of(own, index, {}, 0, 1);
-    for (int p = 0; p < planes(s); ++p) out.data[p] = own.memory + unseen_at_ + s.row * p;
-    return out;
+    rows_of(own, index, part, row, row + 1, out);
+    if (s.place == store::in_output)  // where no one sees it
+      for (int p = 0; p < planes(s); ++p) out.data[p] = own.memory + unseen_at_ + s.row * p;
   }
 
   // Makes room for rows: those that are still needed go to the start.
   void turn(share& own, int index, int y, int until) const {
     const store& s = stores_[at(index)];
-    int& first = own.first[at(index)];
-    const int next = own.next[at(index)];
+    int& first = own.stores[at(index)].first;
+    const int next = own.stores[at(index)].next;
     if (until + (until == size_.height ? s.bottom : 0) - first <= s.rows) return;
     const int keep = std::clamp(y - s.behind, first, next);
     std::byte* start = own.memory + s.at;
@@ -625,14 +658,14 @@ class plan {
     const store& s = stores_[at(t.to)];
     const int start = std::max(0, own.from - s.before), kept = own.from - start;
     for (int y = from; y < until; ++y) {
-      std::byte* to = ring_row(own, t.to, y);
+      std::byte* to = own.stores[at(t.to)].row(y);
       const bool elsewhere = s.caught && (y < own.from || y >= own.until);
       const std::byte* seam =
           elsewhere ? own.memory + s.seams_at + s.pitch * (y < own.from ? y - start : kept + y - own.until) : nullptr;
       for (int p = 0; p < planes(s); ++p) {
         const std::byte* row = elsewhere      ? seam + s.row * p
                                : s.input >= 0 ? input_row(s, y, p)
-                                              : ring_row(own, t.sources[0], y) + stores_[at(t.sources[0])].row * p;
+                                              : own.stores[at(t.sources[0])].row(y) + stores_[at(t.sources[0])].row * p;
         std::memcpy(to + s.row * p, row, length(s));
       }
     }
@@ -641,7 +674,7 @@ class plan {
   // What lies around the rows from..until, and above and below the image where they reach its ends.
   void surround(const share& own, int index, int from, int until) const {
     const store& s = stores_[at(index)];
-    for (int y = from; y < until; ++y) sides(s, ring_row(own, index, y));
+    for (int y = from; y < until; ++y) sides(s, own.stores[at(index)].row(y));
     if (from == 0)
       for (int y = -s.top; y < 0; ++y) outside(own, index, y);
     if (until == size_.height)
@@ -662,7 +695,7 @@ class plan {
   void outside(const share& own, int index, int y) const {
     const store& s = stores_[at(index)];
     const int pixel = value_of(s).pixel, taken = inside(y, size_.height, s.frame->rule);
-    std::byte* row = ring_row(own, index, y) - std::ptrdiff_t{s.left} * pixel;
+    std::byte* row = own.stores[at(index)].row(y) - std::ptrdiff_t{s.left} * pixel;
     if (taken < 0) {
       const int count = s.left + size_.width + s.right;
       for (int p = 0; p < planes(s); ++p)
@@ -673,7 +706,8 @@ class plan {
         std::memcpy(row + s.row * p + std::ptrdiff_t{s.left} * pixel, input_row(s, taken, p), length(s));
       sides(s, row + std::ptrdiff_t{s.left} * pixel);
     } else {
-      std::memcpy(row, ring_row(own, index, taken) - std::ptrdiff_t{s.left} * pixel, static_cast<std::size_t>(s.pitch));
+      std::memcpy(row, own.stores[at(index)].row(taken) - std::ptrdiff_t{s.left} * pixel,
+                  static_cast<std::size_t>(s.pitch));
     }
   }
 
@@ -681,11 +715,10 @@ class plan {
   void hand_out(const share& own, int index, int from, int until) const {
     const store& s = stores_[at(index)];
     const value& v = value_of(s);
-    if (!v.output || s.place != store::in_ring) return;
     for (int y = from; y < until; ++y)
       for (int p = 0; p < v.planes; ++p) {
         std::byte* to = v.out[p] + std::ptrdiff_t{v.out_step} * y;
-        const std::byte* row = ring_row(own, index, y) + s.row * p;
+        const std::byte* row = own.stores[at(index)].row(y) + s.row * p;
         if (v.own == v.pixel)
           std::memcpy(to, row, length(s));
         else
@@ -709,6 +742,7 @@ class plan {
   std::vector<char> caught_, now_;  // by value, whether an output overwrites it
   std::vector<slot> slots_;
   int rows_ = 1;
+  bool windows_ = false;
   std::int64_t work_ = 0, seam_ = 0;  // bytes that the calls make; rows around a share that they need
   std::size_t bytes_ = 0, unseen_at_ = 0, first_output_ = 0;
 };
@@ -772,28 +806,24 @@ class runner {
   status run(const running& options, int& whose) try {
     whose = kNoStep;
     if (steps.empty()) return status::ok;
-    if (const status made = prepare(options); made != status::ok) return made;
-    const std::int64_t height = size.height, team = static_cast<std::int64_t>(shares_.size());
-    for (std::int64_t i = 0; i < team; ++i) {
-      plan::share& own = shares_[static_cast<std::size_t>(i)];
-      plan_.begin(own, static_cast<int>(height * i / team), static_cast<int>(height * (i + 1) / team));
-      std::fill(own.statuses.begin(), own.statuses.end(), status::ok);
-      for (const auto& one : own.tallies) one->clear();
-    }
-    const alone here;
+    if (!planned_ || moved_ || options.rows != planned_for_.rows || options.threads != planned_for_.threads)
+      if (const status made = prepare(options); made != status::ok) return made;
+    for (plan::share& own : shares_) plan_.begin(own);
+    const alone here(plan_.windows());
     // A call that fails does so before it writes. Where one comes behind an output, all are asked ahead of the work.
     plan::share& front = shares_.front();
-    if (plan_.checked_ahead() && plan_.check(front) != status::ok) return first(whose, true);
-    if (team > 1)
+    if (plan_.checked_ahead() && !plan_.check(front)) return first(whose, true);
+    if (shares_.size() > 1)
       share_out();
     else
       plan_.run(front);
-    if (const status failed = first(whose, true); failed != status::ok) return failed;
+    if (!front.clean)
+      if (const status failed = first(whose, true); failed != status::ok) return failed;
     for (std::size_t t = 0; t < tallies.size(); ++t) {
       for (std::size_t i = 1; i < shares_.size(); ++i) front.tallies[t]->join(*shares_[i].tallies[t]);
       front.tallies[t]->give(size);
     }
-    return first(whose, false);
+    return front.clean ? status::ok : first(whose, false);
   } catch (const std::bad_alloc&) {
     return status::no_mem;
   }
@@ -807,7 +837,8 @@ class runner {
   // The plan and what each thread has, unless they are there.
   status prepare(const running& options) {
     if (planned_ && options.rows == planned_for_.rows && options.threads == planned_for_.threads &&
-        (!moved_ || plan_.holds(values))) {
+        plan_.holds(values)) {
+      for (plan::share& own : shares_) plan_.point(own);
       moved_ = false;
       return status::ok;
     }
@@ -817,7 +848,7 @@ class runner {
     memory_.clear();
     const std::size_t bytes = (plan_.bytes() + 63) / 64 * 64;
     for (plan::share& own : shares_) {
-      own.statuses.resize(steps.size());
+      own.statuses.assign(steps.size(), status::ok);
       own.tallies.clear();
       // Owned before the lists grow, which may fail.
       for (const auto& one : tallies) {
@@ -825,11 +856,14 @@ class runner {
         if (!made) return status::no_mem;
         own.tallies.push_back(std::move(made));
       }
-      if (bytes == 0) continue;
-      std::unique_ptr<std::byte[]> made(new (std::nothrow) std::byte[bytes + 64]());
-      if (!made) return status::no_mem;
-      memory_.push_back(std::move(made));
-      own.memory = memory_.back().get() + (64 - reinterpret_cast<std::uintptr_t>(memory_.back().get()) % 64) % 64;
+      own.memory = nullptr;
+      if (bytes > 0) {
+        std::unique_ptr<std::byte[]> made(new (std::nothrow) std::byte[bytes + 64]());
+        if (!made) return status::no_mem;
+        memory_.push_back(std::move(made));
+        own.memory = memory_.back().get() + (64 - reinterpret_cast<std::uintptr_t>(memory_.back().get()) % 64) % 64;
+      }
+      plan_.provide(own, &own - shares_.data(), static_cast<std::int64_t>(shares_.size()));
     }
     planned_ = true;
     planned_for_ = options;
@@ -844,7 +878,7 @@ class runner {
       others.reserve(shares_.size());
       for (std::size_t i = 1; i < shares_.size(); ++i) try {
           others.emplace_back([this, i] {
-            const alone here;
+            const alone here(plan_.windows());
             plan_.run(shares_[i]);
           });
         } catch (const std::exception&) {
@@ -858,6 +892,7 @@ class runner {
         status& kept = shares_.front().statuses[s];
         if (other != status::ok && (kept == status::ok || (static_cast<int>(other) < 0 && static_cast<int>(kept) > 0)))
           kept = other;
+        shares_.front().clean = shares_.front().clean && kept == status::ok;
       }
   }
 

@@ -44,7 +44,7 @@ struct Call {
   int a = kNone, b = kNone, mask = kNone;  // which of the sources
   int start = kNone;                       // what the destination starts as: a source, or zeros
   int count = 0;                           // of sources
-  bool planes[2] = {};                     // whether a and b are
+  int planes[4] = {};                      // of each
   int madePlanes = 0, madePixel = 0;       // of the destination, the latter in bytes
   bool joint = false;                      // whether both sources must have one step
   std::vector<Field> fields;
@@ -66,16 +66,15 @@ struct Call {
       made.size.height = 1;
       const int own = call(sources, &made, found);
       if (!status || own < 0) status = own;
-      for (int k = 0; k < count; ++k) down(sources[k]);
-      down(made);
+      for (int k = 0; k < count; ++k) down(sources[k], planes[k]);
+      down(made, madePlanes);
     }
     return status;
   }
 
  private:
-  static void down(band& rows) {
-    for (std::byte*& plane : rows.data)
-      if (plane) plane += rows.step;
+  static void down(band& rows, int planes) {
+    for (int p = 0; p < planes; ++p) rows.data[p] += rows.step;
   }
   // Or zeros.
   void copyRows(const std::byte* from, int step, std::byte* to, const band& out) const {
@@ -89,8 +88,8 @@ struct Call {
   }
 
   int call(const band* in, const band* out, char* found) const {
-    const auto pixels = [](const band& rows, bool several) {
-      return several ? const_cast<std::byte**>(rows.data) : static_cast<void*>(rows.data[0]);
+    const auto pixels = [](const band& rows, int planes) {
+      return planes > 1 ? const_cast<std::byte**>(rows.data) : static_cast<void*>(rows.data[0]);
     };
     void* results[4];
     Value arguments[20];
@@ -99,13 +98,13 @@ struct Call {
     for (const char letter : program) {
       switch (letter) {
         case 'a':
-          value->p = pixels(in[a], planes[0]);
+          value->p = pixels(in[a], planes[a]);
           break;
         case 'b':
-          value->p = pixels(in[b], planes[1]);
+          value->p = pixels(in[b], planes[b]);
           break;
         case 'o':
-          value->p = pixels(*out, madePlanes > 1);
+          value->p = pixels(*out, madePlanes);
           break;
         case 'm':
           value->p = in[mask].data[0];
@@ -345,9 +344,7 @@ bool readStep(PyObject* from, Chain& chain) {
     detail::part_of_value& own = step.sources[k];
     if (!PyArg_ParseTuple(PyTuple_GetItem(sources, k), "iii", &own.value, &own.plane, &own.offset)) return false;
     if (own.value < 0 || own.value >= known) return refuse("no such image");
-    const bool whole = own.plane < 0 && chain.values[std::size_t(own.value)].planes > 1;
-    if (k == call->a) call->planes[0] = whole;
-    if (k == call->b) call->planes[1] = whole;
+    call->planes[k] = own.plane < 0 ? chain.values[std::size_t(own.value)].planes : 1;
     own.plane = std::max(own.plane, 0);
   }
   if (step.destination >= 0) {
