@@ -253,10 +253,10 @@ class plan {
   bool holds(const std::vector<value>& values) { return find_caught(values, now_) && now_ == caught_; }
 
   std::size_t bytes() const { return bytes_; }
-  // How many threads are worth their start: each has a megabyte of work or more, of which seams are the least part.
+  // How many threads are worth their start: each makes four megabytes or more, of which seams are the least part.
   // Whoever says how many rows a band has gets the threads asked for.
   int team(const running& options) const {
-    const std::int64_t by_work = std::min(work_ >> 20, size_.height / std::max<std::int64_t>(8, 4 * seam_));
+    const std::int64_t by_work = std::min(work_ >> 22, size_.height / std::max<std::int64_t>(8, 4 * seam_));
     const std::int64_t most = options.rows > 0 ? size_.height / std::min(rows_, 16) : by_work;
     return static_cast<int>(std::clamp<std::int64_t>(most, 1, std::clamp(options.threads, 1, kMostThreads)));
   }
@@ -550,7 +550,7 @@ class plan {
       if (t.step >= 0) {
         windows_ = windows_ || steps_[t.step].windowed;
         const value& made = value_of(stores_[at(t.to >= 0 ? t.to : t.sources[0])]);
-        work_ += std::int64_t{made.pixel} * made.planes * size_.width * size_.height;
+        work_ += std::int64_t{steps_[t.step].windowed ? 4 : 1} * made.pixel * made.planes * size_.width * size_.height;
       }
     // Stores for a band alone take turns.
     slots_.clear();
@@ -743,7 +743,8 @@ class plan {
   std::vector<slot> slots_;
   int rows_ = 1;
   bool windows_ = false;
-  std::int64_t work_ = 0, seam_ = 0;  // bytes that the calls make; rows around a share that they need
+  std::int64_t work_ = 0,
+               seam_ = 0;  // bytes that the calls make, windows counted four times; rows around a share that they need
   std::size_t bytes_ = 0, unseen_at_ = 0, first_output_ = 0;
 };
 
