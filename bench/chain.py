@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Times chains beside the calls one by one, OpenCV's sequence, libvips' pipeline and dask's blocks, over image sizes.
 
-  bench/chain.py [--level LEVEL] [--most SIDE] [PICTURE...]   points-8u, points-32f, windows-8u; without, draws only
+  bench/chain.py [--level LEVEL] [--most SIDE] [PICTURE...]   points or windows, -8u or -32f; without, draws only
 
 Each picture is timed in one run: rounds over all ways, the least time of each, in milliseconds. It is kept in
 bench/results/LEVEL/chains.json, and all are drawn to docs/images/chains.svg. The module is found by PYTHONPATH; libvips
@@ -21,7 +21,8 @@ DRAWING = ROOT / "docs" / "images" / "chains.svg"
 SIDES = (512, 1024, 2048, 4096, 6000, 8192, 12000)
 SECONDS = 25  # for a picture
 TITLES = {"points-8u": "add, mul, sub, threshold, xor of bytes", "points-32f": "add, mul, sub, threshold, mul of floats",
-          "windows-8u": "box, Sobel, threshold, erode, dilate of bytes"}
+          "windows-8u": "box, Sobel, threshold, erode, dilate of bytes",
+          "windows-32f": "Gauss, Sobel, threshold, erode, dilate of floats"}
 
 
 # ---- The same work in each library -----------------------------------------------------------------------------------
@@ -34,6 +35,9 @@ def points(hux, a, b):
 
 
 def windows(hux, a, b):
+    if a.dtype == np.float32:
+        edges = hux.filter_sobel_horiz(hux.filter_gauss(a, "3x3"))
+        return hux.dilate3x3(hux.erode3x3(hux.threshold_gt(edges, 0.5)))
     edges = hux.filter_sobel_horiz(hux.filter_box(a, (5, 5)))
     return hux.dilate3x3(hux.erode3x3(hux.compare(edges, 40, ">")))
 
@@ -53,7 +57,10 @@ def hux_calls(name, a, b, out):
 
     def run_windows():
         x, y = t
-        hux.filter_box(a, (5, 5), out=x), hux.filter_sobel_horiz(x, out=y), hux.compare(y, 40, ">", out=x)
+        if a.dtype == np.float32:
+            hux.filter_gauss(a, "3x3", out=x), hux.filter_sobel_horiz(x, out=y), hux.threshold_gt(y, 0.5, out=x)
+        else:
+            hux.filter_box(a, (5, 5), out=x), hux.filter_sobel_horiz(x, out=y), hux.compare(y, 40, ">", out=x)
         hux.erode3x3(x, out=y)
         return hux.dilate3x3(y, out=out)
 
@@ -81,15 +88,20 @@ def opencv(name, a, b, out):
 
     def run_points():
         cv2.addWeighted(a, 0.5, b, 0.5, 0, x) if a.dtype == np.uint8 else cv2.add(a, b, x)
-        cv2.multiply(x, 1.5, y)
+        cv2.convertScaleAbs(x, y, 1.5) if a.dtype == np.uint8 else cv2.multiply(x, 1.5, y)
         cv2.subtract(y, b, x)
         cv2.threshold(x, 100 if a.dtype == np.uint8 else 0.8, 0, cv2.THRESH_TRUNC, y)
         cv2.bitwise_xor(y, b, out) if a.dtype == np.uint8 else cv2.multiply(y, b, out)
 
     def run_windows():
-        cv2.blur(a, (5, 5), x, borderType=cv2.BORDER_REPLICATE)
-        cv2.Sobel(x, cv2.CV_8U, 0, 1, y, borderType=cv2.BORDER_REPLICATE)
-        cv2.threshold(y, 40, 255, cv2.THRESH_BINARY, x)
+        if a.dtype == np.float32:
+            cv2.GaussianBlur(a, (3, 3), 0, x, borderType=cv2.BORDER_REPLICATE)
+            cv2.Sobel(x, cv2.CV_32F, 0, 1, y, borderType=cv2.BORDER_REPLICATE)
+            cv2.threshold(y, 0.5, 0, cv2.THRESH_TRUNC, x)
+        else:
+            cv2.blur(a, (5, 5), x, borderType=cv2.BORDER_REPLICATE)
+            cv2.Sobel(x, cv2.CV_8U, 0, 1, y, borderType=cv2.BORDER_REPLICATE)
+            cv2.threshold(y, 40, 255, cv2.THRESH_BINARY, x)
         cv2.erode(x, box, y)
         cv2.dilate(y, box, out)
 
@@ -148,6 +160,14 @@ def vips(name, a, b, out):
         box = matrix([[1] * 5] * 5, 25.0)
         sobel = matrix([[1, 2, 1], [0, 0, 0], [-1, -2, -1]])
         whole = matrix([[255] * 3] * 3)
+        if kind == Vips.BandFormat.FLOAT:
+            x = call("conv", in_=images[0], mask=matrix([[1, 2, 1], [2, 4, 2], [1, 2, 1]], 16.0), precision=Vips.Precision.FLOAT)
+            x = call("conv", in_=x, mask=sobel, precision=Vips.Precision.FLOAT)
+            above = call("relational_const", in_=x, relational=Vips.OperationRelational.MORE, c=numbers(0.5))
+            x = call("ifthenelse", cond=above, in1=call("linear", in_=x, a=numbers(0), b=numbers(0.5)), in2=x)
+            for index in (0, 8):
+                x = call("rank", in_=x, width=3, height=3, index=index)
+            return x.copy_memory()
         x = call("conv", in_=images[0], mask=box, precision=Vips.Precision.INTEGER)
         x = call("conv", in_=x, mask=sobel, precision=Vips.Precision.INTEGER)
         x = call("relational_const", in_=x, relational=Vips.OperationRelational.MORE, c=numbers(40))
@@ -230,33 +250,35 @@ COLOURS = {"chain": "#d1495b", "calls": "#1b6ca8", "OpenCV": "#5a8f3c", "libvips
 
 def draw(pictures):
     """Nanoseconds to a pixel over the side, both by their logarithms; dashed on two threads."""
-    wide, high, low, top = 380, 300, 0.05, 20
+    wide, high, low, top = 480, 310, 0.05, 20
     shown = [name for name in TITLES if name in pictures]
+    all_high = 30 + high * math.ceil(len(shown) / 2)
 
-    def x(side, k):
-        return k * wide + 50 + math.log2(side / 512) / math.log2(12000 / 512) * (wide - 75)
+    def x(side):
+        return 50 + math.log2(side / 512) / math.log2(12000 / 512) * (wide - 75)
 
     def y(value):
-        return 60 + math.log(top / min(max(value, low), top)) / math.log(top / low) * (high - 60)
+        return 30 + math.log(top / min(max(value, low), top)) / math.log(top / low) * (high - 60)
 
-    out = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{wide * len(shown)}" height="{high + 30}" font-family="sans-serif" '
-           'font-size="12">', f'<rect width="{wide * len(shown)}" height="{high + 30}" fill="white"/>']
+    out = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{2 * wide}" height="{all_high}" font-family="sans-serif" '
+           'font-size="12">', f'<rect width="{2 * wide}" height="{all_high}" fill="white"/>']
     for k, (way, colour) in enumerate(COLOURS.items()):
         out.append(f'<line x1="{50 + k * 110}" y1="16" x2="{74 + k * 110}" y2="16" stroke="{colour}" stroke-width="2"/>'
                    f'<text x="{80 + k * 110}" y="20">{way}</text>')
     out.append(f'<text x="{60 + len(COLOURS) * 110}" y="20">dashed: two threads; nanoseconds to a pixel</text>')
     for k, name in enumerate(shown):
-        out.append(f'<text x="{k * wide + 50}" y="46">{TITLES[name]}</text>')
+        out += [f'<g transform="translate({k % 2 * wide} {30 + k // 2 * high})">', f'<text x="50" y="18">{TITLES[name]}</text>']
         for g in (0.05, 0.1, 0.2, 0.5, 1, 2, 5, 10, 20):
-            out.append(f'<line x1="{k * wide + 50}" y1="{y(g):.1f}" x2="{k * wide + wide - 25}" y2="{y(g):.1f}" stroke="#ddd"/>'
-                       f'<text x="{k * wide + 44}" y="{y(g) + 4:.1f}" text-anchor="end">{g}</text>')
+            out.append(f'<line x1="50" y1="{y(g):.1f}" x2="{wide - 25}" y2="{y(g):.1f}" stroke="#ddd"/>'
+                       f'<text x="44" y="{y(g) + 4:.1f}" text-anchor="end">{g}</text>')
         for side in (512, 1024, 2048, 4096, 12000):
-            out.append(f'<text x="{x(side, k):.1f}" y="{high + 18}" text-anchor="middle">{side}</text>')
+            out.append(f'<text x="{x(side):.1f}" y="{high - 12}" text-anchor="middle">{side}</text>')
         for way, times in pictures[name]["times"].items():
             colour, threads = COLOURS[way[:-2]], way[-1]
-            line = " ".join(f"{x(int(s), k):.1f},{y(t * 1e6 / int(s) ** 2):.1f}" for s, t in times.items())
+            line = " ".join(f"{x(int(s)):.1f},{y(t * 1e6 / int(s) ** 2):.1f}" for s, t in times.items())
             dash = ' stroke-dasharray="5 4"' if threads == "2" else ""
             out.append(f'<polyline points="{line}" fill="none" stroke="{colour}" stroke-width="2"{dash}/>')
+        out.append("</g>")
     DRAWING.write_text("\n".join([*out, "</svg>", ""]))
 
 
