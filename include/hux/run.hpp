@@ -524,11 +524,11 @@ class plan {
       store& own = stores_[i];
       const value& v = value_of(own);
       own.behind = std::max(own.behind, -own.ahead);
-      const bool plain = own.ahead == 0 && own.behind == 0 && own.before == 0 && !own.frame;
-      if (own.place == store::in_ring && plain && own.input < 0) {
-        if (v.output)
+      // Where no row is read in a later band.
+      if (own.place == store::in_ring && own.ahead + own.behind == 0 && !own.frame && own.input < 0) {
+        if (v.output && own.ahead == 0 && own.before == 0)
           own.place = store::in_output;
-        else if (v.own == v.pixel)
+        else if (!v.output && v.own == v.pixel)
           own.place = store::for_band;  // what is not processed stays 0 where it has a place
       }
       own.several = v.planes > 1;
@@ -560,12 +560,13 @@ class plan {
       if (own.place != store::for_band) continue;
       auto slot =
           std::find_if(slots_.begin(), slots_.end(), [&](const auto& s) { return s.until < static_cast<int>(t); });
-      if (slot == slots_.end()) slot = slots_.insert(slots_.end(), {0, 0, 0});
+      if (slot == slots_.end()) slot = slots_.insert(slots_.end(), {0, 0, 0, 0});
       slot->until = std::max(own.last_task, static_cast<int>(t));
       slot->pitch = std::max(slot->pitch, own.pitch);
+      slot->more = std::max(slot->more, std::int64_t{own.ahead} + own.before);
       own.at = static_cast<std::size_t>(slot - slots_.begin());
     }
-    for (const auto& slot : slots_) per_row += slot.pitch;
+    for (const auto& slot : slots_) per_row += slot.pitch, fixed += slot.pitch * slot.more;
     rows_ = rows > 0 ? rows
                      : static_cast<int>(std::clamp<std::int64_t>((kCache - fixed) / per_row,
                                                                  windows_ ? kLeastRowsOfWindows : 1, 4096));
@@ -576,7 +577,11 @@ class plan {
       bytes += more;
       return static_cast<std::size_t>(begin);
     };
-    for (auto& slot : slots_) slot.at = taken(slot.pitch * rows_);
+    for (auto& slot : slots_) {
+      const std::int64_t most = std::min(rows_ + slot.more, std::int64_t{size_.height});
+      if (slot.pitch * most > PTRDIFF_MAX / 4 - bytes) return status::no_mem;
+      slot.at = taken(slot.pitch * most);
+    }
     std::int64_t unseen = 0;
     for (store& own : stores_) {
       if (own.place == store::for_band) own.at = slots_[own.at].at;
@@ -729,7 +734,7 @@ class plan {
 
   struct slot {
     int until;
-    std::int64_t pitch;
+    std::int64_t pitch, more;  // more: rows of the first band beyond its own
     std::size_t at;
   };
 
