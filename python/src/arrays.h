@@ -114,6 +114,7 @@ struct View {
     }
     high += size;
     if (layout == kAC4 && !hasFourth(from)) layout = kNoLayout;
+    if (!height || !width) layPlain();  // strides are nothing to go by there
     return true;
   }
 

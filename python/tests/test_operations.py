@@ -167,6 +167,8 @@ def test_what_is_refused_says_why():
             (lambda: hux.add(a, a, shift=2**40), ValueError, "32 bits"),
             (lambda: hux.add(a, a, shift=2**70), ValueError, "32 bits"),
             (lambda: hux.add([[1]], 1), TypeError, "an array is expected"),
+            (lambda: hux.set(1, out=np.zeros((4, 0, 3), np.uint8)), hux.BadSizeError, "set: "),
+            (lambda: hux.add(np.zeros((0, 5), np.uint8), 1), hux.BadSizeError, "add: "),
             (lambda: hux.add(a[:0], a[:0]), hux.BadSizeError, "add: .*huxiAdd_8u_C1RSfs")):
         with pytest.raises(error, match=text):
             call()
