@@ -101,7 +101,12 @@ for _own in _hux.operations:
 
 
 def __getattr__(name):
-    """What the library says of itself, when it is asked."""
+    """What the library says of itself, and modules that not all need, when they are asked for."""
+    if name in ("c", "dask"):
+        try:
+            return _importlib.import_module(f"hux.{name}")
+        except ModuleNotFoundError as error:
+            raise AttributeError(f"hux.{name} needs {error.name}") from error
     if name == "library_version":
         from . import c
         return c.huxiGetLibVersion().contents.versionText.decode()
