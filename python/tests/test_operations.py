@@ -197,7 +197,8 @@ def test_forms_that_messages_list_are_taken(constant):
             return operation.which(*[image] * (rule["sources"] - numbers), *[1] * numbers, **options)
 
         message, given = "", ""
-        for odd in (np.zeros(shape, t) for t in (np.float64, np.int8, hux.complex_int16) for shape in ((4, 4, 2), (4, 4), 4)):
+        shapes, types = ((4, 4, 2), (4, 4), 4), (np.float64, np.int8, hux.complex_int16)
+        for odd in (np.zeros(shape, dtype) for dtype in types for shape in shapes):
             try:
                 which(odd)
             except TypeError as error:
