@@ -163,11 +163,12 @@ void swapRow(const Element<W>* src, Element<W>* dst, Index n, const Shuffles<L, 
   const auto move = [&]<typename S::Mode M>(std::integral_constant<typename S::Mode, M>, Index left) {
     shuffles.template move<M>(src + i * L::channels, dst + i * L::channels, left);
   };
-  if constexpr (kPicks && !simd::kMasks) {
-    if constexpr (L::channels == 3)
-      i = swapThirds<W>(src, dst, n, order, streaming);
-    else
-      i = swapColours<W>(src, dst, n, order);
+  // Bytes are chosen slowly where vectors have 16 of them.
+  constexpr bool byThirds = L::channels == 3 && (sizeof(W) > 1 || kLaneBytes > 16);
+  if constexpr (kPicks && !simd::kMasks && byThirds) {
+    i = swapThirds<W>(src, dst, n, order, streaming);
+  } else if constexpr (kPicks && !simd::kMasks && L::channels == 4) {
+    i = swapColours<W>(src, dst, n, order);
   } else if constexpr (simd::kPermutes && (S::whole || simd::kMasks)) {
     const std::integral_constant<typename S::Mode, S::Part> part;
     if constexpr (S::whole && simd::kStreams && simd::kMasks) {

@@ -162,9 +162,10 @@ template <int N>
 inline constexpr bool kByPlanes<Repeated, Interleaved<N>, N> = (N == 3 || N == 4) && !simd::kPermutes;
 
 // Moves groups of them, as long as those are whole, and returns the number of pixels moved. The first pixels, up to a
-// boundary, go one by one where the others are streamed.
+// boundary, go one by one where the others are streamed. Planes are not: several lines at once that are not full yet
+// are more than stores past the cache can wait for.
 template <class W, class Src, class Dst, int Taken, class SrcRow, class DstRow>
-Index moveByPlanes(const SrcRow& src, const DstRow& dst, Index n, bool streaming) {
+Index moveByPlanes(const SrcRow& src, const DstRow& dst, Index n, [[maybe_unused]] bool streaming) {
   constexpr int bytes = sizeof(W);
   constexpr Index group = kLaneBytes / bytes;
   // Window w of vector k: of planes they follow each other, of pixels a group of 16 bytes for each channel does.
@@ -185,10 +186,14 @@ Index moveByPlanes(const SrcRow& src, const DstRow& dst, Index n, bool streaming
     }
     return i;
   };
-  const Index head = streaming ? Dst::toBoundary(dst) : -1;
-  if (head < 0 || head > n) return groups(std::false_type{}, 0);
-  moveApart<Src, Dst, Taken>(src, dst, 0, head);
-  return groups(std::true_type{}, head);
+  if constexpr (std::is_same_v<Dst, Interleaved<Dst::stride>>) {
+    const Index head = streaming ? Dst::toBoundary(dst) : -1;
+    if (head >= 0 && head <= n) {
+      moveApart<Src, Dst, Taken>(src, dst, 0, head);
+      return groups(std::true_type{}, head);
+    }
+  }
+  return groups(std::false_type{}, 0);
 }
 
 // Moves `Taken` elements of each of n pixels of type W. Destinations of which every byte is written can be streamed.
