@@ -19,6 +19,7 @@ arrays are the caller's affair, as in C.
 import ctypes
 import json
 from pathlib import Path
+from typing import Any
 
 from ._where import CORE, IMAGES
 
@@ -34,7 +35,7 @@ _NUMBERS = {"char": ctypes.c_char, "const char*": ctypes.c_char_p, "int": ctypes
 _CODES = {"8u": ("|u1", "|b1"), "8s": ("|i1",), "16u": ("<u2",), "16s": ("<i2",), "32u": ("<u4",), "32s": ("<i4",),
           "int": ("<i4",), "64s": ("<i8",), "32f": ("<f4",), "64f": ("<f8",), "16sc": ("<i2",), "32sc": ("<i4",),
           "32fc": ("<c8",), "64fc": ("<c16",)}
-_types = dict(_NUMBERS)
+_types: dict[str, Any] = dict(_NUMBERS)
 
 
 class _Record(ctypes.Structure):

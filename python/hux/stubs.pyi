@@ -7,6 +7,7 @@ from typing import Any, Literal, NamedTuple
 import numpy as np
 from numpy.typing import ArrayLike, DTypeLike, NDArray
 
+from . import c as c
 from ._chain import chain as chain
 from ._plans import DCT as DCT
 from ._plans import DFT as DFT

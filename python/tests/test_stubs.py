@@ -35,6 +35,7 @@ lowest, highest = hux.min_max(a)
 plan = hux.FFT((16, 16), norm="ortho")
 e = plan.forward(np.zeros((16, 16), np.float32))
 names: tuple[str, ...] = hux.add.members
+count: int = hux.c.huxGetThreadCount()
 g = hux.chain(lambda a: hux.not_(hux.add(a, 1)), rows=16)(a, threads=1)
 with hux.threads(1):
     f = hux.match(a, a[2:5, 2:5], method="ncc")
