@@ -15,13 +15,13 @@ template <class T, int C>
 using Alike = std::conditional_t<std::is_floating_point_v<T>, Unlike<T, C>, Numbers<T, C>>;
 
 #define LIST(...) __VA_ARGS__
-#define CASE(Dst, text, name, types, t, d, l, c, masked, ...)                                                   \
-  add<Windowed<Hux##t, c>, Dst<Hux##d, c>>(text "_" #types "_" #l "R", Shape::Same,                             \
+#define CASE(Dst, size, name, types, t, d, l, c, masked, ...)                                                   \
+  add<Windowed<Hux##t, c>, Dst<Hux##d, c>>("Filter" #name "_" #types "_" #l "R" size, Shape::Same,              \
                                            RUN(huxiFilter##name##_##types##_##l##R(SRC, DST, ROI LIST masked)), \
                                            __VA_ARGS__);
-#define PLAIN(Dst, name, types, t, d, l, c, ...) CASE(Dst, #name, name, types, t, d, l, c, (), __VA_ARGS__)
+#define PLAIN(Dst, name, types, t, d, l, c, ...) CASE(Dst, "", name, types, t, d, l, c, (), __VA_ARGS__)
 #define SIZED(Dst, name, n, types, t, d, l, c, ...) \
-  CASE(Dst, #name #n, name, types, t, d, l, c, (, huxMskSize##n##x##n), __VA_ARGS__)
+  CASE(Dst, ", " #n "x" #n, name, types, t, d, l, c, (, huxMskSize##n##x##n), __VA_ARGS__)
 
 #define PEER_OF(name, call) PEER(name, const cv::Mat& src = o.src.mat; cv::Mat& dst = o.dst.mat; call)
 #define SOBEL(dx, dy, n) PEER_OF("Sobel", cv::Sobel(src, dst, dst.depth(), dx, dy, n))
