@@ -748,8 +748,8 @@ class plan {
   std::vector<slot> slots_;
   int rows_ = 1;
   bool windows_ = false;
-  std::int64_t work_ = 0,
-               seam_ = 0;  // bytes that the calls make, windows counted four times; rows around a share that they need
+  std::int64_t work_ = 0;  // bytes that the calls make, windows counted four times
+  std::int64_t seam_ = 0;  // rows around a share that they need
   std::size_t bytes_ = 0, unseen_at_ = 0, first_output_ = 0;
 };
 

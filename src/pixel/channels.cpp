@@ -91,7 +91,7 @@ class Shuffles {
 };
 
 // Pixels of four elements where no store has a mask: as many as fill a vector, whose colours are stored. Returns the
-// number of pixels moved, which the last one is not one of: its alpha is not read.
+// number of pixels moved, never all of them: the last one's alpha is not read.
 template <class W>
 Index swapColours(const Element<W>* src, Element<W>* dst, Index n, ChannelOrder order) {
   constexpr Index pixels = kLaneBytes / Index(4 * sizeof(W));
