@@ -323,6 +323,9 @@ class plan {
       if (!apply(own, t, 0, in, out)) return false;
       if (call.measured >= 0) own.tallies[at(call.measured)]->clear();
     }
+    // What that row made a call warn of is not what the image holds.
+    if (!own.clean) std::fill(own.statuses.begin(), own.statuses.end(), status::ok);
+    own.clean = true;
     return true;
   }
 

@@ -198,6 +198,11 @@ def test_warnings_come_once_for_each_call():
         warnings.simplefilter("ignore")
         same(result, hux.div(hux.div(a, b), b))
         chain(np.ones_like(a), np.ones_like(b))
+    # Nor where a call behind an output has all calls look at their arguments ahead of the work.
+    chain = hux.chain(lambda a, b: (c := hux.div(a, b), hux.filter_box(c, (3, 3))))
+    with warnings.catch_warnings():
+        warnings.simplefilter("error")
+        chain(np.ones_like(a), np.ones_like(b))
 
 
 def test_threads_and_pickles():
