@@ -35,8 +35,10 @@ inline Gray scanned(const Gray& page) {
   std::uint32_t seed = 3;
   hux::add_rand_gauss_direct(out, 0, 4, seed);
   std::minstd_rand random(11);
-  for (int i = 0; i < page.width() * page.height() / 400; ++i)
-    *out.at(int(random() % unsigned(page.width())), int(random() % unsigned(page.height()))) = 10;
+  for (int i = 0; i < page.width() * page.height() / 400; ++i) {
+    const int x = int(random() % unsigned(page.width()));  // ahead of y
+    *out.at(x, int(random() % unsigned(page.height()))) = 10;
+  }
   return out;
 }
 
