@@ -14,8 +14,9 @@ import unittest
 from pathlib import Path
 from urllib.parse import unquote, urlsplit
 
-from PIL import Image
+from PIL import Image, ImageChops, ImageStat
 
+ROOT = Path(__file__).resolve().parent.parent.parent
 SITE = Path()
 
 
@@ -75,11 +76,24 @@ class Pages(unittest.TestCase):
             text = page.read_text()
             for language in ("c", "cpp", "python"):
                 self.assertIn(f'class="highlight-{language} ', text, page.name)
+            self.assertTrue('class="formula"' in text or 'class="highlight-none' in text, f"{page.name}: no formula")
             for file in Page(text.split('class="run"')[1]).pictures if 'class="run"' in text else []:
                 with Image.open(page.parent / file) as image:
                     self.assertGreater(len(set(image.getdata())), 1, f"{page.name}: {file} is blank")
                 drawn += 1
         self.assertGreater(drawn, 200)
+
+    def test_the_scanned_page_is_shown(self):
+        front = Page((SITE / "index.html").read_text())
+        self.assertIn("page.jpg", [Path(p).name for p in front.pictures])
+        gallery = Page((SITE / "gallery.html").read_text())
+        self.assertIn("#clean-page", gallery.links[:gallery.links.index("#straightening-in-python") + 1])
+
+    def test_pictures_of_the_tree_are_those_drawn(self):
+        drawn = Image.open(SITE / "_images" / "strip.jpg").convert("L")
+        kept = Image.open(ROOT / "docs" / "images" / "strip.jpg").convert("L")
+        difference = ImageStat.Stat(ImageChops.difference(drawn, kept)) if drawn.size == kept.size else None
+        self.assertTrue(difference and difference.mean[0] < 2, "docs/images is old: scripts/demo --docs renews it")
 
     def test_size(self):
         self.assertLess(sum(f.stat().st_size for f in SITE.rglob("*") if f.is_file()), 20 << 20)
@@ -105,14 +119,21 @@ class Browser(unittest.TestCase):
         self.assertGreater(len(set(seen.getdata())), 100)
 
     def test_phones_and_the_dark(self):
-        for page in ("families/Add.html", "families/AlphaComp.html", "gallery.html"):
-            narrow = picture(page, 500, 900)
-            self.assertEqual(narrow.width, 500)
+        # A phone is narrower than the narrowest window.
+        frames = SITE / "phone.html"
+        pages = ("index.html", "families/Add.html", "families/AlphaComp.html", "gallery.html")
+        frames.write_text('<body style="margin: 0">' + "".join(
+            f'<iframe src="{page}" width=390 height=800 style="border: 0; float: left"></iframe>' for page in pages))
+        try:
+            phones = picture("phone.html", 390 * len(pages), 800)
+        finally:
+            frames.unlink()
+        for i, page in enumerate(pages):
             # Nothing is wider than the page: it would be scrolled sideways, and the right edge would show text.
-            edge = narrow.crop((496, 0, 500, 900)).getdata()
+            edge = phones.crop((390 * i + 386, 60, 390 * i + 390, 800)).getdata()
             self.assertLess(len(set(edge)), 8, page)
 
-        # The theme that a reader has chosen; a browser without a window has no way to prefer one.
+        # The theme that a reader has chosen.
         def brightness(theme):
             page = SITE / "families" / f"{theme}.html"
             text = (SITE / "families" / "Add.html").read_text()
@@ -123,7 +144,11 @@ class Browser(unittest.TestCase):
                 return picture(f"families/{theme}.html", 900, 600).convert("L").resize((1, 1)).getpixel((0, 0))
             finally:
                 page.unlink()
-        self.assertLess(brightness("dark") + 100, brightness("light"))
+        light = brightness("light")
+        self.assertLess(brightness("dark") + 100, light)
+        # Or that of the reader's system.
+        dark = picture("families/Add.html", 900, 600, "--blink-settings=preferredColorScheme=0")
+        self.assertLess(dark.convert("L").resize((1, 1)).getpixel((0, 0)) + 100, light)
 
 
 if __name__ == "__main__":
