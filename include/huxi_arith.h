@@ -984,7 +984,7 @@ HUX_API HuxStatus huxiSqrt_32f_C3IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize ro
 HUX_API HuxStatus huxiSqrt_32f_AC4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
 HUX_API HuxStatus huxiSqrt_32f_C4IR(Hux32f* pSrcDst, int srcDstStep, HuxiSize roiSize);
 
-/* Exp: e to the power of the element, times 2^-scaleFactor.
+/* Exp: the exponential, e to the power of the element, times 2^-scaleFactor.
  * On 8u, 0 at scaleFactor 1 gives 1, a tie that goes up.
  * Checks, in order: null pointers (huxStsNullPtr), width or height below 1 (huxStsBadSize), a step below 1
  * (huxStsBadStep). */

@@ -5,11 +5,17 @@
 
   function plain(text) { return text.toLowerCase().replace(/_/g, ""); }
 
+  // A family whose sentence has the words comes behind all names.
+  function described(entry, words) {
+    var text = entry[1] === "family" ? plain(entry[3]) : "";
+    return words.every(function (word) { return text.indexOf(word) >= 0; }) ? 9000 : -1;
+  }
+
   // The better the lower: the whole name, its start, the start of a word, anywhere; families ahead of their members.
   // Of several words each is somewhere in the name, and the first counts.
   function rank(entry, words) {
     var name = plain(entry[0]);
-    if (!words.every(function (word) { return name.indexOf(word) >= 0; })) return -1;
+    if (!words.every(function (word) { return name.indexOf(word) >= 0; })) return described(entry, words);
     var at = name.indexOf(words[0]);
     var place = name === words[0] ? 0 : at === 0 ? 1 : /^hux[is]?$/.test(name.slice(0, at)) ? 2 : 3;
     return place * 1000 + (entry[1] === "family" ? 0 : 500) + Math.min(name.length, 400);
