@@ -191,7 +191,7 @@ requires exists_either<members::sqrt<T, C>, members::sqrt_in_place<T, C>>
                                                   dst.step(), dst.size());
 }
 
-// huxiExp: e to the power of the element, times 2^-scaleFactor.
+// huxiExp: the exponential, e to the power of the element, times 2^-scaleFactor.
 template <class T, int C>
 requires exists<members::exp<T, C>>
 [[nodiscard]] status exp(source<T, C> src, view<T, C> dst,
