@@ -47,7 +47,8 @@ function(hux_add_objects name arch)
     string(TOUPPER ${part} list)
     add_library(${name}_${part} OBJECT ${HUX_${list}_SOURCES})
     target_include_directories(${name}_${part} PRIVATE ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/src)
-    target_compile_options(${name}_${part} PRIVATE ${HUX_LIBRARY_FLAGS} $<$<BOOL:${arch}>:-march=${arch}>)
+    target_compile_options(${name}_${part} PRIVATE ${HUX_OPTIMISATION} ${HUX_LIBRARY_FLAGS}
+                                                   $<$<BOOL:${arch}>:-march=${arch}>)
     target_compile_definitions(${name}_${part} PRIVATE $<$<PLATFORM_ID:Windows>:HUX_BUILDS_${list}>)
     target_link_libraries(${name}_${part} PRIVATE hux_build_flags hux_sanitizers hux_threads)
     set_target_properties(${name}_${part} PROPERTIES POSITION_INDEPENDENT_CODE ON CXX_VISIBILITY_PRESET hidden
