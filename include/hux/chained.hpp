@@ -3,6 +3,7 @@
 #ifndef HUX_CHAINED_HPP
 #define HUX_CHAINED_HPP
 
+#include "arith.hpp"
 #include "measures.hpp"
 #include "pixel.hpp"
 #include "run.hpp"
@@ -313,6 +314,16 @@ class chain_calls : public detail::chain_base {
                  return nothrow::copy(in[0].as<const T, C>(), out.as<T, C>(), {in[1].as<const std::uint8_t, 1>()});
                })),
            to);
+  }
+
+  // Of two's complement, sign and magnitude: an image of its own, where the call works in place.
+  template <class T, int C>
+  requires exists<members::complement_in_place<T, C>>
+  [[nodiscard]] node<T, C> complement(node<T, C> src) {
+    return recorded<T, C>("complement", {part(src)}, detail::work([](const detail::band* in, const detail::band& out) {
+                            over<T, C>(*in, out);
+                            return nothrow::complement(out.as<T, C>());
+                          }));
   }
 
   // Other layouts: copy<planar<3>>(interleaved), copy<3>(planes), copy<1>(pixels.channel(2)), copy<one_of<3>>(plane).

@@ -77,6 +77,7 @@ def test_masks_planes_channels_and_alpha():
     check(masked, a, b, m)
     check(lambda a, b: (hux.add(a, b, alpha="keep"), hux.filter_median(hux.sub(a, b, alpha="keep"), 3, alpha="keep")), a, b)
     check(lambda a: hux.filter_box(hux.copy(a[..., 1]), (5, 3)), a)
+    check(lambda a: hux.complement(hux.complement(a)), pixels((33, 20), np.int32, 9))
     rgb = a[..., :3].copy()
     check(lambda a: hux.filter_max(hux.swap_channels(a, (2, 1, 0)), (3, 1)), rgb)
     planes = [pixels((33, 20), np.uint8, k) for k in range(4)]

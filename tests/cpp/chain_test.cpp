@@ -62,6 +62,7 @@ TEST(Chain, PointwiseCallsBranchesAndTypes) {
       image<u8, 3> sum(size), out(size), expected_sum(size), expected(size);
       image<float, 3> real(size), expected_real(size);
       image<u8, 1> mask(size), expected_mask(size);
+      auto words = noise<std::int32_t, 1>(size, 3), magnitudes = words;
       hux::chain c;
       auto x = c.input(a), y = c.input(b);
       auto t = c.add(x, y, {.shift = 1});
@@ -70,6 +71,7 @@ TEST(Chain, PointwiseCallsBranchesAndTypes) {
       c.output(c.xor_(u, t), out);
       c.output(c.convert<float>(u), real);
       c.output(c.compare(u, t, hux::cmp_op::greater), mask);
+      c.output(c.complement(c.input(words)), words);
       EXPECT_EQ(c.run(run), status::ok);
 
       hux::add(a, b, expected_sum, {.shift = 1});
@@ -78,6 +80,8 @@ TEST(Chain, PointwiseCallsBranchesAndTypes) {
       hux::convert(expected, expected_real);
       hux::compare(expected, expected_sum, expected_mask, hux::cmp_op::greater);
       hux::xor_(expected, expected_sum, expected);
+      hux::complement(magnitudes);
+      EXPECT_TRUE(equal(words, magnitudes));
       EXPECT_TRUE(equal(sum, expected_sum) && equal(out, expected) && equal(real, expected_real) &&
                   equal(mask, expected_mask))
           << size.width << " by " << size.height << ", threads " << run.threads << ", rows " << run.rows;
