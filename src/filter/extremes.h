@@ -92,54 +92,57 @@ void extremes3x3(Window<T> window, Index neighbour, const std::array<Element<T>*
   });
 }
 
-// Two rows of them by columns, from windows without NaN: the extremes of columns are kept, and serve three windows
-// each.
-template <class Pick, class Store, class T>
-void extremesOfColumns(Window<T> window, Index neighbour, const std::array<Element<T>*, 2>& dst, Index count) {
+// Rows of them by columns: the extremes of columns are kept, and serve three windows each. Parts of a row whose windows
+// have a NaN are left to the order that a NaN asks for.
+template <class Pick, class Store, class T, std::size_t rows>
+void extremesOfColumns(Window<T> window, Index neighbour, const std::array<Element<T>*, rows>& dst, Index count) {
+  static_assert(rows % 2 == 0);
   using V = Lanes<T, laneCount<T>>;
-  constexpr Index strip = 512, lanes = lanesIn<V>;
+  constexpr Index strip = 512, line = strip + 2 * 4, lanes = lanesIn<V>;
   const Pick pick;
-  Element<T> columns[2][strip + 2 * 4];
+  Element<T> columns[rows][line];
   for (Index x = 0; x < count; x += strip) {
     // A short rest begins earlier, at a pixel, and finds some elements again.
     const Index first = x > 0 && count - x < lanes ? x - 16 : x, n = std::min(count - first, strip);
-    alongRows<V>(sourceRows<4>(Window<T>{window.first + first, window.step}, 0), n + 2 * neighbour,
-                 [=, upper = columns[0], lower = columns[1]](const auto& rows, Index i) {
-                   const auto cell = [&](std::size_t j) { return loadLanes<V>(rows[j] + i); };
-                   const V between = pick(cell(1), cell(2));
-                   storeLanes(upper + i, pick(cell(0), between));
-                   storeLanes(lower + i, pick(between, cell(3)));
-                 });
-    for (std::size_t r = 0; r < 2; ++r)
-      coverRow<lanes>(n, [=, from = columns[r], to = dst[r] + first](Index i) {
-        const V v = pick(splat<V>(Pick::template limit<T>), loadLanes<V>(from + i));
-        storePixels<Store>(
-            to, i, pick(pick(v, loadLanes<V>(from + i + neighbour)), loadLanes<V>(from + i + 2 * neighbour)), n);
-      });
+    Window<T> part = {window.first + first, window.step};
+    const auto find = [pick, to = columns[0]](const auto& sources, Index i, auto found) {
+      std::array<V, rows + 2> cells;
+      for (std::size_t j = 0; j < rows + 2; ++j) cells[j] = loadLanes<V>(sources[j] + i);
+      for (std::size_t r = 0; r < rows; r += 2) {
+        // What two windows share, which is also where both are limited.
+        const V between = pick(splat<V>(Pick::template limit<T>), pick(cells[r + 1], cells[r + 2]));
+        storeLanes(to + Index(r) * line + i, pick(cells[r], between));
+        storeLanes(to + Index(r + 1) * line + i, pick(between, cells[r + 3]));
+      }
+      for (std::size_t j = 0; j < rows + 2; j += 2) found |= unordered(cells[j], cells[j + 1]);
+      return found;
+    };
+    const auto found = foldRows<V>(sourceRows<rows + 2>(part, 0), n + 2 * neighbour, V{} != V{}, find);
+    const bool ordered = !anyHolds(found);
+    for (std::size_t r = 0; r < rows; ++r, part.first = part[1])
+      if (ordered)
+        coverRow<lanes>(n, [=, from = columns[r], to = dst[r] + first](Index i) {
+          const auto column = [=](Index k) { return loadLanes<V>(from + i + k * neighbour); };
+          storePixels<Store>(to, i, pick(pick(column(0), column(1)), column(2)), n);
+        });
+      else
+        extremes3x3<Pick, Order::kColumns, Store>(part, neighbour, std::array{dst[r] + first}, n);
   }
 }
 
-// A region of them: two rows at a time share the source rows between.
+// A region of them: rows that are found together share the source rows between.
 template <class Pick, Order order, class Store, class T>
 void extremes3x3(WindowRows<T> src, Rows<T> dst, Index neighbour, Index count, Index height) {
-  using V = Lanes<T, laneCount<T>>;
-  constexpr bool columns = order == Order::kColumns && std::is_floating_point_v<T>;
-  const auto anyNaNIn = [=](Index row) { return anyNaN<V>(src.row(row).first, count + 2 * neighbour); };
   Index y = 0;
-  bool below = columns && height > 1 && (anyNaNIn(0) || anyNaNIn(1));  // whether there is NaN in the last two rows seen
-  for (; y + 2 <= height; y += 2) {
-    const std::array pair{dst.row(y), dst.row(y + 1)};
-    const Window<T> window = src.row(y);
-    if constexpr (columns) {
-      const bool above = below;
-      below = anyNaNIn(y + 2) || anyNaNIn(y + 3);
-      if (!above && !below) {
-        extremesOfColumns<Pick, Store>(window, neighbour, pair, count);
-        continue;
-      }
-    }
-    extremes3x3<Pick, order, Store>(window, neighbour, pair, count);
+  if constexpr (order == Order::kColumns && std::is_floating_point_v<T>) {
+    for (; y + 4 <= height; y += 4)
+      extremesOfColumns<Pick, Store>(src.row(y), neighbour,
+                                     std::array{dst.row(y), dst.row(y + 1), dst.row(y + 2), dst.row(y + 3)}, count);
+    for (; y + 2 <= height; y += 2)
+      extremesOfColumns<Pick, Store>(src.row(y), neighbour, std::array{dst.row(y), dst.row(y + 1)}, count);
   }
+  for (; y + 2 <= height; y += 2)
+    extremes3x3<Pick, order, Store>(src.row(y), neighbour, std::array{dst.row(y), dst.row(y + 1)}, count);
   if (y < height) extremes3x3<Pick, order, Store>(src.row(y), neighbour, std::array{dst.row(y)}, count);
 }
 

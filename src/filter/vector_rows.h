@@ -57,10 +57,11 @@ struct SourceRow {
 };
 inline constexpr Index kWidestMargin = 20;  // five pixels of four elements
 
-// body(rows, i) for vectors V at i that cover `count` elements, as coverRow does, with the starts of the source rows,
-// of which no more is read than told. Rows of less than a vector are seen as copies with readable memory behind them.
-template <class V, std::size_t Count, class T, class Body>
-void alongRows(const std::array<SourceRow<T>, Count>& sources, Index count, Body body) {
+// body(rows, i, found) for vectors V at i that cover `count` elements, as coverRow does, with the starts of the source
+// rows, of which no more is read than told, and with what the body before gave; gives what the last one does. Rows of
+// less than a vector are seen as copies with readable memory behind them.
+template <class V, std::size_t Count, class T, class Found, class Body>
+Found foldRows(const std::array<SourceRow<T>, Count>& sources, Index count, Found found, Body body) {
   constexpr int lanes = lanesIn<V>;
   std::array<const Element<T>*, Count> rows;
   Element<T> narrow[Count][lanes + kWidestMargin];
@@ -71,7 +72,20 @@ void alongRows(const std::array<SourceRow<T>, Count>& sources, Index count, Body
       std::copy_n(rows[j], count + sources[j].margin, narrow[j]);
       rows[j] = narrow[j];
     }
-  coverRow<lanes>(count, [rows, body](Index i) { body(rows, i); });
+  // By value, as the bodies are.
+  const auto at = [rows, body](Index i, Found found) { return body(rows, i, found); };
+  Index i = 0;
+  for (; i + lanes <= count; i += lanes) found = at(i, found);
+  if (i < count) found = at(std::max<Index>(count - lanes, 0), found);
+  return found;
+}
+// body(rows, i) where nothing is given on.
+template <class V, std::size_t Count, class T, class Body>
+void alongRows(const std::array<SourceRow<T>, Count>& sources, Index count, Body body) {
+  foldRows<V>(sources, count, nullptr, [body](const auto& rows, Index i, std::nullptr_t) {
+    body(rows, i);
+    return nullptr;
+  });
 }
 
 // The rows of a window of a fixed height, in each of which it reaches `margin` elements beyond the row's own.
