@@ -216,6 +216,7 @@ struct store {
   int left = 0, top = 0, right = 0, bottom = 0;  // what lies around the image
   const step* frame = nullptr;                   // whose border that is
   std::int64_t row = 0, pitch = 0;               // bytes of a row, and of those of all planes
+  int margin = 0;                                // bytes of a row before its first pixel
   int rows = 0;                                  // that there is memory for
   std::size_t at = 0;
   int input = -1;            // of which input these are copies
@@ -288,7 +289,7 @@ class plan {
     own.stores.resize(stores_.size());
     for (std::size_t i = 0; i < stores_.size(); ++i) {
       const store& s = stores_[i];
-      own.stores[i] = {own.memory + s.at + std::ptrdiff_t{s.left} * value_of(s).pixel, s.pitch};
+      own.stores[i] = {own.memory + s.at + s.margin, s.pitch};
     }
     point(own);
   }
@@ -536,8 +537,12 @@ class plan {
       }
       own.several = v.planes > 1;
       own.handed_out = v.output && own.place == store::in_ring;
-      const std::int64_t pixels = std::int64_t{own.left} + size_.width + own.right;
-      own.row = (pixels * v.pixel + 63) / 64 * 64;
+      // Rows begin on cache lines. They are an odd number of lines apart, as neighbours a power of two apart would
+      // drive each other from the cache.
+      const auto lines = [&](std::int64_t pixels) { return (pixels * v.pixel + 63) / 64; };
+      if (lines(own.left) > INT_MAX / 64) return status::no_mem;
+      own.margin = static_cast<int>(lines(own.left)) * 64;
+      own.row = ((lines(own.left) + lines(std::int64_t{size_.width} + own.right)) | 1) * 64;
       own.pitch = own.row * v.planes;
       if (own.pitch > INT_MAX) return status::no_mem;
       if (own.place == store::in_ring)
@@ -703,19 +708,16 @@ class plan {
   void outside(const share& own, int index, int y) const {
     const store& s = stores_[at(index)];
     const int pixel = value_of(s).pixel, taken = inside(y, size_.height, s.frame->rule);
-    std::byte* row = own.stores[at(index)].row(y) - std::ptrdiff_t{s.left} * pixel;
+    std::byte* row = own.stores[at(index)].row(y);
     if (taken < 0) {
-      const int count = s.left + size_.width + s.right;
       for (int p = 0; p < planes(s); ++p)
-        for (int x = 0; x < count; ++x)
+        for (int x = -s.left; x < size_.width + s.right; ++x)
           std::memcpy(row + s.row * p + std::ptrdiff_t{x} * pixel, s.frame->outside, static_cast<std::size_t>(pixel));
     } else if (s.input >= 0 && !s.caught) {
-      for (int p = 0; p < planes(s); ++p)
-        std::memcpy(row + s.row * p + std::ptrdiff_t{s.left} * pixel, input_row(s, taken, p), length(s));
-      sides(s, row + std::ptrdiff_t{s.left} * pixel);
+      for (int p = 0; p < planes(s); ++p) std::memcpy(row + s.row * p, input_row(s, taken, p), length(s));
+      sides(s, row);
     } else {
-      std::memcpy(row, own.stores[at(index)].row(taken) - std::ptrdiff_t{s.left} * pixel,
-                  static_cast<std::size_t>(s.pitch));
+      std::memcpy(row - s.margin, own.stores[at(index)].row(taken) - s.margin, static_cast<std::size_t>(s.pitch));
     }
   }
 
