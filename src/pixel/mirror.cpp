@@ -86,7 +86,7 @@ struct Group {
 template <class L, class W>
 struct LaneGroup {
   static constexpr bool serves =
-      L::processed == L::channels && L::channels != 3 && simd::kBytes == 16 && kLaneBytes == 32;
+      L::processed == L::channels && L::channels != 3 && simd::kBytes == 16 && kLaneBytes <= 32 && kPicks;
   static constexpr int bytes = L::channels * int(sizeof(W)), vector = int(sizeof(simd::Quads));
   static constexpr Index pixels = 2 * vector / bytes;
   static constexpr auto pick = [] {
