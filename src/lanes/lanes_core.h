@@ -8,12 +8,7 @@
 #include <type_traits>
 
 #include "core/layout.h"
-
-#if defined(__x86_64__)
-#include <immintrin.h>
-#elif defined(__aarch64__)
-#include <arm_neon.h>
-#endif
+#include "lanes/registers.h"
 
 namespace hux {
 

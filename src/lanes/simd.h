@@ -7,12 +7,7 @@
 #include <utility>
 
 #include "core/rows.h"
-
-#if defined(__SSE2__)
-#include <immintrin.h>
-#elif defined(__aarch64__)
-#include <arm_neon.h>
-#endif
+#include "lanes/registers.h"
 
 namespace hux::simd {
 
