@@ -41,6 +41,13 @@ def test_example(program, tmp_path):
     assert (tmp_path / drawn).stat().st_size > 10000
 
 
+def test_the_first_page_runs():
+    names = {"hux": hux, "scan": np.random.default_rng(2).integers(0, 256, (60, 80), np.uint8)}
+    for shown in re.findall(r"^```python\n(.*?)^```", (ROOT / "docs" / "site" / "index.md").read_text(), re.M | re.S):
+        exec(shown, names)
+    assert names["image"][240, 320].tolist() == [250, 180, 30]
+
+
 @pytest.mark.parametrize("family", [name for name, example in SHOWN.items() if "python" in example])
 @pytest.mark.filterwarnings("error")
 def test_shown(family):
