@@ -110,17 +110,33 @@ struct PassLoops {
       return ByRows();
   }
 
+  // Goes down some vectors beside each other.
+  template <int vectors>
+  static void column(const Element<T>* src, Index distance, Element<D>* dst, const PassBlock& block) {
+    const Element<T>*centre = src, *newest = advance(src, -(height / 2) * block.srcStep);
+    const auto pixels = [distance](const Element<T>* row, int v) { return P{row + v * lanes, distance}; };
+    decltype(start()) kept[vectors] = {};
+    const auto down = [&](const Element<T>*& row) { row = advance(row, block.srcStep); };
+    for (int j = 0; j + 1 < height; ++j, down(newest))
+      for (int v = 0; v < vectors; ++v) kept[v].add(pixels(newest, v));
+    for (Index y = 0; y < block.rows; ++y, down(newest), down(centre), dst = advance(dst, block.dstStep))
+      for (int v = 0; v < vectors; ++v)
+        storeLanes(dst + v * lanes, Lanes<D, lanes>(kept[v].next(pixels(newest, v), pixels(centre, v))));
+  }
+  // Two vectors together are a cache line of most images, or half of one. Where rows are a power of two apart, a line
+  // is driven out by those of other rows before it is needed again.
   static void run(const Element<T>* src, Index distance, Element<D>* dst, PassBlock block) {
-    const Index above = height / 2;
-    for (Index i = -block.lead; i < block.n; i += lanes) {
+    constexpr Index pair = 2 * lanes;
+    for (Index i = -block.lead; i < block.n;) {
       const Index at = std::min(std::max<Index>(i, 0), block.n - lanes);
-      P centre{src + at, distance}, newest{advance(src + at, -above * block.srcStep), distance};
-      const auto down = [&](P& pixels) { pixels.first = advance(pixels.first, block.srcStep); };
-      auto rows = start();
-      for (int j = 0; j + 1 < height; ++j, down(newest)) rows.add(newest);
-      Element<D>* to = dst + at;
-      for (Index y = 0; y < block.rows; ++y, down(newest), down(centre), to = advance(to, block.dstStep))
-        storeLanes(to, Lanes<D, lanes>(rows.next(newest, centre)));
+      const bool first = reinterpret_cast<std::uintptr_t>(dst + at) / sizeof(D) % pair < lanes;
+      if (first && i >= 0 && i + pair <= block.n) {
+        column<2>(src + at, distance, dst + at, block);
+        i += pair;
+      } else {
+        column<1>(src + at, distance, dst + at, block);
+        i += lanes;
+      }
     }
   }
   static constexpr Passes<T, D> passes = {height, lanes, run};
