@@ -250,51 +250,143 @@ inline int inside(std::int64_t index, int n, border rule) {
   }
 }
 
-// A copy of an image with a frame around it. Where the image is empty it is left as it is, for the callee to judge.
+// Copies of an image, or of parts of it, with a frame around them.
 class frame {
  public:
   template <class T, int C>
-  status make(view<const T, C>& source, reach r, border rule, const void* value) {
-    if (rule == border::surroundings || source.empty()) return status::ok;
-    const void* first = source.data();
-    int step = source.step();
-    status made = make(first, step, source.size(), static_cast<int>(sizeof(T)) * elements_of(C), r, rule, value);
-    if (made == status::ok) source = view<const T, C>(static_cast<const T*>(first), step, source.size());
-    return made;
+  frame(view<const T, C> source, reach around, border rule, const void* value)
+      : first_(reinterpret_cast<const std::byte*>(source.data())),
+        step_(source.step()),
+        size_(source.size()),
+        pixel_(static_cast<int>(sizeof(T)) * elements_of(C)),
+        left_(at_least(around.left, 0)),
+        top_(at_least(around.top, 0)),
+        right_(at_least(around.right, 0)),
+        bottom_(at_least(around.bottom, 0)),
+        rule_(rule),
+        value_(value) {}
+
+  // Puts a copy of the whole image in its place. Where the image is empty it is left as it is, for the callee to judge.
+  template <class T, int C>
+  status replace(view<const T, C>& source) {
+    if (rule_ == border::surroundings || source.empty()) return status::ok;
+    const rect whole = {0, 0, size_.width, size_.height};
+    const status held = hold(whole);
+    if (held == status::ok) source = copy<T, C>(whole);
+    return held;
+  }
+
+  // Memory for the copy of a part.
+  status hold(rect part) {
+    const std::int64_t row = row_of(part), rows = rows_of(part);
+    if (row > INT_MAX || rows > INT_MAX) return status::no_mem;
+    if (row * rows <= held_) return status::ok;
+    memory_ = memory(static_cast<std::size_t>(row * rows));
+    held_ = memory_ ? row * rows : 0;
+    return memory_ ? status::ok : status::no_mem;
+  }
+  // The copy, for which there is memory. It replaces the one before.
+  template <class T, int C>
+  view<const T, C> copy(rect part) {
+    const std::int64_t row = row_of(part), rows = rows_of(part);
+    const std::int64_t x0 = part.x - left_, x1 = part.x + std::int64_t{part.width} + right_;
+    const std::int64_t in0 = x0 < 0 ? 0 : x0, in1 = x1 < size_.width ? x1 : size_.width;
+    for (std::int64_t y = 0; y < rows; ++y) {
+      std::byte* out = memory_.data() + y * row - x0 * pixel_;
+      const int from = inside(part.y - top_ + y, size_.height, rule_);
+      const std::byte* in = first_ + std::ptrdiff_t{step_} * (from < 0 ? 0 : from);
+      auto put = [&](std::int64_t x) {
+        const int column = from < 0 ? -1 : inside(x, size_.width, rule_);
+        const void* taken = column < 0 ? value_ : in + std::ptrdiff_t{column} * pixel_;
+        std::memcpy(out + x * pixel_, taken, static_cast<std::size_t>(pixel_));
+      };
+      for (std::int64_t x = x0; x < in0; ++x) put(x);
+      if (from < 0)
+        for (std::int64_t x = in0; x < in1; ++x) put(x);
+      else
+        std::memcpy(out + in0 * pixel_, in + in0 * pixel_, static_cast<std::size_t>((in1 - in0) * pixel_));
+      for (std::int64_t x = in1; x < x1; ++x) put(x);
+    }
+    const std::byte* first = memory_.data() + top_ * row + left_ * pixel_;
+    return view<const T, C>(reinterpret_cast<const T*>(first), row, {part.width, part.height});
+  }
+
+  // The part that windows see without its surroundings, where the image is large enough for a copy of its edges to be
+  // less work than one of all; else it is empty. Edges at the sides are a cache line wide at least.
+  rect middle() const {
+    const std::int64_t line = at_least(64 / pixel_, 1);
+    const std::int64_t left = left_ > 0 ? at_least(left_, line) : 0, right = right_ > 0 ? at_least(right_, line) : 0;
+    if (std::int64_t{size_.width} * size_.height * pixel_ < kLarge || size_.width <= 2 * (left + right) ||
+        size_.height <= 2 * (top_ + bottom_))
+      return {};
+    return {static_cast<int>(left), static_cast<int>(top_), static_cast<int>(size_.width - left - right),
+            static_cast<int>(size_.height - top_ - bottom_)};
   }
 
  private:
-  status make(const void*& source, int& step, extent size, int pixel, reach r, border rule, const void* value) {
-    const std::int64_t left = r.left > 0 ? r.left : 0, top = r.top > 0 ? r.top : 0;
-    const std::int64_t right = r.right > 0 ? r.right : 0, bottom = r.bottom > 0 ? r.bottom : 0;
-    const std::int64_t row = (left + size.width + right) * pixel, rows = top + size.height + bottom;
-    if (row > INT_MAX || rows > INT_MAX) return status::no_mem;
-    memory_ = memory(static_cast<std::size_t>(row * rows));
-    if (!memory_) return status::no_mem;
-    for (std::int64_t y = 0; y < rows; ++y) {
-      std::byte* out = memory_.data() + y * row;
-      const int from = inside(y - top, size.height, rule);
-      const std::byte* in = static_cast<const std::byte*>(source) + std::ptrdiff_t{step} * (from < 0 ? 0 : from);
-      auto put = [&](std::int64_t x) {
-        const int column = from < 0 ? -1 : inside(x - left, size.width, rule);
-        const void* taken = column < 0 ? value : in + std::ptrdiff_t{column} * pixel;
-        std::memcpy(out + x * pixel, taken, static_cast<std::size_t>(pixel));
-      };
-      const std::int64_t width = left + size.width + right;
-      for (std::int64_t x = 0; x < left; ++x) put(x);
-      if (from < 0)
-        for (std::int64_t x = left; x < left + size.width; ++x) put(x);
-      else
-        std::memcpy(out + left * pixel, in, static_cast<std::size_t>(size.width) * static_cast<std::size_t>(pixel));
-      for (std::int64_t x = left + size.width; x < width; ++x) put(x);
-    }
-    source = memory_.data() + top * row + left * pixel;
-    step = static_cast<int>(row);
-    return status::ok;
-  }
+  static constexpr std::int64_t kLarge = 4 << 20;  // bytes; copies of less stay in the cache
 
+  static std::int64_t at_least(std::int64_t number, std::int64_t least) { return number < least ? least : number; }
+  std::int64_t row_of(rect part) const { return (left_ + part.width + right_) * pixel_; }
+  std::int64_t rows_of(rect part) const { return top_ + part.height + bottom_; }
+
+  const std::byte* first_;
+  int step_;
+  extent size_;
+  int pixel_;
+  std::int64_t left_, top_, right_, bottom_;
+  border rule_;
+  const void* value_;
   memory memory_;
+  std::int64_t held_ = 0;
 };
+
+// Whether rows of whole elements go down in memory and do not overlap.
+template <class T, int C>
+bool plain(view<T, C> image) {
+  constexpr int element = sizeof(T);
+  return image.data() && image.step() % element == 0 && image.step() / element / elements_of(C) >= image.width();
+}
+// Whether two such images lie behind each other.
+template <class S, int CS, class T, int C>
+bool apart(view<const S, CS> a, view<T, C> b) {
+  const auto begin_a = reinterpret_cast<std::uintptr_t>(a.data()), begin_b = reinterpret_cast<std::uintptr_t>(b.data());
+  const auto bytes = [](const auto& v) {
+    return static_cast<std::uintptr_t>(v.step()) * static_cast<std::uintptr_t>(v.height());
+  };
+  return plain(a) && plain(b) && (begin_a + bytes(a) <= begin_b || begin_b + bytes(b) <= begin_a);
+}
+
+// A window over a source that goes on beyond its edges as the rule says: call(source, destination) on a copy with a
+// frame. Where pixels depend on nothing but their windows (local), only the edges of a large source are copied.
+template <class S, int CS, class T, int C, class Call>
+status windowed(view<const S, CS> source, view<T, C> destination, reach around, border rule, const void* value,
+                bool local, const Call& call) {
+  const extent size = source.size();
+  frame framed(source, around, rule, value);
+  const bool by_parts = local && rule != border::surroundings && apart(source, destination);
+  const rect middle = by_parts ? framed.middle() : rect{};
+  if (middle.width == 0) {
+    const status held = framed.replace(source);
+    return held == status::ok ? call(source, destination) : held;
+  }
+  const int right = middle.x + middle.width, bottom = middle.y + middle.height;
+  const rect edges[] = {{0, 0, size.width, middle.y},
+                        {0, bottom, size.width, size.height - bottom},
+                        {0, middle.y, middle.x, middle.height},
+                        {right, middle.y, size.width - right, middle.height}};
+  // A call that fails does so before it writes, and the first one tells of all.
+  for (const rect& edge : edges)
+    if (const status held = framed.hold(edge); held != status::ok) return held;
+  status first = call(source.roi(middle), destination.roi(middle));
+  for (const rect& edge : edges) {
+    if (edge.width == 0 || edge.height == 0) continue;
+    if (static_cast<int>(first) < 0) break;
+    const status found = call(framed.template copy<S, CS>(edge), destination.roi(edge));
+    if (static_cast<int>(found) < 0 || first == status::ok) first = found;
+  }
+  return first;
+}
 
 // A pixel of a constant, with an element for alpha where there is one.
 template <class T, int C>

@@ -26,36 +26,6 @@
 
 namespace hux {
 
-namespace detail {
-// Functions whose sums of floats run on from the first row of a call or of a thread.
-template <auto>
-inline constexpr bool begins_anew = false;
-template <>
-inline constexpr bool begins_anew<huxiFilterBox_16s_C4R> = true;
-template <>
-inline constexpr bool begins_anew<huxiFilterBox_32f_C1R> = true;
-template <>
-inline constexpr bool begins_anew<huxiFilterBox_32f_C3R> = true;
-template <>
-inline constexpr bool begins_anew<huxiFilterBox_32f_AC4R> = true;
-template <>
-inline constexpr bool begins_anew<huxiFilterBox_32f_C4R> = true;
-template <>
-inline constexpr bool begins_anew<huxiFilterLowpass_32f_C1R> = true;
-template <>
-inline constexpr bool begins_anew<huxiFilterLowpass_32f_C3R> = true;
-template <>
-inline constexpr bool begins_anew<huxiFilterLowpass_32f_AC4R> = true;
-template <>
-inline constexpr bool begins_anew<huxiFilterHipass_32f_C1R> = true;
-template <>
-inline constexpr bool begins_anew<huxiFilterHipass_32f_C3R> = true;
-template <>
-inline constexpr bool begins_anew<huxiFilterHipass_32f_C4R> = true;
-template <>
-inline constexpr bool begins_anew<huxiFilterHipass_32f_AC4R> = true;
-}  // namespace detail
-
 // A member whose bits do not depend on how rows are shared.
 template <auto Function>
 concept steady = exists<Function> && !detail::begins_anew<Function>;

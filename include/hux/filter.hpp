@@ -29,17 +29,18 @@ requires exists<members::filter_box<T, C>>
       return detail::call<members::filter_box_in_place<T, C>>(detail::at(dst), dst.step(), dst.size(), mask_size,
                                                               anchor);
   }
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(
-          src,
-          {detail::wide(anchor.x), detail::wide(anchor.y), detail::wide(mask_size.width) - 1 - detail::wide(anchor.x),
-           detail::wide(mask_size.height) - 1 - detail::wide(anchor.y)},
-          options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::filter_box<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(), dst.size(),
-                                                 mask_size, anchor);
+  return detail::windowed(
+      src, dst,
+      {detail::wide(anchor.x), detail::wide(anchor.y), detail::wide(mask_size.width) - 1 - detail::wide(anchor.x),
+       detail::wide(mask_size.height) - 1 - detail::wide(anchor.y)},
+      options.border, value.elements,
+      !detail::begins_anew<members::filter_box<T, C>> &&
+          (!std::is_same_v<T, std::uint8_t> || (detail::wide(mask_size.width) + 1) * mask_size.height <= 65793),
+      [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_box<T, C>>(detail::at(from), from.step(), detail::at(to), to.step(),
+                                                       to.size(), mask_size, anchor);
+      });
 }
 
 // huxiSumWindowRow: the sum of each channel over maskSize pixels along a row, or down a column, as a float.
@@ -50,14 +51,12 @@ requires exists<members::sum_window_row<C, S>>
   view<const S, C> source = src;
   if (!detail::agree(dst, source)) return status::bad_size;
   const int anchor = detail::anchored(options.anchor, mask_size);
-  detail::frame frame;
   const detail::pixel<S, C> value(options.border_value);
-  if (status s = frame.make(source, {detail::wide(anchor), 0, detail::wide(mask_size) - detail::wide(anchor), 0},
-                            options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::sum_window_row<C, S>>(detail::at(source), source.step(), detail::at(dst), dst.step(),
-                                                     dst.size(), mask_size, anchor);
+  return detail::windowed(source, dst, {detail::wide(anchor), 0, detail::wide(mask_size) - detail::wide(anchor), 0},
+                          options.border, value.elements, false, [&](const auto& from, const auto& to) {
+                            return detail::call<members::sum_window_row<C, S>>(
+                                detail::at(from), from.step(), detail::at(to), to.step(), to.size(), mask_size, anchor);
+                          });
 }
 
 // huxiSumWindowColumn: the sum of each channel over maskSize pixels along a row, or down a column, as a float.
@@ -68,14 +67,12 @@ requires exists<members::sum_window_column<C, S>>
   view<const S, C> source = src;
   if (!detail::agree(dst, source)) return status::bad_size;
   const int anchor = detail::anchored(options.anchor, mask_size);
-  detail::frame frame;
   const detail::pixel<S, C> value(options.border_value);
-  if (status s = frame.make(source, {0, detail::wide(anchor), 0, detail::wide(mask_size) - 1 - detail::wide(anchor)},
-                            options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::sum_window_column<C, S>>(detail::at(source), source.step(), detail::at(dst), dst.step(),
-                                                        dst.size(), mask_size, anchor);
+  return detail::windowed(source, dst, {0, detail::wide(anchor), 0, detail::wide(mask_size) - 1 - detail::wide(anchor)},
+                          options.border, value.elements, false, [&](const auto& from, const auto& to) {
+                            return detail::call<members::sum_window_column<C, S>>(
+                                detail::at(from), from.step(), detail::at(to), to.step(), to.size(), mask_size, anchor);
+                          });
 }
 
 // huxiFilter: convolution with a kernel of the caller's.
@@ -87,17 +84,16 @@ requires exists<members::filter<T, C>>
   if (!detail::agree(dst, src)) return status::bad_size;
   const extent size = kernel.size;
   const point anchor = detail::anchored(options.anchor, size);
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(
-          src,
-          {detail::wide(size.width) - 1 - detail::wide(anchor.x),
-           detail::wide(size.height) - 1 - detail::wide(anchor.y), detail::wide(anchor.x), detail::wide(anchor.y)},
-          options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::filter<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(), dst.size(),
-                                             detail::at(kernel), size, anchor, options.divisor);
+  return detail::windowed(
+      src, dst,
+      {detail::wide(size.width) - 1 - detail::wide(anchor.x), detail::wide(size.height) - 1 - detail::wide(anchor.y),
+       detail::wide(anchor.x), detail::wide(anchor.y)},
+      options.border, value.elements, !detail::begins_anew<members::filter<T, C>>,
+      [&](const auto& from, const auto& to) {
+        return detail::call<members::filter<T, C>>(detail::at(from), from.step(), detail::at(to), to.step(), to.size(),
+                                                   detail::at(kernel), size, anchor, options.divisor);
+      });
 }
 
 // huxiFilter, huxiFilter32f: convolution with a kernel of the caller's.
@@ -109,17 +105,16 @@ requires exists<members::filter_with_kernel<T, C>>
   if (!detail::agree(dst, src)) return status::bad_size;
   const extent size = kernel.size;
   const point anchor = detail::anchored(options.anchor, size);
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(
-          src,
-          {detail::wide(size.width) - 1 - detail::wide(anchor.x),
-           detail::wide(size.height) - 1 - detail::wide(anchor.y), detail::wide(anchor.x), detail::wide(anchor.y)},
-          options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::filter_with_kernel<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                         dst.size(), detail::at(kernel), size, anchor);
+  return detail::windowed(
+      src, dst,
+      {detail::wide(size.width) - 1 - detail::wide(anchor.x), detail::wide(size.height) - 1 - detail::wide(anchor.y),
+       detail::wide(anchor.x), detail::wide(anchor.y)},
+      options.border, value.elements, !detail::begins_anew<members::filter_with_kernel<T, C>>,
+      [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_with_kernel<T, C>>(detail::at(from), from.step(), detail::at(to), to.step(),
+                                                               to.size(), detail::at(kernel), size, anchor);
+      });
 }
 
 // huxiFilterRow: convolution with a kernel of the caller's.
@@ -130,14 +125,14 @@ requires exists<members::filter_row<T, C>>
   if (!detail::agree(dst, src)) return status::bad_size;
   const int size = static_cast<int>(kernel.size());
   const int anchor = detail::anchored(options.anchor, size);
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {detail::wide(size) - 1 - detail::wide(anchor), 0, detail::wide(anchor), 0},
-                            options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::filter_row<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(), dst.size(),
-                                                 detail::address{kernel.data()}, size, anchor, options.divisor);
+  return detail::windowed(src, dst, {detail::wide(size) - 1 - detail::wide(anchor), 0, detail::wide(anchor), 0},
+                          options.border, value.elements, !detail::begins_anew<members::filter_row<T, C>>,
+                          [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_row<T, C>>(
+                                detail::at(from), from.step(), detail::at(to), to.step(), to.size(),
+                                detail::address{kernel.data()}, size, anchor, options.divisor);
+                          });
 }
 
 // huxiFilterRow, huxiFilterRow32f: convolution with a kernel of the caller's.
@@ -148,14 +143,14 @@ requires exists<members::filter_row_with_kernel<T, C>>
   if (!detail::agree(dst, src)) return status::bad_size;
   const int size = static_cast<int>(kernel.size());
   const int anchor = detail::anchored(options.anchor, size);
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {detail::wide(size) - 1 - detail::wide(anchor), 0, detail::wide(anchor), 0},
-                            options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::filter_row_with_kernel<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                             dst.size(), detail::address{kernel.data()}, size, anchor);
+  return detail::windowed(src, dst, {detail::wide(size) - 1 - detail::wide(anchor), 0, detail::wide(anchor), 0},
+                          options.border, value.elements, !detail::begins_anew<members::filter_row_with_kernel<T, C>>,
+                          [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_row_with_kernel<T, C>>(
+                                detail::at(from), from.step(), detail::at(to), to.step(), to.size(),
+                                detail::address{kernel.data()}, size, anchor);
+                          });
 }
 
 // huxiFilterColumn: convolution with a kernel of the caller's.
@@ -166,15 +161,14 @@ requires exists<members::filter_column<T, C>>
   if (!detail::agree(dst, src)) return status::bad_size;
   const int size = static_cast<int>(kernel.size());
   const int anchor = detail::anchored(options.anchor, size);
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {0, detail::wide(size) - 1 - detail::wide(anchor), 0, detail::wide(anchor)},
-                            options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::filter_column<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                    dst.size(), detail::address{kernel.data()}, size, anchor,
-                                                    options.divisor);
+  return detail::windowed(src, dst, {0, detail::wide(size) - 1 - detail::wide(anchor), 0, detail::wide(anchor)},
+                          options.border, value.elements, !detail::begins_anew<members::filter_column<T, C>>,
+                          [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_column<T, C>>(
+                                detail::at(from), from.step(), detail::at(to), to.step(), to.size(),
+                                detail::address{kernel.data()}, size, anchor, options.divisor);
+                          });
 }
 
 // huxiFilterColumn, huxiFilterColumn32f: convolution with a kernel of the caller's.
@@ -185,15 +179,15 @@ requires exists<members::filter_column_with_kernel<T, C>>
   if (!detail::agree(dst, src)) return status::bad_size;
   const int size = static_cast<int>(kernel.size());
   const int anchor = detail::anchored(options.anchor, size);
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {0, detail::wide(size) - 1 - detail::wide(anchor), 0, detail::wide(anchor)},
-                            options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::filter_column_with_kernel<T, C>>(detail::at(src), src.step(), detail::at(dst),
-                                                                dst.step(), dst.size(), detail::address{kernel.data()},
-                                                                size, anchor);
+  return detail::windowed(src, dst, {0, detail::wide(size) - 1 - detail::wide(anchor), 0, detail::wide(anchor)},
+                          options.border, value.elements,
+                          !detail::begins_anew<members::filter_column_with_kernel<T, C>>,
+                          [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_column_with_kernel<T, C>>(
+                                detail::at(from), from.step(), detail::at(to), to.step(), to.size(),
+                                detail::address{kernel.data()}, size, anchor);
+                          });
 }
 
 // huxiFilterPrewittVert: edges between columns (Vert) and between rows (Horiz).
@@ -202,11 +196,13 @@ requires exists<members::filter_prewitt_vert<T, C>>
 [[nodiscard]] status filter_prewitt_vert(source<T, C> src, view<T, C> dst,
                                          const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {1, 1, 1, 1}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_prewitt_vert<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                          dst.size());
+  return detail::windowed(src, dst, {1, 1, 1, 1}, options.border, value.elements,
+                          !detail::begins_anew<members::filter_prewitt_vert<T, C>>,
+                          [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_prewitt_vert<T, C>>(
+                                detail::at(from), from.step(), detail::at(to), to.step(), to.size());
+                          });
 }
 
 // huxiFilterPrewittHoriz: edges between columns (Vert) and between rows (Horiz).
@@ -215,11 +211,13 @@ requires exists<members::filter_prewitt_horiz<T, C>>
 [[nodiscard]] status filter_prewitt_horiz(source<T, C> src, view<T, C> dst,
                                           const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {1, 1, 1, 1}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_prewitt_horiz<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                           dst.size());
+  return detail::windowed(src, dst, {1, 1, 1, 1}, options.border, value.elements,
+                          !detail::begins_anew<members::filter_prewitt_horiz<T, C>>,
+                          [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_prewitt_horiz<T, C>>(
+                                detail::at(from), from.step(), detail::at(to), to.step(), to.size());
+                          });
 }
 
 // huxiFilterSobelVert: edges between columns and between rows, those near the pixel weighted more.
@@ -228,11 +226,13 @@ requires exists<members::filter_sobel_vert<T, C>>
 [[nodiscard]] status filter_sobel_vert(source<T, C> src, view<T, C> dst,
                                        const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {1, 1, 1, 1}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_sobel_vert<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                        dst.size());
+  return detail::windowed(src, dst, {1, 1, 1, 1}, options.border, value.elements,
+                          !detail::begins_anew<members::filter_sobel_vert<T, C>>,
+                          [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_sobel_vert<T, C>>(detail::at(from), from.step(),
+                                                                                  detail::at(to), to.step(), to.size());
+                          });
 }
 
 // huxiFilterSobelVert: edges between columns and between rows, those near the pixel weighted more.
@@ -242,11 +242,13 @@ requires exists<members::filter_sobel_vert_with_mask<C, S>>
                                        const std::type_identity_t<fixed_window<S, C>>& options = {}) {
   view<const S, C> source = src;
   if (!detail::agree(dst, source)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<S, C> value(options.border_value);
-  if (status s = frame.make(source, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_sobel_vert_with_mask<C, S>>(detail::at(source), source.step(), detail::at(dst),
-                                                                  dst.step(), dst.size(), static_cast<int>(mask_size));
+  return detail::windowed(
+      source, dst, {2, 2, 2, 2}, options.border, value.elements,
+      !detail::begins_anew<members::filter_sobel_vert_with_mask<C, S>>, [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_sobel_vert_with_mask<C, S>>(
+            detail::at(from), from.step(), detail::at(to), to.step(), to.size(), static_cast<int>(mask_size));
+      });
 }
 
 // huxiFilterSobelHoriz: edges between columns and between rows, those near the pixel weighted more.
@@ -255,11 +257,13 @@ requires exists<members::filter_sobel_horiz<T, C>>
 [[nodiscard]] status filter_sobel_horiz(source<T, C> src, view<T, C> dst,
                                         const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {1, 1, 1, 1}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_sobel_horiz<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                         dst.size());
+  return detail::windowed(src, dst, {1, 1, 1, 1}, options.border, value.elements,
+                          !detail::begins_anew<members::filter_sobel_horiz<T, C>>,
+                          [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_sobel_horiz<T, C>>(
+                                detail::at(from), from.step(), detail::at(to), to.step(), to.size());
+                          });
 }
 
 // huxiFilterSobelHoriz: edges between columns and between rows, those near the pixel weighted more.
@@ -269,11 +273,13 @@ requires exists<members::filter_sobel_horiz_with_mask<C, S>>
                                         const std::type_identity_t<fixed_window<S, C>>& options = {}) {
   view<const S, C> source = src;
   if (!detail::agree(dst, source)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<S, C> value(options.border_value);
-  if (status s = frame.make(source, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_sobel_horiz_with_mask<C, S>>(detail::at(source), source.step(), detail::at(dst),
-                                                                   dst.step(), dst.size(), static_cast<int>(mask_size));
+  return detail::windowed(
+      source, dst, {2, 2, 2, 2}, options.border, value.elements,
+      !detail::begins_anew<members::filter_sobel_horiz_with_mask<C, S>>, [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_sobel_horiz_with_mask<C, S>>(
+            detail::at(from), from.step(), detail::at(to), to.step(), to.size(), static_cast<int>(mask_size));
+      });
 }
 
 // huxiFilterSobelVertMask: edges between columns and between rows, those near the pixel weighted more.
@@ -282,11 +288,13 @@ requires exists<members::filter_sobel_vert_mask<T, C>>
 [[nodiscard]] status filter_sobel_vert_mask(source<T, C> src, view<T, C> dst, mask_size mask_size,
                                             const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_sobel_vert_mask<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                             dst.size(), static_cast<int>(mask_size));
+  return detail::windowed(
+      src, dst, {2, 2, 2, 2}, options.border, value.elements,
+      !detail::begins_anew<members::filter_sobel_vert_mask<T, C>>, [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_sobel_vert_mask<T, C>>(detail::at(from), from.step(), detail::at(to),
+                                                                   to.step(), to.size(), static_cast<int>(mask_size));
+      });
 }
 
 // huxiFilterSobelHorizMask: edges between columns and between rows, those near the pixel weighted more.
@@ -295,11 +303,13 @@ requires exists<members::filter_sobel_horiz_mask<T, C>>
 [[nodiscard]] status filter_sobel_horiz_mask(source<T, C> src, view<T, C> dst, mask_size mask_size,
                                              const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_sobel_horiz_mask<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                              dst.size(), static_cast<int>(mask_size));
+  return detail::windowed(
+      src, dst, {2, 2, 2, 2}, options.border, value.elements,
+      !detail::begins_anew<members::filter_sobel_horiz_mask<T, C>>, [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_sobel_horiz_mask<T, C>>(detail::at(from), from.step(), detail::at(to),
+                                                                    to.step(), to.size(), static_cast<int>(mask_size));
+      });
 }
 
 // huxiFilterSobelVertSecond: second derivatives across columns, across rows, along the diagonals.
@@ -309,11 +319,13 @@ requires exists<members::filter_sobel_vert_second<T, C, S>>
                                               const std::type_identity_t<fixed_window<S, C>>& options = {}) {
   view<const S, C> source = src;
   if (!detail::agree(dst, source)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<S, C> value(options.border_value);
-  if (status s = frame.make(source, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_sobel_vert_second<T, C, S>>(detail::at(source), source.step(), detail::at(dst),
-                                                                  dst.step(), dst.size(), static_cast<int>(mask_size));
+  return detail::windowed(
+      source, dst, {2, 2, 2, 2}, options.border, value.elements,
+      !detail::begins_anew<members::filter_sobel_vert_second<T, C, S>>, [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_sobel_vert_second<T, C, S>>(
+            detail::at(from), from.step(), detail::at(to), to.step(), to.size(), static_cast<int>(mask_size));
+      });
 }
 
 // huxiFilterSobelHorizSecond: second derivatives across columns, across rows, along the diagonals.
@@ -323,11 +335,13 @@ requires exists<members::filter_sobel_horiz_second<T, C, S>>
                                                const std::type_identity_t<fixed_window<S, C>>& options = {}) {
   view<const S, C> source = src;
   if (!detail::agree(dst, source)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<S, C> value(options.border_value);
-  if (status s = frame.make(source, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_sobel_horiz_second<T, C, S>>(detail::at(source), source.step(), detail::at(dst),
-                                                                   dst.step(), dst.size(), static_cast<int>(mask_size));
+  return detail::windowed(
+      source, dst, {2, 2, 2, 2}, options.border, value.elements,
+      !detail::begins_anew<members::filter_sobel_horiz_second<T, C, S>>, [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_sobel_horiz_second<T, C, S>>(
+            detail::at(from), from.step(), detail::at(to), to.step(), to.size(), static_cast<int>(mask_size));
+      });
 }
 
 // huxiFilterSobelCross: second derivatives across columns, across rows, along the diagonals.
@@ -337,11 +351,13 @@ requires exists<members::filter_sobel_cross<T, C, S>>
                                         const std::type_identity_t<fixed_window<S, C>>& options = {}) {
   view<const S, C> source = src;
   if (!detail::agree(dst, source)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<S, C> value(options.border_value);
-  if (status s = frame.make(source, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_sobel_cross<T, C, S>>(detail::at(source), source.step(), detail::at(dst),
-                                                            dst.step(), dst.size(), static_cast<int>(mask_size));
+  return detail::windowed(
+      source, dst, {2, 2, 2, 2}, options.border, value.elements,
+      !detail::begins_anew<members::filter_sobel_cross<T, C, S>>, [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_sobel_cross<T, C, S>>(detail::at(from), from.step(), detail::at(to),
+                                                                  to.step(), to.size(), static_cast<int>(mask_size));
+      });
 }
 
 // huxiFilterScharrVert: edges with a response that hardly depends on their angle.
@@ -351,11 +367,13 @@ requires exists<members::filter_scharr_vert<T, C, S>>
                                         const std::type_identity_t<fixed_window<S, C>>& options = {}) {
   view<const S, C> source = src;
   if (!detail::agree(dst, source)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<S, C> value(options.border_value);
-  if (status s = frame.make(source, {1, 1, 1, 1}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_scharr_vert<T, C, S>>(detail::at(source), source.step(), detail::at(dst),
-                                                            dst.step(), dst.size());
+  return detail::windowed(source, dst, {1, 1, 1, 1}, options.border, value.elements,
+                          !detail::begins_anew<members::filter_scharr_vert<T, C, S>>,
+                          [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_scharr_vert<T, C, S>>(
+                                detail::at(from), from.step(), detail::at(to), to.step(), to.size());
+                          });
 }
 
 // huxiFilterScharrHoriz: edges with a response that hardly depends on their angle.
@@ -365,11 +383,13 @@ requires exists<members::filter_scharr_horiz<T, C, S>>
                                          const std::type_identity_t<fixed_window<S, C>>& options = {}) {
   view<const S, C> source = src;
   if (!detail::agree(dst, source)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<S, C> value(options.border_value);
-  if (status s = frame.make(source, {1, 1, 1, 1}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_scharr_horiz<T, C, S>>(detail::at(source), source.step(), detail::at(dst),
-                                                             dst.step(), dst.size());
+  return detail::windowed(source, dst, {1, 1, 1, 1}, options.border, value.elements,
+                          !detail::begins_anew<members::filter_scharr_horiz<T, C, S>>,
+                          [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_scharr_horiz<T, C, S>>(
+                                detail::at(from), from.step(), detail::at(to), to.step(), to.size());
+                          });
 }
 
 // huxiFilterRobertsDown: the pixel less its neighbour in the row above, on the left (Down) or on the right (Up).
@@ -378,11 +398,13 @@ requires exists<members::filter_roberts_down<T, C>>
 [[nodiscard]] status filter_roberts_down(source<T, C> src, view<T, C> dst,
                                          const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {1, 1, 1, 1}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_roberts_down<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                          dst.size());
+  return detail::windowed(src, dst, {1, 1, 1, 1}, options.border, value.elements,
+                          !detail::begins_anew<members::filter_roberts_down<T, C>>,
+                          [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_roberts_down<T, C>>(
+                                detail::at(from), from.step(), detail::at(to), to.step(), to.size());
+                          });
 }
 
 // huxiFilterRobertsUp: the pixel less its neighbour in the row above, on the left (Down) or on the right (Up).
@@ -391,11 +413,13 @@ requires exists<members::filter_roberts_up<T, C>>
 [[nodiscard]] status filter_roberts_up(source<T, C> src, view<T, C> dst,
                                        const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {1, 1, 1, 1}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_roberts_up<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                        dst.size());
+  return detail::windowed(src, dst, {1, 1, 1, 1}, options.border, value.elements,
+                          !detail::begins_anew<members::filter_roberts_up<T, C>>,
+                          [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_roberts_up<T, C>>(detail::at(from), from.step(),
+                                                                                  detail::at(to), to.step(), to.size());
+                          });
 }
 
 // huxiFilterLaplace: how far a pixel is above its surroundings.
@@ -405,11 +429,13 @@ requires exists<members::filter_laplace<T, C, S>>
                                     const std::type_identity_t<fixed_window<S, C>>& options = {}) {
   view<const S, C> source = src;
   if (!detail::agree(dst, source)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<S, C> value(options.border_value);
-  if (status s = frame.make(source, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_laplace<T, C, S>>(detail::at(source), source.step(), detail::at(dst), dst.step(),
-                                                        dst.size(), static_cast<int>(mask_size));
+  return detail::windowed(
+      source, dst, {2, 2, 2, 2}, options.border, value.elements, !detail::begins_anew<members::filter_laplace<T, C, S>>,
+      [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_laplace<T, C, S>>(detail::at(from), from.step(), detail::at(to), to.step(),
+                                                              to.size(), static_cast<int>(mask_size));
+      });
 }
 
 // huxiFilterGauss: the mean of the window, weighted by distance.
@@ -418,11 +444,13 @@ requires exists<members::filter_gauss<T, C>>
 [[nodiscard]] status filter_gauss(source<T, C> src, view<T, C> dst, mask_size mask_size,
                                   const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_gauss<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(), dst.size(),
-                                                   static_cast<int>(mask_size));
+  return detail::windowed(src, dst, {2, 2, 2, 2}, options.border, value.elements,
+                          !detail::begins_anew<members::filter_gauss<T, C>>, [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_gauss<T, C>>(detail::at(from), from.step(),
+                                                                             detail::at(to), to.step(), to.size(),
+                                                                             static_cast<int>(mask_size));
+                          });
 }
 
 // huxiFilterLowpass: the mean of the window.
@@ -431,11 +459,13 @@ requires exists<members::filter_lowpass<T, C>>
 [[nodiscard]] status filter_lowpass(source<T, C> src, view<T, C> dst, mask_size mask_size,
                                     const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_lowpass<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                     dst.size(), static_cast<int>(mask_size));
+  return detail::windowed(src, dst, {2, 2, 2, 2}, options.border, value.elements,
+                          !detail::begins_anew<members::filter_lowpass<T, C>>, [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_lowpass<T, C>>(detail::at(from), from.step(),
+                                                                               detail::at(to), to.step(), to.size(),
+                                                                               static_cast<int>(mask_size));
+                          });
 }
 
 // huxiFilterHipass: the pixel, times the number of pixels in the window, less their sum.
@@ -444,11 +474,13 @@ requires exists<members::filter_hipass<T, C>>
 [[nodiscard]] status filter_hipass(source<T, C> src, view<T, C> dst, mask_size mask_size,
                                    const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_hipass<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                    dst.size(), static_cast<int>(mask_size));
+  return detail::windowed(src, dst, {2, 2, 2, 2}, options.border, value.elements,
+                          !detail::begins_anew<members::filter_hipass<T, C>>, [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_hipass<T, C>>(detail::at(from), from.step(),
+                                                                              detail::at(to), to.step(), to.size(),
+                                                                              static_cast<int>(mask_size));
+                          });
 }
 
 // huxiFilterSharpen: the pixel plus an eighth of its 3 by 3 Laplace filter.
@@ -457,11 +489,12 @@ requires exists<members::filter_sharpen<T, C>>
 [[nodiscard]] status filter_sharpen(source<T, C> src, view<T, C> dst,
                                     const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {1, 1, 1, 1}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_sharpen<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                     dst.size());
+  return detail::windowed(src, dst, {1, 1, 1, 1}, options.border, value.elements,
+                          !detail::begins_anew<members::filter_sharpen<T, C>>, [&](const auto& from, const auto& to) {
+                            return detail::call<members::filter_sharpen<T, C>>(detail::at(from), from.step(),
+                                                                               detail::at(to), to.step(), to.size());
+                          });
 }
 
 // huxiFilterMedian: the median of the maskSize.width by maskSize.height values of each channel.
@@ -471,17 +504,16 @@ requires exists<members::filter_median<T, C>>
                                    const std::type_identity_t<window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
   const point anchor = detail::anchored(options.anchor, mask_size);
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(
-          src,
-          {detail::wide(anchor.x), detail::wide(anchor.y), detail::wide(mask_size.width) - 1 - detail::wide(anchor.x),
-           detail::wide(mask_size.height) - 1 - detail::wide(anchor.y)},
-          options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::filter_median<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                    dst.size(), mask_size, anchor);
+  return detail::windowed(
+      src, dst,
+      {detail::wide(anchor.x), detail::wide(anchor.y), detail::wide(mask_size.width) - 1 - detail::wide(anchor.x),
+       detail::wide(mask_size.height) - 1 - detail::wide(anchor.y)},
+      options.border, value.elements, !detail::begins_anew<members::filter_median<T, C>>,
+      [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_median<T, C>>(detail::at(from), from.step(), detail::at(to), to.step(),
+                                                          to.size(), mask_size, anchor);
+      });
 }
 
 // huxiFilterMedianHoriz: the median of a few neighbours in a row, in a column, or in both.
@@ -490,11 +522,13 @@ requires exists<members::filter_median_horiz<T, C>>
 [[nodiscard]] status filter_median_horiz(source<T, C> src, view<T, C> dst, mask_size mask_size,
                                          const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_median_horiz<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                          dst.size(), static_cast<int>(mask_size));
+  return detail::windowed(
+      src, dst, {2, 2, 2, 2}, options.border, value.elements, !detail::begins_anew<members::filter_median_horiz<T, C>>,
+      [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_median_horiz<T, C>>(detail::at(from), from.step(), detail::at(to),
+                                                                to.step(), to.size(), static_cast<int>(mask_size));
+      });
 }
 
 // huxiFilterMedianVert: the median of a few neighbours in a row, in a column, or in both.
@@ -503,11 +537,13 @@ requires exists<members::filter_median_vert<T, C>>
 [[nodiscard]] status filter_median_vert(source<T, C> src, view<T, C> dst, mask_size mask_size,
                                         const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_median_vert<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                         dst.size(), static_cast<int>(mask_size));
+  return detail::windowed(
+      src, dst, {2, 2, 2, 2}, options.border, value.elements, !detail::begins_anew<members::filter_median_vert<T, C>>,
+      [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_median_vert<T, C>>(detail::at(from), from.step(), detail::at(to), to.step(),
+                                                               to.size(), static_cast<int>(mask_size));
+      });
 }
 
 // huxiFilterMedianCross: the median of a few neighbours in a row, in a column, or in both.
@@ -516,11 +552,13 @@ requires exists<members::filter_median_cross<T, C>>
 [[nodiscard]] status filter_median_cross(source<T, C> src, view<T, C> dst, mask_size mask_size,
                                          const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_median_cross<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                          dst.size(), static_cast<int>(mask_size));
+  return detail::windowed(
+      src, dst, {2, 2, 2, 2}, options.border, value.elements, !detail::begins_anew<members::filter_median_cross<T, C>>,
+      [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_median_cross<T, C>>(detail::at(from), from.step(), detail::at(to),
+                                                                to.step(), to.size(), static_cast<int>(mask_size));
+      });
 }
 
 // huxiFilterMedianColor: of the pixels around it, the one whose colour is the nearest to all others.
@@ -529,11 +567,13 @@ requires exists<members::filter_median_color<T, C>>
 [[nodiscard]] status filter_median_color(source<T, C> src, view<T, C> dst, mask_size mask_size,
                                          const std::type_identity_t<fixed_window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {2, 2, 2, 2}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::filter_median_color<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                          dst.size(), static_cast<int>(mask_size));
+  return detail::windowed(
+      src, dst, {2, 2, 2, 2}, options.border, value.elements, !detail::begins_anew<members::filter_median_color<T, C>>,
+      [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_median_color<T, C>>(detail::at(from), from.step(), detail::at(to),
+                                                                to.step(), to.size(), static_cast<int>(mask_size));
+      });
 }
 
 // huxiFilterMin: the least or the greatest value of each channel over the mask.
@@ -543,17 +583,16 @@ requires exists<members::filter_min<T, C>>
                                 const std::type_identity_t<window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
   const point anchor = detail::anchored(options.anchor, mask_size);
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(
-          src,
-          {detail::wide(anchor.x), detail::wide(anchor.y), detail::wide(mask_size.width) - 1 - detail::wide(anchor.x),
-           detail::wide(mask_size.height) - 1 - detail::wide(anchor.y)},
-          options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::filter_min<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(), dst.size(),
-                                                 mask_size, anchor);
+  return detail::windowed(
+      src, dst,
+      {detail::wide(anchor.x), detail::wide(anchor.y), detail::wide(mask_size.width) - 1 - detail::wide(anchor.x),
+       detail::wide(mask_size.height) - 1 - detail::wide(anchor.y)},
+      options.border, value.elements, !detail::begins_anew<members::filter_min<T, C>>,
+      [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_min<T, C>>(detail::at(from), from.step(), detail::at(to), to.step(),
+                                                       to.size(), mask_size, anchor);
+      });
 }
 
 // huxiFilterMax: the least or the greatest value of each channel over the mask.
@@ -563,17 +602,16 @@ requires exists<members::filter_max<T, C>>
                                 const std::type_identity_t<window<T, C>>& options = {}) {
   if (!detail::agree(dst, src)) return status::bad_size;
   const point anchor = detail::anchored(options.anchor, mask_size);
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(
-          src,
-          {detail::wide(anchor.x), detail::wide(anchor.y), detail::wide(mask_size.width) - 1 - detail::wide(anchor.x),
-           detail::wide(mask_size.height) - 1 - detail::wide(anchor.y)},
-          options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::filter_max<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(), dst.size(),
-                                                 mask_size, anchor);
+  return detail::windowed(
+      src, dst,
+      {detail::wide(anchor.x), detail::wide(anchor.y), detail::wide(mask_size.width) - 1 - detail::wide(anchor.x),
+       detail::wide(mask_size.height) - 1 - detail::wide(anchor.y)},
+      options.border, value.elements, !detail::begins_anew<members::filter_max<T, C>>,
+      [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_max<T, C>>(detail::at(from), from.step(), detail::at(to), to.step(),
+                                                       to.size(), mask_size, anchor);
+      });
 }
 
 // huxiErode3x3: the least (Erode3x3) or the greatest value of each channel over the 9 pixels around each pixel.
@@ -586,10 +624,12 @@ requires exists<members::erode3x3<T, C>>
     if (options.border == border::surroundings && detail::same(src, dst))
       return detail::call<members::erode3x3_in_place<T, C>>(detail::at(dst), dst.step(), dst.size());
   }
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {1, 1, 1, 1}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::erode3x3<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(), dst.size());
+  return detail::windowed(src, dst, {1, 1, 1, 1}, options.border, value.elements,
+                          !detail::begins_anew<members::erode3x3<T, C>>, [&](const auto& from, const auto& to) {
+                            return detail::call<members::erode3x3<T, C>>(detail::at(from), from.step(), detail::at(to),
+                                                                         to.step(), to.size());
+                          });
 }
 
 // huxiDilate3x3: the least (Erode3x3) or the greatest value of each channel over the 9 pixels around each pixel.
@@ -602,10 +642,12 @@ requires exists<members::dilate3x3<T, C>>
     if (options.border == border::surroundings && detail::same(src, dst))
       return detail::call<members::dilate3x3_in_place<T, C>>(detail::at(dst), dst.step(), dst.size());
   }
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(src, {1, 1, 1, 1}, options.border, value.elements); s != status::ok) return s;
-  return detail::call<members::dilate3x3<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(), dst.size());
+  return detail::windowed(src, dst, {1, 1, 1, 1}, options.border, value.elements,
+                          !detail::begins_anew<members::dilate3x3<T, C>>, [&](const auto& from, const auto& to) {
+                            return detail::call<members::dilate3x3<T, C>>(detail::at(from), from.step(), detail::at(to),
+                                                                          to.step(), to.size());
+                          });
 }
 
 // huxiErode: the least (Erode) or the greatest value of each channel over the cells that a structuring element
@@ -623,17 +665,16 @@ requires exists<members::erode<T, C>>
       return detail::call<members::erode_in_place<T, C>>(detail::at(dst), dst.step(), dst.size(), detail::at(footprint),
                                                          mask_size, anchor);
   }
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(
-          src,
-          {detail::wide(anchor.x), detail::wide(anchor.y), detail::wide(mask_size.width) - 1 - detail::wide(anchor.x),
-           detail::wide(mask_size.height) - 1 - detail::wide(anchor.y)},
-          options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::erode<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(), dst.size(),
-                                            detail::at(footprint), mask_size, anchor);
+  return detail::windowed(
+      src, dst,
+      {detail::wide(anchor.x), detail::wide(anchor.y), detail::wide(mask_size.width) - 1 - detail::wide(anchor.x),
+       detail::wide(mask_size.height) - 1 - detail::wide(anchor.y)},
+      options.border, value.elements, !detail::begins_anew<members::erode<T, C>>,
+      [&](const auto& from, const auto& to) {
+        return detail::call<members::erode<T, C>>(detail::at(from), from.step(), detail::at(to), to.step(), to.size(),
+                                                  detail::at(footprint), mask_size, anchor);
+      });
 }
 
 // huxiDilate: the least (Erode) or the greatest value of each channel over the cells that a structuring element
@@ -651,17 +692,16 @@ requires exists<members::dilate<T, C>>
       return detail::call<members::dilate_in_place<T, C>>(detail::at(dst), dst.step(), dst.size(),
                                                           detail::at(footprint), mask_size, anchor);
   }
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(
-          src,
-          {detail::wide(anchor.x), detail::wide(anchor.y), detail::wide(mask_size.width) - 1 - detail::wide(anchor.x),
-           detail::wide(mask_size.height) - 1 - detail::wide(anchor.y)},
-          options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::dilate<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(), dst.size(),
-                                             detail::at(footprint), mask_size, anchor);
+  return detail::windowed(
+      src, dst,
+      {detail::wide(anchor.x), detail::wide(anchor.y), detail::wide(mask_size.width) - 1 - detail::wide(anchor.x),
+       detail::wide(mask_size.height) - 1 - detail::wide(anchor.y)},
+      options.border, value.elements, !detail::begins_anew<members::dilate<T, C>>,
+      [&](const auto& from, const auto& to) {
+        return detail::call<members::dilate<T, C>>(detail::at(from), from.step(), detail::at(to), to.step(), to.size(),
+                                                   detail::at(footprint), mask_size, anchor);
+      });
 }
 
 // huxiFilterWiener: removes noise by drawing each pixel towards the mean of its window.
@@ -679,17 +719,15 @@ requires exists<members::filter_wiener<T, C>>
     return static_cast<status>(s);
   const detail::memory buffer(static_cast<std::size_t>(bytes));
   if (!buffer) return status::no_mem;
-  detail::frame frame;
   const detail::pixel<T, C> value(options.border_value);
-  if (status s = frame.make(
-          src,
-          {detail::wide(mask_size.width) - 1 - detail::wide(anchor.x),
-           detail::wide(mask_size.height) - 1 - detail::wide(anchor.y), detail::wide(anchor.x), detail::wide(anchor.y)},
-          options.border, value.elements);
-      s != status::ok)
-    return s;
-  return detail::call<members::filter_wiener<T, C>>(detail::at(src), src.step(), detail::at(dst), dst.step(),
-                                                    dst.size(), mask_size, anchor, detail::at(noise), buffer.at());
+  return detail::windowed(
+      src, dst,
+      {detail::wide(mask_size.width) - 1 - detail::wide(anchor.x),
+       detail::wide(mask_size.height) - 1 - detail::wide(anchor.y), detail::wide(anchor.x), detail::wide(anchor.y)},
+      options.border, value.elements, false, [&](const auto& from, const auto& to) {
+        return detail::call<members::filter_wiener<T, C>>(detail::at(from), from.step(), detail::at(to), to.step(),
+                                                          to.size(), mask_size, anchor, detail::at(noise), buffer.at());
+      });
 }
 
 // huxiConvFull: the convolution of two images, and that part of it where the smaller lies within the larger.

@@ -4250,4 +4250,34 @@ template <> inline constexpr auto malloc_line<cf64> = huxsMalloc_64fc;
 
 }  // namespace hux::members
 
+namespace hux::detail {
+// Windows whose sums of floats run on from the first row of a call or of a thread.
+template <auto>
+inline constexpr bool begins_anew = false;
+template <>
+inline constexpr bool begins_anew<huxiFilterBox_16s_C4R> = true;
+template <>
+inline constexpr bool begins_anew<huxiFilterBox_32f_C1R> = true;
+template <>
+inline constexpr bool begins_anew<huxiFilterBox_32f_C3R> = true;
+template <>
+inline constexpr bool begins_anew<huxiFilterBox_32f_AC4R> = true;
+template <>
+inline constexpr bool begins_anew<huxiFilterBox_32f_C4R> = true;
+template <>
+inline constexpr bool begins_anew<huxiFilterLowpass_32f_C1R> = true;
+template <>
+inline constexpr bool begins_anew<huxiFilterLowpass_32f_C3R> = true;
+template <>
+inline constexpr bool begins_anew<huxiFilterLowpass_32f_AC4R> = true;
+template <>
+inline constexpr bool begins_anew<huxiFilterHipass_32f_C1R> = true;
+template <>
+inline constexpr bool begins_anew<huxiFilterHipass_32f_C3R> = true;
+template <>
+inline constexpr bool begins_anew<huxiFilterHipass_32f_C4R> = true;
+template <>
+inline constexpr bool begins_anew<huxiFilterHipass_32f_AC4R> = true;
+}  // namespace hux::detail
+
 #endif

@@ -256,9 +256,9 @@ class wavelet_forward {
     if (!detail::agree(dst.approx, dst.detail_x, dst.detail_y, dst.detail_xy) ||
         !detail::of_size(src.size(), 2 * detail::wide(dst.approx.width()), 2 * detail::wide(dst.approx.height())))
       return status::bad_size;
-    detail::frame frame;
     const float zero[4] = {};
-    if (status s = frame.make(src, {before_, before_, after_, after_}, options.border, zero); s != status::ok) return s;
+    detail::frame frame(src, {before_, before_, after_, after_}, options.border, zero);
+    if (status s = frame.replace(src); s != status::ok) return s;
     const std::size_t bytes = static_cast<std::size_t>(buffer_size());
     if (options.buffer.data() && options.buffer.size() < bytes) return status::bad_size;
     const detail::memory own(options.buffer.data() ? 0 : bytes);
@@ -298,13 +298,14 @@ class wavelet_inverse {
     if (!detail::agree(src.approx, src.detail_x, src.detail_y, src.detail_xy) ||
         !detail::of_size(dst.size(), 2 * detail::wide(src.approx.width()), 2 * detail::wide(src.approx.height())))
       return status::bad_size;
-    detail::frame frames[4];
-    view<const float, C>* bands[4] = {&src.approx, &src.detail_x, &src.detail_y, &src.detail_xy};
     const float zero[4] = {};
+    const auto framed = [&](const view<const float, C>& band) {
+      return detail::frame(band, {before_, before_, after_, after_}, options.border, zero);
+    };
+    detail::frame frames[4] = {framed(src.approx), framed(src.detail_x), framed(src.detail_y), framed(src.detail_xy)};
+    view<const float, C>* bands[4] = {&src.approx, &src.detail_x, &src.detail_y, &src.detail_xy};
     for (int i = 0; i < 4; ++i)
-      if (status s = frames[i].make(*bands[i], {before_, before_, after_, after_}, options.border, zero);
-          s != status::ok)
-        return s;
+      if (status s = frames[i].replace(*bands[i]); s != status::ok) return s;
     const std::size_t bytes = static_cast<std::size_t>(buffer_size());
     if (options.buffer.data() && options.buffer.size() < bytes) return status::bad_size;
     const detail::memory own(options.buffer.data() ? 0 : bytes);

@@ -146,7 +146,7 @@ void expectFramed(const image<T, C>& a, hux::border rule, hux::values<T, C> valu
 TEST(Front, WindowsFrameTheirSource) {
   for (hux::border rule : {hux::border::replicate, hux::border::constant, hux::border::symmetric,
                            hux::border::reflect101, hux::border::wrap})
-    for (hux::extent size : {hux::extent{17, 6}, hux::extent{1, 5}, hux::extent{3, 1}}) {
+    for (hux::extent size : {hux::extent{17, 6}, hux::extent{1, 5}, hux::extent{3, 1}, hux::extent{1200, 1200}}) {
       const auto a = noise<u8, 3>(size.width, size.height, 12);
       image<u8, 3> own(size);
       hux::filter_box(a, own, {5, 4}, {.anchor = {0, 3}, .border = rule, .border_value = {1, 2, 200}});
