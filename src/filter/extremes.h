@@ -105,7 +105,9 @@ void extremesOfColumns(Window<T> window, Index neighbour, const std::array<Eleme
     // A short rest begins earlier, at a pixel, and finds some elements again.
     const Index first = x > 0 && count - x < lanes ? x - 16 : x, n = std::min(count - first, strip);
     Window<T> part = {window.first + first, window.step};
-    const auto find = [pick, to = columns[0]](const auto& sources, Index i, auto found) {
+    const auto find = [pick, to = columns[0], ahead = dst, first](const auto& sources, Index i, auto found) {
+      // What is written next is asked for meanwhile: the machine does not foresee short pieces of many rows.
+      for (std::size_t r = 0; r < rows; ++r) fetchPiece(ahead[r] + first + i, 1);
       std::array<V, rows + 2> cells;
       for (std::size_t j = 0; j < rows + 2; ++j) cells[j] = loadLanes<V>(sources[j] + i);
       for (std::size_t r = 0; r < rows; r += 2) {
