@@ -220,6 +220,9 @@ struct store {
   int rows = 0;                                  // that there is memory for
   std::size_t at = 0;
   int input = -1;            // of which input these are copies
+  bool edges = false;        // only of its edges, where that is enough: windows read the rest where it stands
+  int first = 0, last = 0;   // pixels of a row that are computed from them at its start and its end
+  int beside = -1;           // an output to which a window of them goes at once
   bool caught = false;       // an input whose rows an output overwrites
   bool several = false;      // planes
   bool handed_out = false;   // also in an image of the caller's
@@ -362,10 +365,14 @@ class plan {
           copy(own, t, from, until);
         } else {
           const step& call = steps_[t.step];
-          band in[4], out;
-          for (int k = 0; k < call.count; ++k) rows_of(own, t.sources[k], call.sources[k], from, until, in[k]);
-          if (t.to >= 0) rows_of(own, t.to, {}, from, until, out);
-          if (!apply(own, t, from, in, out)) return;
+          if (call.windowed && edges_only(stores_[at(t.sources[0])])) {
+            if (!apply_in_parts(own, t, from, until)) return;
+          } else {
+            band in[4], out;
+            for (int k = 0; k < call.count; ++k) rows_of(own, t.sources[k], call.sources[k], from, until, in[k]);
+            if (t.to >= 0) rows_of(own, t.to, {}, from, until, out);
+            if (!apply(own, t, from, in, out)) return;
+          }
         }
         if (t.to < 0) continue;
         own.stores[at(t.to)].next = until;
@@ -381,6 +388,7 @@ class plan {
   // nothing. Windows begin anew with each call, so they have more rows even if some go to the next level.
   static constexpr std::int64_t kCache = 256 << 10;
   static constexpr int kLeastRowsOfWindows = 16;
+  static constexpr int kFarApart = 2048;  // bytes
   static constexpr int kMostThreads = 1024;
   static constexpr std::size_t at(int index) { return static_cast<std::size_t>(index); }
 
@@ -545,6 +553,17 @@ class plan {
       own.row = ((lines(own.left) + lines(std::int64_t{size_.width} + own.right)) | 1) * 64;
       own.pitch = own.row * v.planes;
       if (own.pitch > INT_MAX) return status::no_mem;
+      if (own.place == store::in_ring && own.input >= 0 && !own.caught) {
+        // Copies weigh most where pixels are wide and windows small. Large windows would read their rows several times,
+        // and of bytes the two come out even. Parts at the sides are whole cache lines, and a small part of a row.
+        const std::int64_t line = std::max(1, 64 / v.pixel);
+        const auto part = [&](std::int64_t reach) { return reach > 0 ? (reach + line) / line * line : 0; };
+        const std::int64_t first = part(own.left), last = part(own.right);
+        own.edges = v.pixel >= 4 && std::max(own.left + own.right, own.top + own.bottom) <= 4 &&
+                    size_.width >= 16 * (first + last + own.left + own.right) &&
+                    size_.height > 2 * (std::int64_t{own.top} + own.bottom);
+        if (own.edges) own.first = static_cast<int>(first), own.last = static_cast<int>(last);
+      }
       if (own.place == store::in_ring)
         fixed += own.pitch * (std::int64_t{own.ahead} + own.behind + own.top + own.bottom), windows_ = true;
       seam_ = std::max(seam_, std::int64_t{own.ahead} + own.before);
@@ -560,6 +579,9 @@ class plan {
         const value& made = value_of(stores_[at(t.to >= 0 ? t.to : t.sources[0])]);
         work_ += std::int64_t{steps_[t.step].windowed ? 4 : 1} * made.pixel * made.planes * size_.width * size_.height;
       }
+    for (const task& t : tasks_)
+      if (t.step >= 0 && t.to >= 0 && stores_[at(t.to)].place == store::in_output)
+        stores_[at(t.sources[0])].beside = stores_[at(t.to)].value;
     // Stores for a band alone take turns.
     slots_.clear();
     for (std::size_t t = 0; t < tasks_.size(); ++t) {
@@ -624,6 +646,41 @@ class plan {
     return static_cast<int>(found) >= 0;
   }
 
+  // Whether windows read an input but for its edges. Calls take rows that go down in memory, in whole elements; rows of
+  // the caller's that are powers of two apart at both ends drive each other from the cache.
+  bool edges_only(const store& s) const {
+    const value& v = value_of(s);
+    if (!s.edges || v.in_step % (v.pixel & -v.pixel) != 0 || v.in_step / v.pixel < size_.width) return false;
+    return s.beside < 0 || v.in_step % kFarApart != 0 || values_[s.beside].out_step % kFarApart != 0;
+  }
+  // Rows of it of which all is needed, for windows that reach beyond the first or the last row.
+  bool whole(const store& s, int y) const {
+    return y < s.top + s.bottom || y >= size_.height - s.top - s.bottom || !edges_only(s);
+  }
+  // Takes a band through a window in parts: its edges are read from copies, the rest from the input.
+  bool apply_in_parts(share& own, const task& t, int from, int until) const {
+    const store& s = stores_[at(t.sources[0])];
+    const step& call = steps_[t.step];
+    const auto part = [&](int y, int end, int x, int right, int source) {
+      if (y >= end || x >= right) return true;
+      const auto cut = [&](int index, const part_of_value& of, band& out) {
+        rows_of(own, index, of, y, end, out);
+        out.size.width = right - x;
+        for (int p = 0; p < planes(stores_[at(index)]); ++p)
+          out.data[p] += std::ptrdiff_t{value_of(stores_[at(index)]).pixel} * x;
+      };
+      band in[4], out;
+      for (int k = 0; k < call.count; ++k) cut(k == 0 ? source : t.sources[k], call.sources[k], in[k]);
+      cut(t.to, {}, out);
+      return apply(own, t, y, in, out);
+    };
+    const int top = std::clamp(s.top, from, until), bottom = std::clamp(size_.height - s.bottom, from, until);
+    const int width = size_.width, last = width - s.last, framed = t.sources[0];
+    return part(from, top, 0, width, framed) && part(top, bottom, 0, s.first, framed) &&
+           part(top, bottom, s.first, last, s.input) && part(top, bottom, last, width, framed) &&
+           part(bottom, until, 0, width, framed);
+  }
+
   const std::byte* input_row(const store& s, int y, int plane) const {
     return value_of(s).in[plane] + std::ptrdiff_t{value_of(s).in_step} * y;
   }
@@ -662,7 +719,14 @@ class plan {
     if (until + (until == size_.height ? s.bottom : 0) - first <= s.rows) return;
     const int keep = std::clamp(y - s.behind, first, next);
     std::byte* start = own.memory + s.at;
-    std::memmove(start, start + s.pitch * (keep - first), static_cast<std::size_t>(s.pitch * (next - keep)));
+    if (edges_only(s))
+      for (int k = keep; k < next && keep > first; ++k)
+        for (int p = 0; p < planes(s); ++p) {
+          std::byte* to = start + s.margin + s.pitch * (k - keep) + s.row * p;
+          copy_row(s, to, to + s.pitch * (keep - first), k, true);
+        }
+    else
+      std::memmove(start, start + s.pitch * (keep - first), static_cast<std::size_t>(s.pitch * (next - keep)));
     first = keep;
   }
 
@@ -679,9 +743,23 @@ class plan {
         const std::byte* row = elsewhere      ? seam + s.row * p
                                : s.input >= 0 ? input_row(s, y, p)
                                               : own.stores[at(t.sources[0])].row(y) + stores_[at(t.sources[0])].row * p;
-        std::memcpy(to + s.row * p, row, length(s));
+        copy_row(s, to + s.row * p, row, y, false);
       }
     }
+  }
+  // A row, or of an input of which only edges are needed its two ends, each with what windows at them reach; framed
+  // tells whether what lies around the image goes along.
+  void copy_row(const store& s, std::byte* to, const std::byte* from, int y, bool framed) const {
+    const std::ptrdiff_t pixel = value_of(s).pixel;
+    const int left = framed ? s.left : 0, right = framed ? s.right : 0;
+    const auto put = [&](int x, int end) {  // what lies behind the last pixel's processed elements may not be there
+      const std::ptrdiff_t bytes =
+          end < size_.width || framed ? pixel * (end - x) : std::ptrdiff_t(length(s)) - pixel * x;
+      std::memcpy(to + pixel * x, from + pixel * x, static_cast<std::size_t>(bytes));
+    };
+    if (whole(s, y)) return put(-left, size_.width + right);
+    put(-left, s.first + s.right);
+    put(size_.width - s.last - s.left, size_.width + right);
   }
 
   // What lies around the rows from..until, and above and below the image where they reach its ends.

@@ -52,7 +52,7 @@ using hux::status;
 using u8 = std::uint8_t;
 using s16 = std::int16_t;
 
-const hux::extent kSizes[] = {{1, 1}, {5, 2}, {33, 7}, {17, 64}, {70, 45}, {3, 120}};
+const hux::extent kSizes[] = {{1, 1}, {5, 2}, {33, 7}, {17, 64}, {70, 45}, {3, 120}, {600, 20}};
 const hux::running kRuns[] = {{}, {.rows = 1}, {.threads = 2, .rows = 5}, {.threads = 3, .rows = 16}, {.threads = 2}};
 
 TEST(Chain, PointwiseCallsBranchesAndTypes) {
