@@ -25,7 +25,9 @@ _FUNCTION_NAMES = list(FUNCTIONS)
 _LOCAL = ("alpha_comp", "alpha_premul", "copy", "set", "dup", "zero")
 # Measures that bands add up to, and how: + sums, < the least, > the greatest. Floats tell by their order.
 _MEASURES = {"sum": "+", "count_in_range": "+", "histogram_range": "+", "min": "<", "max": ">", "min_max": "<>"}
-_ADVICE = "is not local, so no chain has it: end the chain before it, and call it on what the chain gives"
+_END = "so no chain has it: end the chain before it, and call it on what the chain gives"
+_ADVICE = "is not local, " + _END
+_IN_ORDER = "depends on the order of the pixels, " + _END
 _TYPES = " B HhIifd"  # of numbers, by Type in table.h
 _LETTERS = {"pSrc": "a", "srcStep": "A", "pDst": "o", "dstStep": "O", "roiSize": "S", "dstRoiSize": "S",
             "pSrcDst": "o", "srcDstStep": "O"}
@@ -129,7 +131,7 @@ class _Recorder:
             alpha = {"alpha": options["alpha"]} if "alpha" in options else {}
             return self.noted("histogram_range", _own["histogram_range"], (arguments[0], lists), alpha, None), levels
         if not (rule.get("local") or name in _LOCAL or name in _MEASURES):
-            refuse(name, _ADVICE, TypeError)
+            refuse(name, self.no_measure(name, arguments) if rule["kind"] == "measure" else _ADVICE, TypeError)
         if rule["kind"] == "window" and options.get("border", "") is None:
             refuse(name, "border=None gives a smaller image, and all of a chain have one size: take a border")
         if rule["kind"] != "window" and any(isinstance(a, np.ndarray) and a.ndim > 1 for a in arguments):
@@ -190,7 +192,7 @@ class _Recorder:
         if bool(a) != ("a" in program) or bool(b) != ("b" in program):
             refuse(name, "an array is no image of the chain: arrays enter by its arguments", TypeError)
         if fields and name != "count_in_range" and name != "histogram_range" and a[0].dtype.kind not in "iu":
-            refuse(name, f"of {a[0].dtype}, where the order of pixels tells, {_ADVICE}", TypeError)
+            refuse(name, f"of {a[0].dtype} {_IN_ORDER}", TypeError)
         offset = channel * a[0].dtype.itemsize if channel is not None else 0
         if fields:
             made, numbers = (), self.numbers(name, fields, result)
@@ -199,6 +201,15 @@ class _Recorder:
             numbers = made = tuple(self.image(p.dtype, p.shape[2:]) for p in planes)
         self.steps.append(_Step(name, index, program, values, a, b, made, mask, offset, start, reach, border, fields, kept))
         return numbers if fields or len(made) > 1 else made[0]
+
+    @staticmethod
+    def no_measure(name, arguments):
+        """Why chains do not have a measure."""
+        kind = next((a.dtype for a in arguments if isinstance(a, Image)), None)
+        if name == "mean" and kind is not None:
+            return f"of {kind} {_IN_ORDER}" if kind.kind not in "iu" else \
+                f"of {kind} is their sum over their number: take hux.sum in the chain, and divide what it gives"
+        return f"is not made of the numbers of bands as {', '.join(_MEASURES)} are, {_END}"
 
     def numbers(self, name, fields, result):
         first = sum(len(step.fields) for step in self.steps)
