@@ -115,6 +115,15 @@ HUX_SELECT(Hux64f, 16, HUX_PD)
 #undef HUX_PS
 #undef HUX_PD
 #undef HUX_SELECT
+#if !defined(__SSE4_1__)
+// What this level has no instruction for, in two: by differences that stop at 0.
+inline Lanes<Hux16u, 8> lesser(Lanes<Hux16u, 8> a, Lanes<Hux16u, 8> b) {
+  return a - Lanes<Hux16u, 8>(_mm_subs_epu16(__m128i(a), __m128i(b)));
+}
+inline Lanes<Hux16u, 8> greater(Lanes<Hux16u, 8> a, Lanes<Hux16u, 8> b) {
+  return b + Lanes<Hux16u, 8>(_mm_subs_epu16(__m128i(a), __m128i(b)));
+}
+#endif
 #endif
 
 }  // namespace hux
