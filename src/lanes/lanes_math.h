@@ -266,6 +266,10 @@ inline Lanes<Hux32f, 8> mulAdd(Lanes<Hux32f, 8> a, Lanes<Hux32f, 8> b, Lanes<Hux
 #elif defined(__SSE2__)
 inline Lanes<Hux32f, 4> squareRoot(Lanes<Hux32f, 4> v) { return _mm_sqrt_ps(v); }
 inline Lanes<Hux64f, 2> squareRoot(Lanes<Hux64f, 2> v) { return _mm_sqrt_pd(v); }
+inline bool allNonZero(Lanes<Hux32f, 4> v) {
+  const __m128 magnitude = _mm_and_ps(v, _mm_castsi128_ps(_mm_set1_epi32(0x7fffffff)));
+  return _mm_movemask_ps(_mm_cmplt_ps(_mm_setzero_ps(), magnitude)) == 0xF;
+}
 #if defined(__SSE4_1__)
 inline Lanes<Hux64s, 2> mulLow(Lanes<Hux64s, 2> a, Lanes<Hux64s, 2> b) {
   return Lanes<Hux64s, 2>(_mm_mul_epi32(__m128i(a), __m128i(b)));
