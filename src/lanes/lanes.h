@@ -115,6 +115,34 @@ requires(sizeof(LaneType<V>) == 4) V mulHigh(V a, V b) {
   return bitsAs<V>(even >> 32 | (odd >> 32 << 32));
 }
 
+// Of 16-bit lanes: the products in lanes of 32 bits. Of 32-bit lanes: the products of what fits 16 bits without a sign.
+template <class V>
+auto wideProducts(V a, V b) {
+  using W = std::conditional_t<std::is_signed_v<LaneType<V>>, Hux32s, Hux32u>;
+  return convert<W>(a) * convert<W>(b);
+}
+template <class V>
+V mulWords(V a, V b) {
+  return a * b;
+}
+#if defined(__SSE2__) && !defined(__AVX2__)
+// Halves of the products, side by side.
+inline auto wideProducts(Lanes<Hux16s, 4> a, Lanes<Hux16s, 4> b) {
+  const __m128i x = detail::registerOf(a), y = detail::registerOf(b);
+  return Lanes<Hux32s, 4>(_mm_unpacklo_epi16(_mm_mullo_epi16(x, y), _mm_mulhi_epi16(x, y)));
+}
+inline auto wideProducts(Lanes<Hux16u, 4> a, Lanes<Hux16u, 4> b) {
+  const __m128i x = detail::registerOf(a), y = detail::registerOf(b);
+  return Lanes<Hux32u, 4>(_mm_unpacklo_epi16(_mm_mullo_epi16(x, y), _mm_mulhi_epu16(x, y)));
+}
+#if !defined(__SSE4_1__)
+inline Lanes<Hux32u, 4> mulWords(Lanes<Hux32u, 4> a, Lanes<Hux32u, 4> b) {
+  const auto x = __m128i(a), y = __m128i(b);
+  return Lanes<Hux32u, 4>(_mm_or_si128(_mm_mullo_epi16(x, y), _mm_slli_epi32(_mm_mulhi_epu16(x, y), 16)));
+}
+#endif
+#endif
+
 namespace detail {
 template <class V>
 inline constexpr std::size_t kVectors = 1;

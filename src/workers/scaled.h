@@ -110,6 +110,15 @@ struct MulOp {
   }
 };
 
+// The exact result in lanes of twice the width.
+template <class Op, class T, class V>
+auto wideExact(V a, V b) {
+  if constexpr (std::is_same_v<Op, MulOp> && sizeof(T) == 2)
+    return wideProducts(a, b);
+  else
+    return Op::exact(convert<Wide<T>>(a), convert<Wide<T>>(b));
+}
+
 // scaleFactor 0.
 template <class Op, class T>
 struct Plain {
@@ -129,7 +138,7 @@ struct Raised {
   auto operator()(V a, V b) const {
     using W = Lanes<Wide<T>, lanes>;
     using U = Lanes<std::make_unsigned_t<Wide<T>>, lanes>;
-    const W v = limited<T>(W(Op::exact(convert<Wide<T>>(a), convert<Wide<T>>(b))));
+    const W v = limited<T>(W(wideExact<Op, T>(a, b)));
     return W(U(v) << std::make_unsigned_t<Wide<T>>(shift));
   }
 };
@@ -141,11 +150,12 @@ struct Rounded {
   using V = Lanes<T, lanes>;
   int scaleFactor;
   auto operator()(V a, V b) const {
-    const auto v = Op::exact(convert<Wide<T>>(a), convert<Wide<T>>(b));
+    const auto v = wideExact<Op, T>(a, b);
+    // Shifted by one bit at least, the result is below half of the range of unsigned lanes.
     if constexpr (HasRoom)
-      return roundShift(v, scaleFactor);
+      return lowerHalf(roundShift(v, scaleFactor));
     else
-      return roundShiftFull(v, scaleFactor);
+      return lowerHalf(roundShiftFull(v, scaleFactor));
   }
 };
 
@@ -186,7 +196,9 @@ struct RoundedProduct {
     const V high = mulHigh(a, b);
     const U low = U(a) * U(b);
     const V quotient = V((U(high) << Hux16u(16 - scaleFactor)) | (low >> Hux16u(scaleFactor)));
-    const V up = V((low & mask) > splat<U>(half) - (U(quotient) & 1));  // -1 where one is added
+    // -1 where one is added; both sides are below 2^15, and so compared as signed numbers, as machines do.
+    using S = Lanes<Hux16s, lanes>;
+    const V up = V(S(low & mask) > S(splat<U>(half) - (U(quotient) & 1)));
     if constexpr (std::is_signed_v<T>)
       return (high >> T(scaleFactor)) == (quotient >> T(15)) ? subSaturated(quotient, up) : (high >> T(15)) ^ T(0x7fff);
     else

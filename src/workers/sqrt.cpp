@@ -54,7 +54,7 @@ struct RootUp {
     using F = Lanes<Hux32f, lanes>;
     const F root = squareRoot(convert<Hux32f>(v)) * factor;
     const U whole = U(convert<Hux32s>(lesser(root, splat<F>(std::numeric_limits<T>::max()))));
-    return Lanes<Hux32s, lanes>(whole - U(U(v) << shift > whole * whole + whole));
+    return Lanes<Hux32s, lanes>(whole - U(U(v) << shift > mulWords(whole, whole) + whole));
   }
 };
 
