@@ -86,7 +86,7 @@ struct Group {
 template <class L, class W>
 struct LaneGroup {
   static constexpr bool serves =
-      L::processed == L::channels && L::channels != 3 && simd::kBytes == 16 && kLaneBytes <= 32 && kPicks;
+      L::processed == L::channels && L::channels != 3 && simd::kBytes == 16 && kLaneBytes <= 32;
   static constexpr int bytes = L::channels * int(sizeof(W)), vector = int(sizeof(simd::Quads));
   static constexpr Index pixels = 2 * vector / bytes;
   static constexpr auto pick = [] {
@@ -99,9 +99,14 @@ struct LaneGroup {
 
   void loadReversed(const Element<W>* src) {
     const auto* from = reinterpret_cast<const std::byte*>(src);
-    const auto order = loadLanes<WindowBytes>(pick.data());
-    low = pickBytes(simd::loadQuads<simd::Quads>(from + 2 * vector - 16, -16), order);
-    high = pickBytes(simd::loadQuads<simd::Quads>(from + vector - 16, -16), order);
+    low = reversed(simd::loadQuads<simd::Quads>(from + 2 * vector - 16, -16));
+    high = reversed(simd::loadQuads<simd::Quads>(from + vector - 16, -16));
+  }
+  static WindowBytes reversed(WindowBytes v) {
+    if constexpr (kPicks)
+      return pickBytes(v, loadLanes<WindowBytes>(pick.data()));
+    else
+      return simd::reversed<bytes>(v);
   }
   void store(Element<W>* dst) const { storeLanes(dst, low), storeLanes(advance(dst, vector), high); }
 };
