@@ -61,11 +61,14 @@ Rule applyToElements(Element<D>* dst, Index elements, Rule rule, Operands... ope
       for (int k = 0; k < joined; ++k) results[std::size_t(k)] = rule(operands.load(i + k * lanes, 0)...);
       put(i, saturate<D>(results));
     }
-  // Short vectors go by two in a turn, for a turn takes two cycles even where there is little to do in it.
+  // Short vectors go by two in a turn, for a turn takes two cycles even where there is little to do in it. Both are
+  // loaded before one is stored, which no compiler may decide to do.
   if constexpr (kLaneBytes == 16 && period == 1 && joined == 1)
-    for (; i + 2 * lanes <= elements; i += 2 * lanes)
-      for (int k = 0; k < 2; ++k)
-        put(i + k * lanes, Lanes<D, lanes>(saturate<D>(rule(operands.load(i + k * lanes, 0)...))));
+    for (; i + 2 * lanes <= elements; i += 2 * lanes) {
+      const Lanes<D, lanes> first(saturate<D>(rule(operands.load(i, 0)...)));
+      const Lanes<D, lanes> second(saturate<D>(rule(operands.load(i + lanes, 0)...)));
+      put(i, first), put(i + lanes, second);
+    }
   for (; i + period * lanes <= elements; i += period * lanes)
     for (int k = 0; k < period; ++k)
       put(i + k * lanes, Lanes<D, lanes>(saturate<D>(rule(operands.load(i + k * lanes, k)...))));
