@@ -21,7 +21,7 @@ HuxStatus zipComplex(const C* pSrc1, int src1Step, const C* pSrc2, int src2Step,
   if (HuxStatus s =
           check(delegated<L>(width(roi)), pointers(pSrc1, pSrc2, pDst), size(roi), steps(src1Step, src2Step, dstStep)))
     return s;
-  withComplexRule<Op, C>(scaleFactor, [&](auto rule) {
+  withComplexRule<Op, C, L>(scaleFactor, [&](auto rule) {
     forEachRow(roi, complexRows<L>(pSrc1, src1Step), complexRows<L>(pSrc2, src2Step), complexRows<L>(pDst, dstStep),
                [&](auto* a, auto* b, auto* d, Index n) { zipRow<L>(a, b, d, n, rule); });
   });
@@ -32,7 +32,7 @@ template <class L, class Op, class C>
 HuxStatus zipComplexC(const C* pSrc, int srcStep, const C* pPixel, C* pDst, int dstStep, HuxiSize roi,
                       int scaleFactor = 0) {
   if (HuxStatus s = check(pointers(pSrc, pPixel, pDst), size(roi), steps(srcStep, dstStep))) return s;
-  withComplexRule<Op, C>(scaleFactor, [&](auto rule) {
+  withComplexRule<Op, C, L>(scaleFactor, [&](auto rule) {
     constexpr int lanes = decltype(rule)::lanes;
     const Constants<L, C, lanes> constants(words(pPixel));
     forEachRow(roi, complexRows<L>(pSrc, srcStep), complexRows<L>(pDst, dstStep), [&](auto* src, auto* dst, Index n) {
@@ -50,7 +50,7 @@ void fillRow(const Scratch<T>& row, Index width, Make make) {
 }
 
 // Copies whole elements, and of layouts with alpha the colours.
-constexpr OnWords<Hux32sc, Same<Hux32s>> kColours{};
+constexpr OnWords<Hux32sc, AC4, Same<Hux32s>> kColours{};
 
 // 32-bit integers divide in double precision, from row to row: a row of results, rounded and scaled to the destination.
 template <class L>
@@ -147,7 +147,7 @@ HuxStatus divideC(const C* pSrc, int srcStep, const C* pPixel, C* pDst, int dstS
     });
     forEachRow(roi, complexRows<L>(row.get(), 0), src, dst, [&](auto* a, auto* b, auto* d, Index n) {
       if constexpr (reciprocals)
-        zipRow<L>(a, b, d, n, onWords<C>(FloatProduct<Hux32f>{}));
+        zipRow<L>(a, b, d, n, onWords<C, L>(FloatProduct<Hux32f>{}));
       else
         divideRow<L, C>(a, b, d, n, scaleFactor);
     });

@@ -26,10 +26,12 @@ auto words(C* p) {
   return elementsAs<WordOfComplex<C>>(p);
 }
 
-// A rule on parts as a rule on words. Layouts with alpha need whole pixels, so it takes no less than four elements.
-template <class C, class Rule>
+// A rule on parts as a rule on words: of four elements at least where a vector holds as many, or where the layout has
+// alpha, for then it needs whole pixels.
+template <class C, class L, class Rule>
 struct OnWords {
-  static constexpr int lanes = std::max(4, Rule::lanes / 2);
+  static constexpr int held = kLaneBytes / int(sizeof(WordOfComplex<C>));
+  static constexpr int lanes = std::max(L::channels == L::processed ? std::min(4, held) : 4, Rule::lanes / 2);
   using V = Lanes<WordOfComplex<C>, lanes>;
   using Parts = std::array<Lanes<Part<C>, Rule::lanes>, 2 * lanes / Rule::lanes>;
   Rule rule;
@@ -42,10 +44,10 @@ struct OnWords {
   }
   HuxStatus status() const { return rule.status(); }
 };
-template <class C, class Rule>
+template <class C, class L = C1, class Rule>
 auto onWords(Rule rule) {
   if constexpr (kWords<C> == 1)
-    return OnWords<C, Rule>{rule};
+    return OnWords<C, L, Rule>{rule};
   else
     return rule;
 }
@@ -212,12 +214,12 @@ struct Zeros {
   }
 };
 
-// Calls run(rule), rule on words, with the rule of an operation AddOp, SubOp or MulOp.
-template <class Op, class C, class Run>
+// Calls run(rule), rule on words, with the rule of an operation AddOp, SubOp or MulOp on pixels of the layout.
+template <class Op, class C, class L = C1, class Run>
 void withComplexRule(int scaleFactor, Run&& run) {
   using T = Part<C>;
   constexpr int bits = int(sizeof(T)) * 8;
-  const auto pass = [&](auto rule) { run(onWords<C>(rule)); };
+  const auto pass = [&](auto rule) { run(onWords<C, L>(rule)); };
   if constexpr (std::is_same_v<Op, MulOp>) {
     if constexpr (std::is_floating_point_v<T>)
       pass(FloatProduct<T>{});
@@ -324,19 +326,19 @@ struct Times16 {
 };
 
 // The rule on words that divides elements by elements.
-template <class C>
+template <class C, class L>
 auto quotientRule(int scaleFactor) {
   if constexpr (std::is_same_v<C, Hux16sc>)
-    return onWords<C>(Quotient16(scaleFactor));
+    return onWords<C, L>(Quotient16(scaleFactor));
   else if constexpr (std::is_same_v<C, Hux32fc>)
-    return onWords<C>(FloatQuotient<Hux32f>(huxConstantOfNAN_32f));
+    return onWords<C, L>(FloatQuotient<Hux32f>(huxConstantOfNAN_32f));
   else
-    return onWords<C>(FloatQuotient<Hux64f>(huxConstantOfNAN_64f));
+    return onWords<C, L>(FloatQuotient<Hux64f>(huxConstantOfNAN_64f));
 }
 
 template <class L, class C, class W>
 HuxStatus divideRow(const Element<W>* divisors, const Element<W>* src, Element<W>* dst, Index n, int scaleFactor) {
-  const auto rule = quotientRule<C>(scaleFactor);
+  const auto rule = quotientRule<C, L>(scaleFactor);
   constexpr int lanes = decltype(rule)::lanes;
   return applyRule<L>(dst, n, rule, Divisors<L, C, lanes>{divisors}, FromRow<W, lanes>{src}).status();
 }
