@@ -76,6 +76,13 @@ bool anyClear(V v, V mask) {
   return any((v & mask) == 0);
 }
 
+// Whether unsigned 32-bit lanes have a lesser and a greater one by one instruction.
+#if defined(__SSE2__) && !defined(__SSE4_1__)
+inline constexpr bool kOrdersUnsigned = false;
+#else
+inline constexpr bool kOrdersUnsigned = true;
+#endif
+
 // Whether some lane is 0; whether some lane is above a limit; whether all lanes are below or above 0, which NaN is not.
 template <class V>
 bool anyZero(V v) {

@@ -140,15 +140,16 @@ class OrderedSums {
       constexpr int phase = k % kPhases;
       const auto inspect = [&](Floats v) HUX_INLINE {
         const Bits magnitude = bitsAs<Bits>(v) & 0x7fffffff;
-        most[phase] = greater(most[phase], magnitude);
+        most[phase] = greaterBits(magnitude, most[phase]);
         if constexpr (ByUnit) {
           // Up to 2^23 units a number that is raised by as much has the unit for its last place; above it has it
           // anyway.
-          const Bits low = lesser(magnitude, limits[phase]);
+          const Bits low = lesserBits(magnitude, limits[phase]);
           const Floats limit = bitsAs<Floats>(limits[phase]);
           inexact[phase] |= bitsAs<Bits>(Floats(addOnMultiplier(bitsAs<Floats>(low), limit) - limit)) ^ low;
         } else {
-          least[phase] = lesser(least[phase], magnitude - 1);  // makes 0 the largest
+          // That makes 0 the largest, or a NaN.
+          least[phase] = lesserBits(kOrdersUnsigned ? magnitude - 1 : (magnitude - 1) & 0x7fffffff, least[phase]);
         }
       };
       const auto add = [&](int half, auto... v)
@@ -159,7 +160,7 @@ class OrderedSums {
     };
     for (Index from = 0; from < elements;) {
       const Index end = std::min(from + kStretch, elements);
-      for (int p = 0; p < kPhases; ++p) inexact[p] = most[p] = Bits{}, least[p] = ~Bits{};
+      for (int p = 0; p < kPhases; ++p) inexact[p] = most[p] = Bits{}, least[p] = splat<Bits>(0x7f800000);
       Index i = from;
       for (; i + kGroup <= end; i += kGroup)
         unrolled<kVectors>([&](auto k) HUX_INLINE {
@@ -173,7 +174,7 @@ class OrderedSums {
               return loadLanes<decltype(v)>(p + rest + at, std::clamp(int(count) - at, 0, lanesIn<decltype(v)>), 0.0f);
             });
         });
-      bool exact = left_ >= end - from;
+      bool exact = left_ >= end - from && (kOrdersUnsigned || areNumbers(sums));
       for (int p = 0; p < kPhases; ++p)
         exact &= !any(ByUnit ? inexact[p] != 0 : least[p] < limits[p] - Bits(Bits(limits[p] != 0) & 1)) &&
                  !any(most[p] > largest_[p]);
@@ -187,6 +188,28 @@ class OrderedSums {
       from = end;
     }
     return elements;
+  }
+
+  // The lesser and the greater of magnitudes, as bits or as the floats that these are: then the first is passed over
+  // where it is a NaN, which shows in the sums.
+  static Bits lesserBits(Bits a, Bits b) {
+    if constexpr (kOrdersUnsigned)
+      return lesser(a, b);
+    else
+      return bitsAs<Bits>(lesser(bitsAs<Floats>(a), bitsAs<Floats>(b)));
+  }
+  static Bits greaterBits(Bits a, Bits b) {
+    if constexpr (kOrdersUnsigned)
+      return greater(a, b);
+    else
+      return bitsAs<Bits>(greater(bitsAs<Floats>(a), bitsAs<Floats>(b)));
+  }
+  // False where a sum that counts is a NaN, and nowhere else as long as all are finite.
+  HUX_INLINE static bool areNumbers(const Doubles (&sums)[kVectors][2]) {
+    Doubles all[2] = {};
+    unrolled<kVectors>([&](auto k) HUX_INLINE { all[0] += sums[k][0], all[1] += sums[k][1]; });
+    if constexpr (L::channels != L::processed) all[1][lanesIn<Doubles> - 1] = 0;
+    return !any((all[0] != all[0]) | (all[1] != all[1]));
   }
 
   // Moves the lanes to the running sums, which is exact.
