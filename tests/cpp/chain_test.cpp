@@ -13,11 +13,19 @@
 namespace {
 
 // Allocations of the tests' own, counted in bytes, of which one can be told to fail. They go past the count of the
-// library's, and are not inlined, where a compiler would see memory of operator new go to free.
+// library's, and are not inlined, where a compiler would see memory of operator new go to free. The thread sanitizer,
+// which brings operators of its own and cannot do without, has none of this: there no number grows and none fails.
 std::atomic<std::int64_t> taken = 0, until_failure = -1;
 
 }  // namespace
 
+#if defined(__has_feature)
+#if __has_feature(thread_sanitizer)
+#define HUX_THREAD_SANITIZER
+#endif
+#endif
+
+#ifndef HUX_THREAD_SANITIZER
 extern "C" {
 void* __real_malloc(std::size_t bytes);
 void __real_free(void* block);
@@ -41,6 +49,7 @@ void __real_free(void* block);
 [[gnu::noinline]] void operator delete[](void* at, std::size_t) noexcept { __real_free(at); }
 [[gnu::noinline]] void operator delete(void* at) noexcept { __real_free(at); }
 [[gnu::noinline]] void operator delete(void* at, std::size_t) noexcept { __real_free(at); }
+#endif
 
 namespace {
 
