@@ -204,8 +204,13 @@ void transposeBlock(const std::byte* src, Index srcStep, std::byte* dst, Index d
     if constexpr (!PastCache)
       if (height >= NarrowSquare<Bytes>::rows) return inStrips(NarrowSquare<Bytes>{});
   }
+  // By way of a copy: where an image's rows lie over each other, so may a pixel and its mirror.
   for (Index x = 0; x < width; ++x)
-    for (Index y = 0; y < height; ++y) std::memcpy(dst + x * dstStep + y * Bytes, src + y * srcStep + x * Bytes, Bytes);
+    for (Index y = 0; y < height; ++y) {
+      std::byte pixel[Bytes];
+      std::memcpy(pixel, src + y * srcStep + x * Bytes, Bytes);
+      std::memcpy(dst + x * dstStep + y * Bytes, pixel, Bytes);
+    }
 }
 
 // Blocks of as many pixels as fill whole lines, on both sides, by way of a copy: rows of an image are often so far
