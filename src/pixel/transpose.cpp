@@ -168,6 +168,41 @@ struct LaneSquare {
   }
 };
 
+// The same without picks of bytes: a word holds the pixel of a row and what lies beside it, and shifts close four of
+// them up to three words.
+template <int Bytes>
+struct WordSquare {
+  static constexpr int columns = 1, rows = 4;
+
+  template <bool Before, bool PastCache>
+  static void move(const std::byte* src, Index srcStep, std::byte* dst, Index) {
+    if constexpr (Bytes == 12) {
+      using W = Lanes<Hux32u, 4>;
+      const auto pixel = [&](int row) {
+        const W w = loadLanes<W>(src + row * srcStep - (Before ? 4 : 0));
+        return Before ? W(__builtin_shufflevector(w, w, 1, 2, 3, 3)) : w;
+      };
+      const W a = pixel(0), b = pixel(1), c = pixel(2), d = pixel(3);
+      storeLanes(dst, W(__builtin_shufflevector(a, b, 0, 1, 2, 4)));
+      storeLanes(dst + 16, W(__builtin_shufflevector(b, c, 1, 2, 4, 5)));
+      storeLanes(dst + 32, W(__builtin_shufflevector(c, d, 2, 4, 5, 6)));
+    } else {
+      using W = std::conditional_t<Bytes == 3, std::uint32_t, std::uint64_t>;
+      constexpr int third = 8 * Bytes / 3;
+      const auto pixel = [&](int row) {
+        W w;
+        std::memcpy(&w, src + row * srcStep - (Before ? int(sizeof w) - Bytes : 0), sizeof w);
+        return Before ? w >> third : w & ((W(1) << 3 * third) - 1);
+      };
+      const W a = pixel(0), b = pixel(1), c = pixel(2), d = pixel(3);
+      const auto put = [&](int k, W w) { std::memcpy(dst + k * int(sizeof w), &w, sizeof w); };
+      put(0, a | (b << 3 * third));
+      put(1, (b >> third) | (c << 2 * third));
+      put(2, (c >> 2 * third) | (d << third));
+    }
+  }
+};
+
 // A source region S::rows high. The last columns may be moved twice, so that all are moved in registers.
 template <int Bytes, class S, bool PastCache>
 void transposeStrip(const std::byte* src, Index srcStep, std::byte* dst, Index dstStep, Index width) {
@@ -185,9 +220,12 @@ constexpr bool kThirds = Bytes % 3 == 0;
 template <int Bytes>
 using WideSquare =
     std::conditional_t<!kThirds<Bytes>, Square<Bytes, simd::Quads>,
-                       std::conditional_t<simd::kBytes == 64, Square<Bytes, simd::Vec, 4>, LaneSquare<Bytes>>>;
+                       std::conditional_t<simd::kBytes == 64, Square<Bytes, simd::Vec, 4>,
+                                          std::conditional_t<simd::kPermutes, LaneSquare<Bytes>, WordSquare<Bytes>>>>;
 template <int Bytes>
-using NarrowSquare = Square<Bytes, std::conditional_t<kThirds<Bytes>, simd::Vec, simd::Quad>>;
+using NarrowSquare =
+    std::conditional_t<simd::kPermutes || !kThirds<Bytes>,
+                       Square<Bytes, std::conditional_t<kThirds<Bytes>, simd::Vec, simd::Quad>>, WordSquare<Bytes>>;
 
 // The source region of `width` by `height` pixels at src, transposed to dst, which lies elsewhere. With PastCache,
 // columns of the destination are vectors and so many.
@@ -199,7 +237,7 @@ void transposeBlock(const std::byte* src, Index srcStep, std::byte* dst, Index d
       transposeStrip<Bytes, S, PastCache>(src + y * srcStep, srcStep, dst + y * Bytes, dstStep, width);
     }
   };
-  if ((simd::kPermutes || !kThirds<Bytes>)&&width * Bytes >= 16) {
+  if (width * Bytes >= 16) {
     if (height >= WideSquare<Bytes>::rows) return inStrips(WideSquare<Bytes>{});
     if constexpr (!PastCache)
       if (height >= NarrowSquare<Bytes>::rows) return inStrips(NarrowSquare<Bytes>{});
@@ -256,7 +294,7 @@ void transposeTiles(Plane<Bytes> src, Plane<Bytes> dst, Index width, Index top, 
       for (Index x = 0; x < width; x += tileWidth)
         body(x, y, std::min(x + tileWidth, width), std::min(y + tileHeight, bottom));
   };
-  if constexpr (simd::kBytes < 64 && (simd::kPermutes || !kThirds<Bytes>)) {
+  if constexpr (simd::kBytes < 64) {
     // The last blocks may lie over those before them.
     constexpr Index side = kLinePixels<Bytes>, tall = PastCache ? kTallPixels<Bytes> : side;
     if (width >= side && bottom - top >= tall)
