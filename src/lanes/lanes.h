@@ -25,6 +25,17 @@ inline Lanes<Hux64f, 8> addOnMultiplier(Lanes<Hux64f, 8> a, Lanes<Hux64f, 8> b) 
 }
 #endif
 
+namespace detail {
+// The limit on a's side in lanes where the sign of `over` is set.
+template <class V>
+V limitedWhere(V over, V a, V value) {
+  using T = LaneType<V>;
+  constexpr int sign = 8 * int(sizeof(T)) - 1;
+  const V limit = (a >> sign) ^ std::numeric_limits<T>::max();
+  return over >> sign ? limit : value;
+}
+}  // namespace detail
+
 // a + b and a - b limited to the range of the lanes' own type, without leaving it.
 template <class V>
 V addSaturated(V a, V b) {
@@ -35,8 +46,7 @@ V addSaturated(V a, V b) {
   } else {
     using U = Lanes<std::make_unsigned_t<T>, lanesIn<V>>;
     const V sum = V(U(a) + U(b));
-    const V limit = (a < 0 ? splat<V>(std::numeric_limits<T>::min()) : splat<V>(std::numeric_limits<T>::max()));
-    return (~(a ^ b) & (a ^ sum)) < 0 ? limit : sum;
+    return detail::limitedWhere((a ^ sum) & (b ^ sum), a, sum);
   }
 }
 template <class V>
@@ -47,8 +57,7 @@ V subSaturated(V a, V b) {
   } else {
     using U = Lanes<std::make_unsigned_t<T>, lanesIn<V>>;
     const V difference = V(U(a) - U(b));
-    const V limit = (a < 0 ? splat<V>(std::numeric_limits<T>::min()) : splat<V>(std::numeric_limits<T>::max()));
-    return ((a ^ b) & (a ^ difference)) < 0 ? limit : difference;
+    return detail::limitedWhere((a ^ b) & (a ^ difference), a, difference);
   }
 }
 
